@@ -1,0 +1,249 @@
+#include "app/AppDelegate.h"
+
+#include "app/AppLog.h"
+#include "store/Clock.h"
+#include "store/PropertyList.h"
+#include "store/Settings.h"
+#include "store/UserInterface.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+Q_LOGGING_CATEGORY(lcApp, "vorn.app")
+
+namespace vorn {
+
+namespace {
+
+const QString errorDomain = QStringLiteral("YOUR_ERROR_DOMAIN");
+
+} // namespace
+
+AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clock, FileLocations locations,
+                         QObject* parent)
+    : QObject(parent), m_state(settings, ui, clock, std::move(locations))
+{
+}
+
+AppDelegate::~AppDelegate()
+{
+    m_state.setContext(nullptr);
+}
+
+const ObjectModel* AppDelegate::managedObjectModel()
+{
+    // The model is compiled into the program, so it is always there.
+    m_modelLoaded = true;
+    return &ObjectModel::vorn();
+}
+
+SqliteStore* AppDelegate::persistentStoreCoordinator()
+{
+    if (m_coordinatorBuilt)
+        return m_context ? m_context->store() : m_coordinator.get();
+    m_coordinatorBuilt = true;
+
+    const ObjectModel* model = managedObjectModel();
+    if (!model) {
+        qCWarning(lcApp).noquote() << QStringLiteral("%1:%2 No model to generate a store from")
+                                          .arg(QLatin1String(metaObject()->className()),
+                                               QLatin1String("persistentStoreCoordinator"));
+        return nullptr;
+    }
+
+    const QString directory = applicationFilesDirectory();
+    const QFileInfo info(directory);
+    if (info.exists() && !info.isDir()) {
+        ui().presentError(Error{errorDomain, ErrorCode::NotAFolder,
+                                tr("Expected a folder to store application data, found a file (%1).").arg(directory),
+                                {}});
+        return nullptr;
+    }
+    if (!info.exists() && !QDir().mkpath(directory)) {
+        ui().presentError(Error::make(ErrorCode::FileWriteNoPermission,
+                                      tr("The folder “%1” could not be created.").arg(directory),
+                                      tr("You don't have permission to create it.")));
+        return nullptr;
+    }
+
+    m_state.storeURL = m_state.locations().storeFile();
+    auto store = SqliteStore::open(m_state.storeURL, *model);
+    if (!store) {
+        ui().presentError(store.error());
+        return nullptr;
+    }
+    m_coordinator = std::move(store.value());
+    return m_coordinator.get();
+}
+
+ObjectContext* AppDelegate::managedObjectContext()
+{
+    if (m_contextBuilt)
+        return m_context.get();
+    m_contextBuilt = true;
+    if (!persistentStoreCoordinator()) {
+        ui().presentError(Error{errorDomain, ErrorCode::StoreInitFailed, tr("Failed to initialize the store"),
+                                tr("There was an error building up the data file.")});
+        return nullptr;
+    }
+    m_context = std::make_unique<ObjectContext>(std::move(m_coordinator), m_state.clock(), *managedObjectModel());
+    m_state.setContext(m_context.get());
+    return m_context.get();
+}
+
+void AppDelegate::awakeFromNib()
+{
+    createBackupPath();
+    m_state.isReminderButtonHidden = true;
+    if (!settings().boolValue(QStringLiteral("firstCenter"))) {
+        ui().centerMainWindow();
+        settings().setValue(QStringLiteral("firstCenter"), true);
+    }
+    managedObjectContext();
+    m_state.pdfPath = m_state.locations().scratchPdf();
+    m_state.notifyStateChanged();
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    // First start: seed the designs and write the English settings. Not with
+    // an unreadable settings file (which would seed a second time) nor without
+    // a store (there would be nothing to seed into).
+    if (!settings().boolValue(QStringLiteral("firstStartEverDone")) && !settings().isReadOnly() && m_context) {
+        loadTemplates();
+        loadDefaults();
+        settings().setValue(QStringLiteral("firstStartEverDone"), true);
+        if (Status s = settings().synchronize(); !s)
+            ui().presentError(s.error());
+    }
+    ui().showPreferencesWindow();
+    Q_EMIT storeLoaded();
+}
+
+void AppDelegate::loadTemplates()
+{
+    if (m_loadTemplates && m_context)
+        m_loadTemplates();
+}
+
+QString AppDelegate::defaultListName(int language)
+{
+    switch (language) {
+    case 1:
+        return QStringLiteral("defaultPrefsGerman");
+    case 2:
+        return QStringLiteral("defaultPrefsFrench");
+    case 3:
+        return QStringLiteral("defaultPrefsSpanish");
+    default:
+        return QStringLiteral("defaultPrefsEnglish");
+    }
+}
+
+Result<QVariantMap> AppDelegate::defaultList(const QString& name)
+{
+    QFile file(QStringLiteral(":/defaults/%1.plist").arg(name));
+    if (!file.open(QIODevice::ReadOnly))
+        return Error::make(ErrorCode::FileNotFound, tr("The default settings “%1” are missing.").arg(name));
+    auto list = PropertyList::read(file.readAll());
+    if (!list || list.value().typeId() != QMetaType::QVariantMap)
+        return Error::make(ErrorCode::FileReadUnknown, tr("The default settings “%1” are damaged.").arg(name));
+    return list.value().toMap();
+}
+
+void AppDelegate::loadDefaults()
+{
+    if (Status s = loadDefaults(0); !s)
+        ui().presentError(s.error());
+}
+
+Status AppDelegate::loadDefaults(int language)
+{
+    auto list = defaultList(defaultListName(language));
+    if (!list)
+        return list.error();
+    settings().setValuesForKeys(list.value());
+    return settings().synchronize();
+}
+
+void AppDelegate::createBackupPath()
+{
+    m_state.backupPath = m_state.locations().documentsDirectory + QStringLiteral("/Vorn_Backup.vndb");
+}
+
+void AppDelegate::fadeViewIn()
+{
+    const bool any = m_state.invoicesController().count() > 0;
+    ui().selectToolbarItem(any ? QStringLiteral("infoItem") : QStringLiteral("addressItem"));
+}
+
+void AppDelegate::saveAction()
+{
+    if (!m_context)
+        return;
+    if (!m_context->commitEditing())
+        qCWarning(lcApp).noquote() << QStringLiteral("%1:%2 unable to commit editing before saving")
+                                          .arg(QLatin1String(metaObject()->className()), QLatin1String("saveAction:"));
+    if (Status s = m_context->save(); !s)
+        ui().presentError(s.error());
+}
+
+AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
+{
+    Settings& s = settings();
+    const QList<ManagedObject*> documents = m_context ? m_context->fetch(Entity::Invoice) : QList<ManagedObject*>();
+    s.setValue(QStringLiteral("fetchedObjectsCount"), qint64(documents.size()));
+
+    auto finish = [&](bool fine) {
+        s.setValue(QStringLiteral("isTerminatedFine"), fine);
+        if (Status sync = s.synchronize(); !sync)
+            qCWarning(lcApp) << sync.error().fullText();
+        return fine ? TerminateReply::Now : TerminateReply::Cancel;
+    };
+
+    if (!m_context)
+        return finish(true);
+    if (!m_context->commitEditing()) {
+        qCWarning(lcApp).noquote() << QStringLiteral("%1:%2 unable to commit editing to terminate")
+                                          .arg(QLatin1String(metaObject()->className()),
+                                               QLatin1String("applicationShouldTerminate:"));
+        s.setValue(QStringLiteral("isTerminatedFine"), false);
+        if (Status sync = s.synchronize(); !sync)
+            qCWarning(lcApp) << sync.error().fullText();
+        return TerminateReply::Cancel;
+    }
+    if (!m_context->hasChanges())
+        return finish(true);
+    Status saved = m_context->save();
+    if (saved)
+        return finish(true);
+    if (ui().presentError(saved.error())) {
+        s.setValue(QStringLiteral("isTerminatedFine"), false);
+        if (Status sync = s.synchronize(); !sync)
+            qCWarning(lcApp) << sync.error().fullText();
+        return TerminateReply::Cancel;
+    }
+    // Both buttons quit: the answer is compared with a return code this
+    // alert never gives.
+    ui().runAlert({tr("Could not save changes while quitting. Quit anyway?"),
+                   tr("Quitting now will lose any changes you have made since the last successful save"),
+                   {tr("Quit anyway"), tr("Cancel")},
+                   UserInterface::AlertStyle::Warning,
+                   false});
+    return finish(true);
+}
+
+bool AppDelegate::applicationOpenFile(const QString& path)
+{
+    Q_UNUSED(path);
+    ui().runAlert({tr("Vorn, Vorn Documents, and the Vorn Database"),
+                   tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - please use "
+                      "the 'File Menu' to open documents and to restore the Vorn database."),
+                   {tr("OK")},
+                   UserInterface::AlertStyle::Informational,
+                   false});
+    return true;
+}
+
+} // namespace vorn

@@ -1,0 +1,35 @@
+#include "store/AppState.h"
+
+#include "store/ObjectContext.h"
+
+namespace vorn {
+
+AppState::AppState(Settings& settings, UserInterface& ui, const Clock& clock, FileLocations locations, QObject* parent)
+    : QObject(parent), m_settings(settings), m_ui(ui), m_clock(clock), m_locations(std::move(locations))
+{
+    // The document list: newest date first; among equal dates the document
+    // created last comes first.
+    m_invoices.setSortDescriptors({{QStringLiteral("date"), false}, {SortDescriptor::storeOrder(), false}});
+    m_invoices.setSelectsInsertedObjects(true);
+    connect(&m_invoices, &ArrayController::selectionChanged, this, &AppState::currentInvoiceChanged);
+    m_designs.setSortDescriptors({{QStringLiteral("isDefault"), false}});
+}
+
+void AppState::setContext(ObjectContext* context)
+{
+    m_context = context;
+    m_invoices.setEntity(context, Entity::Invoice);
+    m_addresses.setEntity(context, Entity::Address);
+    m_recentItems.setEntity(context, Entity::RecentItem);
+    m_recentShipping.setEntity(context, Entity::RecentShipping);
+    m_designs.setEntity(context, Entity::Design);
+    Q_EMIT contextChanged();
+}
+
+bool AppState::isCurrentInvoiceSent() const
+{
+    const ManagedObject* invoice = currentInvoice();
+    return invoice && invoice->intValue(QStringLiteral("status")) >= 1;
+}
+
+} // namespace vorn

@@ -1,0 +1,11 @@
+#include "store/Clock.h"
+
+namespace vorn {
+
+const Clock& Clock::system()
+{
+    static const Clock clock;
+    return clock;
+}
+
+} // namespace vorn
