@@ -10,7 +10,7 @@
 #include <QFile>
 #include <QFileInfo>
 
-Q_LOGGING_CATEGORY(lcApp, "vorn.app")
+Q_LOGGING_CATEGORY(lcApp, "vorn.app", QtInfoMsg)
 
 namespace vorn {
 

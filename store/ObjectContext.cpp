@@ -5,7 +5,7 @@
 
 #include <algorithm>
 
-Q_LOGGING_CATEGORY(lcStore, "vorn.store")
+Q_LOGGING_CATEGORY(lcStore, "vorn.store", QtInfoMsg)
 
 namespace vorn {
 

@@ -1,0 +1,58 @@
+#pragma once
+
+#include "store/UserInterface.h"
+
+#include <QList>
+#include <QQueue>
+#include <QString>
+#include <QStringList>
+
+namespace vorn::test {
+
+// A user who answers from a script: every alert, panel and error is recorded,
+// and answers come from queues (the first button, a cancelled panel and "not
+// recovered" when the queue is empty).
+class ScriptedUserInterface : public UserInterface
+{
+public:
+    struct Call
+    {
+        QString kind;   // "alert", "open", "save", "error", "beep", "center", "toolbar", "focus", "preferences", "url", "application"
+        QString title;  // alert title, panel title, error message, toolbar item ...
+        QString text;   // alert text, error reason
+        QStringList buttons;
+        int code = 0;   // error code
+    };
+
+    int runAlert(const Alert& alert) override;
+    std::optional<QString> runOpenPanel(const FilePanel& panel) override;
+    std::optional<QString> runSavePanel(const FilePanel& panel) override;
+    bool presentError(const Error& error) override;
+    void beep() override { m_calls.append({QStringLiteral("beep"), {}, {}, {}, 0}); }
+    void centerMainWindow() override { m_calls.append({QStringLiteral("center"), {}, {}, {}, 0}); }
+    void selectToolbarItem(const QString& id) override { m_calls.append({QStringLiteral("toolbar"), id, {}, {}, 0}); }
+    void focus(const QString& target) override { m_calls.append({QStringLiteral("focus"), target, {}, {}, 0}); }
+    void showPreferencesWindow() override { m_calls.append({QStringLiteral("preferences"), {}, {}, {}, 0}); }
+    bool openUrl(const QUrl& url) override;
+    bool openApplication(const QString& identifier) override;
+
+    // Scripting.
+    void answerAlert(int button) { m_alertAnswers.enqueue(button); }
+    void answerPanel(std::optional<QString> path) { m_panelAnswers.enqueue(std::move(path)); }
+    void answerErrorRecovered(bool recovered) { m_errorAnswers.enqueue(recovered); }
+
+    const QList<Call>& calls() const { return m_calls; }
+    QList<Call> calls(const QString& kind) const;
+    // Alert titles (or texts when asked) in order.
+    QStringList alertTitles() const;
+    QList<int> errorCodes() const;
+    void clear() { m_calls.clear(); }
+
+private:
+    QList<Call> m_calls;
+    QQueue<int> m_alertAnswers;
+    QQueue<std::optional<QString>> m_panelAnswers;
+    QQueue<bool> m_errorAnswers;
+};
+
+} // namespace vorn::test
