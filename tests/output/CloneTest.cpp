@@ -1,0 +1,163 @@
+#include "output/Clone.h"
+
+#include "store/Clock.h"
+#include "store/ObjectContext.h"
+
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+using namespace vorn;
+
+namespace {
+
+class CloneTest : public ::testing::Test
+{
+protected:
+    FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(10, 0), QTimeZone::utc())};
+    ObjectContext source{nullptr, clock};
+    ObjectContext target{nullptr, clock};
+
+    ManagedObject* document(int itemCount)
+    {
+        ManagedObject* invoice = source.insertNewObject(Entity::Invoice);
+        invoice->setValue(QStringLiteral("number"), QStringLiteral("RE-2026-007"));
+        invoice->setValue(QStringLiteral("amount"), 34.65f);
+        invoice->setValue(QStringLiteral("kind"), 1);
+        invoice->setValue(QStringLiteral("date"), QDateTime(QDate(2026, 2, 14), QTime(9, 30), QTimeZone::utc()));
+        invoice->setValue(QStringLiteral("misc1"), QVariant()); // absent must stay absent
+        for (int i = 0; i < itemCount; ++i) {
+            ManagedObject* item = source.insertNewObject(Entity::Item);
+            item->setValue(QStringLiteral("title"), QStringLiteral("Line %1").arg(i));
+            item->setValue(QStringLiteral("unitCount"), float(i) + 0.5f);
+            invoice->insertObject(QStringLiteral("items"), item);
+        }
+        return invoice;
+    }
+};
+
+QStringList titles(const QList<ManagedObject*>& items)
+{
+    QStringList result;
+    for (const ManagedObject* item : items)
+        result << item->stringValue(QStringLiteral("title"));
+    return result;
+}
+
+} // namespace
+
+TEST_F(CloneTest, DocumentWithItemsIsCopiedIntoTheTargetInOrder)
+{
+    ManagedObject* original = document(3);
+    ManagedObject* copy = cloneInContext(*original, target, {});
+    ASSERT_NE(copy, nullptr);
+    EXPECT_EQ(copy->context(), &target);
+    for (const AttributeDescription& a : original->entity().attributes()) {
+        EXPECT_EQ(copy->value(a.name), original->value(a.name)) << a.name.toStdString();
+        EXPECT_EQ(copy->hasValue(a.name), original->hasValue(a.name)) << a.name.toStdString();
+    }
+    EXPECT_EQ(titles(copy->items()), (QStringList{"Line 0", "Line 1", "Line 2"}));
+    for (ManagedObject* item : copy->items()) {
+        EXPECT_EQ(item->context(), &target);
+        EXPECT_EQ(item->object(QStringLiteral("invoice")), copy);
+    }
+    // The source graph is left alone.
+    EXPECT_EQ(original->items().size(), 3);
+    EXPECT_EQ(original->items().first()->object(QStringLiteral("invoice")), original);
+    EXPECT_EQ(target.fetch(Entity::Item).size(), 3);
+    EXPECT_EQ(target.fetch(Entity::Invoice).size(), 1);
+}
+
+namespace {
+
+struct ExclusionCase
+{
+    const char* name;
+    QStringList entities;
+    QStringList attributes;
+    bool cloneExpected;
+    int itemsExpected;
+    bool sameUniqueId;
+    bool sameNumber;
+};
+
+class CloneExclusionTest : public CloneTest, public ::testing::WithParamInterface<ExclusionCase>
+{};
+
+} // namespace
+
+TEST_P(CloneExclusionTest, ExcludedEntitiesAndAttributes)
+{
+    const ExclusionCase& c = GetParam();
+    ManagedObject* original = document(2);
+    ManagedObject* copy = cloneInContext(*original, target, c.entities, c.attributes);
+    ASSERT_EQ(copy != nullptr, c.cloneExpected);
+    if (!copy) {
+        EXPECT_TRUE(target.fetch(Entity::Invoice).isEmpty());
+        EXPECT_TRUE(target.fetch(Entity::Item).isEmpty());
+        return;
+    }
+    EXPECT_EQ(copy->items().size(), c.itemsExpected);
+    EXPECT_EQ(target.fetch(Entity::Item).size(), c.itemsExpected);
+    EXPECT_EQ(copy->stringValue(QStringLiteral("uniqueID")) == original->stringValue(QStringLiteral("uniqueID")),
+              c.sameUniqueId);
+    // An excluded attribute keeps what insertion gave it: a fresh identity, no number.
+    EXPECT_FALSE(copy->stringValue(QStringLiteral("uniqueID")).isEmpty());
+    EXPECT_EQ(copy->hasValue(QStringLiteral("number")), c.sameNumber);
+    for (ManagedObject* item : copy->items())
+        EXPECT_EQ(item->stringValue(QStringLiteral("uniqueID")) ==
+                      original->items()[copy->items().indexOf(item)]->stringValue(QStringLiteral("uniqueID")),
+                  c.sameUniqueId);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, CloneExclusionTest,
+    ::testing::Values(ExclusionCase{"nothing", {}, {}, true, 2, true, true},
+                      ExclusionCase{"items", {"Item"}, {}, true, 0, true, true},
+                      ExclusionCase{"root", {"Invoice"}, {}, false, 0, false, false},
+                      ExclusionCase{"identity", {}, {"uniqueID"}, true, 2, false, true},
+                      ExclusionCase{"identityAndNumber", {"Design"}, {"uniqueID", "number"}, true, 2, false, false}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(CloneTest, ItemReachesItsDocumentAndIsCopiedOnlyOnce)
+{
+    ManagedObject* original = document(3);
+    ManagedObject* middle = original->items()[1];
+    ManagedObject* itemCopy = cloneInContext(*middle, target, {});
+    ASSERT_NE(itemCopy, nullptr);
+    ManagedObject* documentCopy = itemCopy->object(QStringLiteral("invoice"));
+    ASSERT_NE(documentCopy, nullptr);
+    EXPECT_EQ(titles(documentCopy->items()), (QStringList{"Line 0", "Line 1", "Line 2"}));
+    EXPECT_EQ(documentCopy->items()[1], itemCopy);
+    EXPECT_EQ(target.fetch(Entity::Item).size(), 3);
+    EXPECT_EQ(target.fetch(Entity::Invoice).size(), 1);
+}
+
+TEST_F(CloneTest, SharedCacheCopiesEachObjectOnce)
+{
+    ManagedObject* original = document(2);
+    QHash<const ManagedObject*, ManagedObject*> cache;
+    ManagedObject* first = cloneInContext(*original, target, cache, {});
+    ManagedObject* second = cloneInContext(*original, target, cache, {});
+    ManagedObject* item = cloneInContext(*original->items()[0], target, cache, {});
+    EXPECT_EQ(first, second);
+    EXPECT_EQ(item, first->items()[0]);
+    EXPECT_EQ(cache.size(), 3);
+    EXPECT_EQ(target.fetch(Entity::Item).size(), 2);
+}
+
+TEST_F(CloneTest, CopyWithinTheSameContextIsUndoneAsOneStep)
+{
+    ManagedObject* original = document(2);
+    ASSERT_TRUE(source.save());
+    {
+        UndoGroup group(source.undoManager(), QStringLiteral("Duplicate"));
+        ASSERT_NE(cloneInContext(*original, source, {}), nullptr);
+    }
+    EXPECT_EQ(source.fetch(Entity::Invoice).size(), 2);
+    source.undoManager()->undo();
+    EXPECT_EQ(source.fetch(Entity::Invoice).size(), 1);
+    EXPECT_EQ(source.fetch(Entity::Item).size(), 2);
+}
