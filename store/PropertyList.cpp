@@ -5,6 +5,8 @@
 
 #include <plist/plist.h>
 
+#include <algorithm>
+#include <limits>
 #include <memory>
 #include <vector>
 
@@ -52,8 +54,11 @@ int xmlDepth(const QByteArray& data)
 // Binary property lists: each container holds object references, and a
 // reference to an object that is still being decoded is a cycle. The walk
 // uses an explicit stack, so neither depth nor cycles can overflow ours, and
-// it refuses what libplist's recursive reader could not survive.
-bool binaryIsSafe(const QByteArray& data, int maxDepth)
+// it refuses what libplist's recursive reader could not survive. Objects
+// referenced from several places are copied by the reader each time, so the
+// size of the tree as it will be built is counted too: a few hundred bytes of
+// shared references can otherwise describe billions of nodes.
+bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
 {
     const auto* d = reinterpret_cast<const unsigned char*>(data.constData());
     const qsizetype size = data.size();
@@ -79,6 +84,8 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth)
 
     // 0 = unvisited, 1 = on the current path, 2 = done.
     std::vector<unsigned char> state(size_t(count), 0);
+    // Nodes of the built tree under each finished object, capped past the limit.
+    std::vector<quint64> nodes(size_t(count), 0);
     struct Frame
     {
         quint64 object;
@@ -124,6 +131,12 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth)
     while (!stack.empty()) {
         Frame& frame = stack.back();
         if (frame.next == frame.refs.size()) {
+            quint64 total = 1;
+            for (quint64 r : frame.refs)
+                total = std::min(total + nodes[size_t(r)], maxNodes + 1);
+            if (total > maxNodes)
+                return false;
+            nodes[size_t(frame.object)] = total;
             state[size_t(frame.object)] = 2;
             stack.pop_back();
             continue;
@@ -242,6 +255,13 @@ plist_t fromVariant(const QVariant& v)
             rest += 1000;
             --sec;
         }
+        // libplist keeps whole seconds in 32 bits (1933 to 2069 around the
+        // 2001 epoch); a date beyond that is pinned to the nearest end
+        // rather than wrapped into another century.
+        if (sec > std::numeric_limits<int32_t>::max() || sec < std::numeric_limits<int32_t>::min()) {
+            sec = std::clamp<qint64>(sec, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max());
+            rest = 0;
+        }
         return plist_new_date(int32_t(sec), int32_t(rest * 1000));
     }
     case QMetaType::QVariantList:
@@ -275,7 +295,7 @@ Result<QVariant> PropertyList::read(const QByteArray& data)
     if (data.size() > maximumSize)
         return Error::make(ErrorCode::FileReadUnknown, tr("The file is too large to be a Vorn file."));
     const bool binary = data.startsWith("bplist00");
-    if (binary ? !binaryIsSafe(data, maximumDepth) : xmlDepth(data) > maximumDepth)
+    if (binary ? !binaryIsSafe(data, maximumDepth, maximumNodes) : xmlDepth(data) > maximumDepth)
         return Error::make(ErrorCode::FileReadUnknown, tr("The file is damaged or not a property list."));
     plist_t root = nullptr;
     if (binary)

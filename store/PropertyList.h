@@ -26,6 +26,9 @@ public:
     // Limits applied before any parsing: files from outside may be hostile.
     static constexpr qsizetype maximumSize = 64 * 1024 * 1024;
     static constexpr int maximumDepth = 512;
+    // Values in the tree a binary list unfolds into (shared objects count
+    // once per place they appear).
+    static constexpr quint64 maximumNodes = 2 * 1024 * 1024;
 
     // Reads an XML or a binary property list.
     static Result<QVariant> read(const QByteArray& data);
