@@ -4,10 +4,27 @@
 #include "store/StoreLog.h"
 
 #include <algorithm>
+#include <bit>
+#include <cstdint>
 
 Q_LOGGING_CATEGORY(lcStore, "vorn.store", QtInfoMsg)
 
 namespace vorn {
+
+namespace {
+
+// Floats are the same value only when their bits are: -0 is not 0 (it shows
+// as "-0.00"), and a NaN written twice is no change.
+bool sameValue(const QVariant& a, const QVariant& b)
+{
+    if (a.isValid() != b.isValid())
+        return false;
+    if (a.typeId() == QMetaType::Float && b.typeId() == QMetaType::Float)
+        return std::bit_cast<std::uint32_t>(a.toFloat()) == std::bit_cast<std::uint32_t>(b.toFloat());
+    return a == b;
+}
+
+} // namespace
 
 ObjectContext::ObjectContext(std::unique_ptr<SqliteStore> store, const Clock& clock, const ObjectModel& model,
                              QObject* parent)
@@ -110,14 +127,14 @@ void ObjectContext::undelete(ManagedObject* object)
 void ObjectContext::changeValue(ManagedObject* object, int index, QVariant value)
 {
     QVariant& slot = object->m_values[size_t(index)];
-    if (slot == value && slot.isValid() == value.isValid())
+    if (sameValue(slot, value))
         return;
     QVariant old = slot;
     if (object->m_state == ManagedObject::State::Saved || object->m_state == ManagedObject::State::Deleted) {
         auto it = object->m_original.find(index);
         if (it == object->m_original.end())
             object->m_original.insert(index, old);
-        else if (*it == value && it->isValid() == value.isValid())
+        else if (sameValue(*it, value))
             object->m_original.erase(it);
     }
     slot = std::move(value);

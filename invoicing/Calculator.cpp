@@ -1,0 +1,277 @@
+#include "invoicing/Calculator.h"
+
+#include "invoicing/InvoicingLog.h"
+#include "invoicing/Keys.h"
+#include "store/AppState.h"
+#include "store/Clock.h"
+#include "store/ManagedObject.h"
+#include "store/Settings.h"
+
+namespace vorn {
+
+namespace {
+
+float floatAt(const ManagedObject& o, int index)
+{
+    return o.value(index).toFloat();
+}
+
+bool boolAt(const ManagedObject& o, int index)
+{
+    return o.value(index).toBool();
+}
+
+qint64 intAt(const ManagedObject& o, int index)
+{
+    return o.value(index).toLongLong();
+}
+
+void setFloat(ManagedObject& o, int index, float value)
+{
+    o.setValue(index, QVariant(value));
+}
+
+void setInt(ManagedObject& o, int index, qint64 value)
+{
+    o.setValue(index, QVariant(value));
+}
+
+} // namespace
+
+Calculator::Calculator(AppState& state, QObject* parent) : QObject(parent), m_state(state) {}
+
+const Calculator::InvoiceKeys& Calculator::invoiceKeys(const EntityDescription& e)
+{
+    if (m_invoiceEntity != &e) {
+        m_invoiceEntity = &e;
+        auto i = [&e](const QString& k) { return e.attributeIndex(k); };
+        m_invoiceKeys = {i(key::kind),
+                         i(key::status),
+                         i(key::due),
+                         i(key::paid),
+                         i(key::isPaid),
+                         i(key::amount),
+                         i(key::subAmount),
+                         i(key::paidAmount),
+                         i(key::dueAmount),
+                         i(key::tax1Amount),
+                         i(key::tax2Amount),
+                         i(key::tax3Amount),
+                         i(key::tax1Percent),
+                         i(key::tax2Percent),
+                         i(key::tax3Percent),
+                         i(key::isShippingEnabled),
+                         i(key::shippingAmount),
+                         i(key::isShippingTax1Enabled),
+                         i(key::isShippingTax2Enabled),
+                         i(key::isShippingTax3Enabled),
+                         i(key::isDiscountEnabled),
+                         i(key::discountKind),
+                         i(key::discountPercent),
+                         i(key::discountAmount)};
+    }
+    return m_invoiceKeys;
+}
+
+const Calculator::ItemKeys& Calculator::itemKeys(const EntityDescription& e)
+{
+    if (m_itemEntity != &e) {
+        m_itemEntity = &e;
+        auto i = [&e](const QString& k) { return e.attributeIndex(k); };
+        m_itemKeys = {i(key::tax1Percent),   i(key::tax2Percent),    i(key::tax3Percent),    i(key::baseAmount),
+                      i(key::unitCount),     i(key::subAmount),      i(key::amount),         i(key::isTax1Applied),
+                      i(key::isTax2Applied), i(key::isTax3Applied),  i(key::isTax2Compound), i(key::isTax3Compound),
+                      i(key::tax1Amount),    i(key::tax2Amount),     i(key::tax3Amount)};
+    }
+    return m_itemKeys;
+}
+
+void Calculator::calculateInvoice(ManagedObject* invoice)
+{
+    calculateInvoiceAmounts(invoice);
+    calculateDatabase();
+}
+
+void Calculator::calculateInvoiceAmounts(ManagedObject* invoice)
+{
+    if (!invoice || invoice->entityName() != Entity::Invoice)
+        return;
+    const InvoiceKeys& d = invoiceKeys(invoice->entity());
+
+    float S = 0.0f, T1 = 0.0f, T2 = 0.0f, T3 = 0.0f;
+    for (ManagedObject* item : invoice->items()) {
+        const ItemKeys& k = itemKeys(item->entity());
+        const float p1 = floatAt(*item, k.tax1Percent);
+        const float p2 = floatAt(*item, k.tax2Percent);
+        const float p3 = floatAt(*item, k.tax3Percent);
+        const float b = floatAt(*item, k.baseAmount);
+        const float n = floatAt(*item, k.unitCount);
+        float t1 = 0.0f, t2 = 0.0f, t3 = 0.0f;
+
+        const float net = b * n;
+        setFloat(*item, k.subAmount, net);
+        S = S + net;
+
+        if (boolAt(*item, k.isTax1Applied)) {
+            t1 = net * p1;
+            setFloat(*item, k.tax1Amount, t1);
+            T1 = T1 + t1;
+        }
+        // The compound forms always build on the item's own earlier rates,
+        // whether or not those taxes are charged on the item.
+        if (boolAt(*item, k.isTax2Applied)) {
+            if (boolAt(*item, k.isTax2Compound))
+                t2 = (net + net * p1) * p2;
+            else
+                t2 = net * p2;
+            setFloat(*item, k.tax2Amount, t2);
+            T2 = T2 + t2;
+        }
+        if (boolAt(*item, k.isTax3Applied)) {
+            if (boolAt(*item, k.isTax3Compound)) {
+                const float x = net + net * p1;
+                const float y = x + x * p2;
+                t3 = y * p3;
+            } else {
+                t3 = net * p3;
+            }
+            setFloat(*item, k.tax3Amount, t3);
+            T3 = T3 + t3;
+        }
+        setFloat(*item, k.amount, net + t1 + t2 + t3);
+    }
+
+    // Shipping is taxed at the document's rates and compounds by the
+    // settings, not by the items' own compound flags.
+    float SH = 0.0f;
+    if (boolAt(*invoice, d.isShippingEnabled)) {
+        SH = floatAt(*invoice, d.shippingAmount);
+        const bool tax1 = boolAt(*invoice, d.isShippingTax1Enabled);
+        const bool tax2 = boolAt(*invoice, d.isShippingTax2Enabled);
+        const bool tax3 = boolAt(*invoice, d.isShippingTax3Enabled);
+        if (tax1 || tax2 || tax3) {
+            const float q1 = floatAt(*invoice, d.tax1Percent);
+            const float q2 = floatAt(*invoice, d.tax2Percent);
+            const float q3 = floatAt(*invoice, d.tax3Percent);
+            if (tax1)
+                T1 = T1 + SH * q1;
+            if (tax2) {
+                if (m_state.settings().boolValue(key::tax2IsCompound))
+                    T2 = T2 + (SH + SH * q1) * q2;
+                else
+                    T2 = T2 + SH * q2;
+            }
+            if (tax3) {
+                if (m_state.settings().boolValue(key::tax3IsCompound)) {
+                    const float x = SH + SH * q1;
+                    const float y = x + x * q2;
+                    T3 = T3 + y * q3;
+                } else {
+                    T3 = T3 + SH * q3;
+                }
+            }
+        }
+    }
+
+    // The discount comes off the gross total; taxes keep their full amounts
+    // and the total may go below zero.
+    float total = S + T1 + T2 + T3 + SH;
+    if (boolAt(*invoice, d.isDiscountEnabled)) {
+        if (intAt(*invoice, d.discountKind) != 0)
+            total = total - total * floatAt(*invoice, d.discountPercent);
+        else
+            total = total - floatAt(*invoice, d.discountAmount);
+    }
+
+    setFloat(*invoice, d.amount, total);
+    setFloat(*invoice, d.subAmount, S);
+    setFloat(*invoice, d.tax1Amount, T1);
+    setFloat(*invoice, d.tax2Amount, T2);
+    setFloat(*invoice, d.tax3Amount, T3);
+}
+
+void Calculator::calculateItem(const ManagedObject* item)
+{
+    qCInfo(lcInvoicing).noquote() << QStringLiteral("item: %1")
+                                          .arg(item ? item->stringValue(key::uniqueID) : QStringLiteral("(null)"));
+}
+
+void Calculator::calculateDatabase()
+{
+    float totalAmount = 0.0f, paidAmount = 0.0f, dueAmount = 0.0f;
+    quint64 invoiceCount = 0, invoiceCountForNumber = 0, quoteCount = 0;
+
+    const QList<ManagedObject*>& documents = m_state.invoicesController().arrangedObjects();
+    const QDateTime now = m_state.clock().now();
+    const qint64 nowMs = now.toMSecsSinceEpoch();
+    for (ManagedObject* doc : documents) {
+        const InvoiceKeys& d = invoiceKeys(doc->entity());
+        if (intAt(*doc, d.kind) != 1) {
+            ++quoteCount;
+            continue;
+        }
+        ++invoiceCountForNumber;
+        qint64 status = intAt(*doc, d.status);
+        if (status <= 0)
+            continue;
+
+        if (status < 3) {
+            // An invoice without a due date is never overdue.
+            const QVariant due = doc->value(d.due);
+            const bool overdue = due.isValid() && nowMs > due.toDateTime().toMSecsSinceEpoch();
+            if (overdue) {
+                status = 2;
+                setInt(*doc, d.status, 2);
+                setFloat(*doc, d.dueAmount, floatAt(*doc, d.amount));
+            } else {
+                status = 1;
+                setInt(*doc, d.status, 1);
+                setFloat(*doc, d.dueAmount, 0.0f);
+            }
+        }
+        if (status >= 3 && !boolAt(*doc, d.isPaid)) {
+            // The payment date is stamped once, at the first run that sees
+            // the invoice paid or partly paid.
+            if (status == 3)
+                setFloat(*doc, d.paidAmount, floatAt(*doc, d.amount));
+            doc->setValue(d.paid, now);
+            doc->setValue(d.isPaid, true);
+        }
+        if (status == 2) {
+            setFloat(*doc, d.dueAmount, floatAt(*doc, d.amount));
+            setFloat(*doc, d.paidAmount, 0.0f);
+        }
+        if (status == 3) {
+            setFloat(*doc, d.paidAmount, floatAt(*doc, d.amount));
+            setFloat(*doc, d.dueAmount, 0.0f);
+        }
+        if (status == 4)
+            setFloat(*doc, d.dueAmount, floatAt(*doc, d.amount) - floatAt(*doc, d.paidAmount));
+
+        totalAmount += floatAt(*doc, d.amount);
+        paidAmount += floatAt(*doc, d.paidAmount);
+        dueAmount += floatAt(*doc, d.dueAmount);
+        ++invoiceCount;
+    }
+
+    m_state.totalAmount = totalAmount;
+    m_state.paidAmount = paidAmount;
+    m_state.dueAmount = dueAmount;
+    m_state.invoiceCount = invoiceCount;
+    m_state.invoiceCountForNumber = invoiceCountForNumber;
+    m_state.quoteCount = quoteCount;
+    m_state.notifyTotalsChanged();
+}
+
+void Calculator::clearTotals()
+{
+    m_state.totalAmount = 0.0f;
+    m_state.paidAmount = 0.0f;
+    m_state.dueAmount = 0.0f;
+    m_state.invoiceCount = 0;
+    m_state.quoteCount = 0;
+    m_state.invoiceCountForNumber = 0;
+    m_state.notifyTotalsChanged();
+}
+
+} // namespace vorn

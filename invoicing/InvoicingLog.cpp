@@ -1,0 +1,3 @@
+#include "invoicing/InvoicingLog.h"
+
+Q_LOGGING_CATEGORY(lcInvoicing, "vorn.invoicing", QtInfoMsg)

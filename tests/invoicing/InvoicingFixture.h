@@ -1,0 +1,77 @@
+#pragma once
+
+#include "invoicing/InvoicingControllers.h"
+#include "invoicing/Keys.h"
+#include "store/AppState.h"
+#include "store/Clock.h"
+#include "store/ObjectContext.h"
+#include "store/Settings.h"
+#include "tests/support/ScriptedUserInterface.h"
+
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace vorn::test {
+
+// The invoicing controllers over an in-memory context, a scratch settings
+// file, a fixed clock (Wednesday 5 March 2025, 10:00 UTC) and a scripted user.
+class InvoicingFixture : public ::testing::Test
+{
+protected:
+    InvoicingFixture()
+        : settings(dir.filePath(QStringLiteral("settings.plist"))),
+          state(settings, ui, clock, FileLocations{dir.path(), dir.path(), dir.path(), dir.path()})
+    {
+        state.setContext(&context);
+        controllers = std::make_unique<InvoicingControllers>(state);
+    }
+    ~InvoicingFixture() override
+    {
+        controllers.reset();
+        state.setContext(nullptr);
+    }
+
+    static QDateTime at(int y, int m, int d, int h = 10, int min = 0)
+    {
+        return QDateTime(QDate(y, m, d), QTime(h, min), QTimeZone::utc());
+    }
+
+    // A document straight in the store and the list (not through addInvoice).
+    ManagedObject* document(int kind, int status = 0, float amount = 0.0f)
+    {
+        ManagedObject* doc = context.insertNewObject(Entity::Invoice);
+        doc->setValue(key::kind, kind);
+        doc->setValue(key::status, status);
+        doc->setValue(key::amount, amount);
+        doc->setValue(key::date, clock.now());
+        state.invoicesController().addObject(doc);
+        return doc;
+    }
+
+    ManagedObject* item(ManagedObject* doc, float base, float count)
+    {
+        ManagedObject* it = context.insertNewObject(Entity::Item);
+        it->setValue(key::baseAmount, base);
+        it->setValue(key::unitCount, count);
+        doc->insertObject(key::items, it);
+        return it;
+    }
+
+    void select(ManagedObject* doc) { state.invoicesController().setSelectedObjects({doc}); }
+
+    Calculator& calculator() { return controllers->calculator(); }
+
+    QTemporaryDir dir;
+    FixedClock clock{at(2025, 3, 5)};
+    Settings settings;
+    ScriptedUserInterface ui;
+    ObjectContext context{nullptr, clock};
+    AppState state;
+    std::unique_ptr<InvoicingControllers> controllers;
+};
+
+} // namespace vorn::test
