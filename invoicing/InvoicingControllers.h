@@ -1,6 +1,10 @@
 #pragma once
 
 #include "invoicing/Calculator.h"
+#include "invoicing/DataController.h"
+#include "invoicing/FilterController.h"
+#include "invoicing/GUIController.h"
+#include "invoicing/NumberingController.h"
 
 #include <memory>
 
@@ -20,9 +24,17 @@ public:
     InvoicingControllers& operator=(const InvoicingControllers&) = delete;
 
     Calculator& calculator() { return *m_calculator; }
+    NumberingController& numbering() { return *m_numbering; }
+    FilterController& filter() { return *m_filter; }
+    GUIController& gui() { return *m_gui; }
+    DataController& data() { return *m_data; }
 
 private:
     std::unique_ptr<Calculator> m_calculator;
+    std::unique_ptr<NumberingController> m_numbering;
+    std::unique_ptr<FilterController> m_filter;
+    std::unique_ptr<GUIController> m_gui;
+    std::unique_ptr<DataController> m_data;
 };
 
 } // namespace vorn

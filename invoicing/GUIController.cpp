@@ -1,0 +1,125 @@
+#include "invoicing/GUIController.h"
+
+#include "invoicing/Keys.h"
+#include "store/AppState.h"
+#include "store/Settings.h"
+#include "store/UserInterface.h"
+
+#include <QTimer>
+
+namespace vorn {
+
+namespace {
+
+bool remindable(const ManagedObject* doc)
+{
+    if (!doc || doc->intValue(key::kind) == 0)
+        return false;
+    const qint64 status = doc->intValue(key::status);
+    return status == 2 || status == 4;
+}
+
+} // namespace
+
+GUIController::GUIController(AppState& state, QObject* parent)
+    : QObject(parent), m_state(state), m_deleteLabel(tr("Delete Invoice"))
+{
+}
+
+GUIController::Validation GUIController::validateUserInterfaceItem(const QString& action) const
+{
+    const ManagedObject* doc = m_state.currentInvoice();
+    if (action == deleteInvoiceAction) {
+        if (!doc)
+            return {false, tr("Delete Invoice")};
+        return {true, doc->intValue(key::kind) == 0 ? tr("Delete Quote") : tr("Delete Invoice")};
+    }
+    if (action == openReminderSheetAction)
+        return {remindable(doc), std::nullopt};
+    return {true, std::nullopt};
+}
+
+void GUIController::delayedToolbarLabel()
+{
+    const ManagedObject* doc = m_state.currentInvoice();
+    const bool quote = doc && doc->intValue(key::kind) == 0;
+    m_deleteLabel = quote ? tr("Delete Quote") : tr("Delete Invoice");
+    m_reminderEnabled = remindable(doc);
+    m_state.isReminderButtonHidden = !m_reminderEnabled;
+    m_state.notifyStateChanged();
+    Q_EMIT toolbarChanged();
+}
+
+void GUIController::scheduleToolbarLabel()
+{
+    QTimer::singleShot(30, this, &GUIController::delayedToolbarLabel);
+}
+
+void GUIController::setDeleteToolbarLabel(const QString& label)
+{
+    m_deleteLabel = label;
+    Q_EMIT toolbarChanged();
+}
+
+QString GUIController::toolbarItemForTag(qint64 tag)
+{
+    switch (tag) {
+    case 1:
+        return QStringLiteral("itemsItem");
+    case 2:
+        return QStringLiteral("infoItem");
+    default:
+        return QStringLiteral("addressItem");
+    }
+}
+
+void GUIController::selectMainTabIndex(qint64 tag)
+{
+    m_state.ui().selectToolbarItem(toolbarItemForTag(tag));
+    setSelectedToolbarItem(tag);
+}
+
+void GUIController::setSelectedToolbarItem(qint64 index)
+{
+    // The tab view follows this setting.
+    m_state.settings().setValue(key::mainTabIndex, index);
+}
+
+void GUIController::selectInfoView()
+{
+    setSelectedToolbarItem(m_state.settings().intValue(key::mainTabIndex));
+}
+
+std::pair<QRect, QRect> GUIController::resizeSubviews(const QSize& newSize, int listWidth, int dividerThickness)
+{
+    const QRect list(0, 0, listWidth, newSize.height());
+    const int detailX = listWidth + dividerThickness;
+    const QRect detail(detailX, 0, newSize.width() - detailX, newSize.height());
+    return {list, detail};
+}
+
+void GUIController::openReminderSheet()
+{
+    const Settings& s = m_state.settings();
+    m_reminder = {true, s.stringValue(key::locReminder), s.stringValue(key::tempRemConditions),
+                  s.stringValue(key::tempRemFooter)};
+    Q_EMIT reminderSheetChanged();
+}
+
+void GUIController::cancelReminderSheet()
+{
+    m_reminder.shown = false;
+    Q_EMIT reminderSheetChanged();
+}
+
+void GUIController::showPreferences()
+{
+    m_state.ui().showPreferencesWindow();
+}
+
+void GUIController::calculatorButtonAction()
+{
+    m_state.ui().openApplication(QStringLiteral("calculator"));
+}
+
+} // namespace vorn
