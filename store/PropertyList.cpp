@@ -81,6 +81,37 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
         tableOffset + count * quint64(offsetSize) > quint64(size - 32))
         return false;
     auto offsetOf = [&](quint64 i) { return be(d + tableOffset + i * quint64(offsetSize), offsetSize); };
+    // libplist asserts (and so aborts) on a dictionary key with a zero
+    // character in it; such keys are refused here.
+    auto keyHasZero = [&](quint64 object) -> bool {
+        const quint64 offset = offsetOf(object);
+        if (offset >= tableOffset)
+            return true;
+        const unsigned char marker = d[offset];
+        const int type = marker >> 4;
+        if (type != 0x5 && type != 0x6 && type != 0x7)
+            return false;
+        quint64 n = marker & 0x0F;
+        quint64 pos = offset + 1;
+        if (n == 0x0F) {
+            if (pos >= tableOffset || (d[pos] >> 4) != 0x1)
+                return true;
+            const int bytes = 1 << (d[pos] & 0x0F);
+            if (bytes > 8 || pos + 1 + quint64(bytes) > tableOffset)
+                return true;
+            n = be(d + pos + 1, bytes);
+            pos += 1 + quint64(bytes);
+        }
+        const quint64 unit = type == 0x6 ? 2 : 1;
+        if (n > quint64(size) || pos + n * unit > tableOffset)
+            return true;
+        for (quint64 i = 0; i < n; ++i) {
+            const unsigned char* c = d + pos + i * unit;
+            if (c[0] == 0 && (unit == 1 || c[1] == 0))
+                return true;
+        }
+        return false;
+    };
 
     // 0 = unvisited, 1 = on the current path, 2 = done.
     std::vector<unsigned char> state(size_t(count), 0);
@@ -118,7 +149,7 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
         frame.refs.reserve(size_t(refs));
         for (quint64 i = 0; i < refs; ++i) {
             const quint64 r = be(d + pos + i * quint64(refSize), refSize);
-            if (r >= count)
+            if (r >= count || (type == 0xD && i < n && keyHasZero(r)))
                 return false;
             frame.refs.push_back(r);
         }

@@ -29,6 +29,7 @@ struct Error
 namespace ErrorCode {
 inline constexpr int FileNotFound = 260;      // the platform's "no such file"
 inline constexpr int FileReadUnknown = 256;   // the platform's generic read error
+inline constexpr int FileReadCorrupt = 259;   // the platform's "file is damaged or in an unknown format"
 inline constexpr int FileWriteUnknown = 512;  // the platform's generic write error
 inline constexpr int FileWriteNoPermission = 513;
 inline constexpr int NotAFolder = 101;

@@ -1,0 +1,356 @@
+#include "output/InterchangeFile.h"
+#include "output/KeyedArchive.h"
+#include "output/Serialization.h"
+
+#include "store/Clock.h"
+#include "store/ObjectContext.h"
+#include "store/PropertyList.h"
+
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+using namespace vorn;
+
+namespace {
+
+const QDateTime now(QDate(2026, 3, 1), QTime(10, 0), QTimeZone::utc());
+
+// A value of each type that would be damaged by a careless conversion:
+// non-ASCII text, a negative integer, a float that is not a short double, a
+// date with milliseconds, data with a zero byte.
+QVariant sampleValue(AttributeType type, int salt)
+{
+    switch (type) {
+    case AttributeType::String:
+        return QStringLiteral("Grüße 😀 <b>&amp;</b>\nline %1").arg(salt);
+    case AttributeType::Integer:
+        return qint64(-42 - salt);
+    case AttributeType::Float:
+        return 34.65f + float(salt) / 7.0f;
+    case AttributeType::Bool:
+        return true;
+    case AttributeType::Date:
+        return QDateTime(QDate(2026, 2, 14), QTime(9, 30, 12, 345), QTimeZone::utc()).addSecs(salt * 3600);
+    case AttributeType::Data:
+        return QByteArray("\x89PNG\0\r\n", 7) + QByteArray::number(salt);
+    }
+    return {};
+}
+
+void fillEveryAttribute(ManagedObject& object, const QString& leaveAbsent)
+{
+    const auto& attributes = object.entity().attributes();
+    for (int i = 0; i < int(attributes.size()); ++i)
+        object.setValue(i, attributes[size_t(i)].name == leaveAbsent ? QVariant() : sampleValue(attributes[size_t(i)].type, i));
+}
+
+enum class Carrier { Dictionary, KeyedArchive, BinaryPlist, XmlPlist };
+
+struct RoundTripCase
+{
+    QString entity;
+    Carrier carrier;
+    QString absentKey;
+};
+
+std::string caseName(const RoundTripCase& c)
+{
+    static const char* carriers[] = {"Dictionary", "KeyedArchive", "BinaryPlist", "XmlPlist"};
+    return c.entity.toStdString() + carriers[int(c.carrier)];
+}
+
+class SerializationRoundTrip : public ::testing::TestWithParam<RoundTripCase>
+{
+protected:
+    FixedClock clock{now};
+    ObjectContext source{nullptr, clock};
+    ObjectContext target{nullptr, clock};
+};
+
+} // namespace
+
+TEST_P(SerializationRoundTrip, EveryAttributeComesBackAsItWas)
+{
+    const RoundTripCase& c = GetParam();
+    ManagedObject* original = source.insertNewObject(c.entity);
+    fillEveryAttribute(*original, c.absentKey);
+    QVariantMap dictionary = Serialization::toDictionary(*original);
+    EXPECT_EQ(dictionary.value("class").toString(), "NSManagedObject");
+    EXPECT_FALSE(dictionary.contains(c.absentKey));
+
+    QVariant carried = dictionary;
+    switch (c.carrier) {
+    case Carrier::Dictionary:
+        break;
+    case Carrier::KeyedArchive: {
+        auto back = InterchangeFile::rootEntry(KeyedArchive::archive(QVariantMap{{"vornDic", dictionary}}), "vornDic");
+        ASSERT_TRUE(back.ok()) << back.error().message.toStdString();
+        carried = back.value();
+        break;
+    }
+    case Carrier::BinaryPlist:
+    case Carrier::XmlPlist: {
+        const QVariantMap root{{"vornDic", dictionary}};
+        auto back = InterchangeFile::rootEntry(
+            c.carrier == Carrier::XmlPlist ? PropertyList::toXml(root) : PropertyList::toBinary(root), "vornDic");
+        ASSERT_TRUE(back.ok()) << back.error().message.toStdString();
+        carried = back.value();
+        break;
+    }
+    }
+    QVariantMap read = carried.toMap();
+    // The generic class name stands for an item; other entities are named.
+    read.insert("class", c.entity == Entity::Item ? QStringLiteral("NSManagedObject") : c.entity);
+    auto copy = Serialization::createManagedObjectFromDictionary(read, target);
+    ASSERT_TRUE(copy.ok()) << copy.error().message.toStdString();
+    ASSERT_EQ(copy.value()->entityName(), c.entity);
+
+    for (const AttributeDescription& a : original->entity().attributes()) {
+        const QVariant expected = original->value(a.name);
+        const QVariant actual = copy.value()->value(a.name);
+        if (a.name == c.absentKey) {
+            // Absent in the file: the new object keeps what insertion gave it.
+            const QVariant inserted = target.model().defaultValue(a, now);
+            EXPECT_EQ(actual.isValid(), inserted.isValid()) << a.name.toStdString();
+            EXPECT_EQ(actual, inserted) << a.name.toStdString();
+            continue;
+        }
+        ASSERT_EQ(actual.typeId(), expected.typeId()) << a.name.toStdString();
+        if (a.type == AttributeType::Date && c.carrier == Carrier::XmlPlist)
+            // XML property lists keep whole seconds.
+            EXPECT_EQ(actual.toDateTime().toSecsSinceEpoch(), expected.toDateTime().toSecsSinceEpoch());
+        else
+            EXPECT_EQ(actual, expected) << a.name.toStdString();
+    }
+}
+
+namespace {
+
+std::vector<RoundTripCase> roundTripCases()
+{
+    // For each entity, one attribute of its own left absent, and the spare
+    // ones that every entity shares.
+    const std::map<QString, QString> absent{{Entity::Invoice, "subject"},   {Entity::Item, "sku"},
+                                            {Entity::Address, "misc5"},     {Entity::RecentItem, "misc1"},
+                                            {Entity::RecentShipping, "note"}, {Entity::Design, "css"}};
+    std::vector<RoundTripCase> cases;
+    for (const auto& [entity, key] : absent)
+        for (Carrier carrier : {Carrier::Dictionary, Carrier::KeyedArchive, Carrier::BinaryPlist, Carrier::XmlPlist})
+            cases.push_back({entity, carrier, key});
+    return cases;
+}
+
+} // namespace
+
+INSTANTIATE_TEST_SUITE_P(Entities, SerializationRoundTrip, ::testing::ValuesIn(roundTripCases()),
+                         [](const auto& info) { return caseName(info.param); });
+
+namespace {
+
+class SerializationTest : public ::testing::Test
+{
+protected:
+    FixedClock clock{now};
+    ObjectContext context{nullptr, clock};
+
+    ManagedObject* document(int items)
+    {
+        ManagedObject* invoice = context.insertNewObject(Entity::Invoice);
+        invoice->setValue("number", "RE-7");
+        for (int i = 0; i < items; ++i) {
+            ManagedObject* item = context.insertNewObject(Entity::Item);
+            item->setValue("title", QStringLiteral("Item %1").arg(i));
+            invoice->insertObject("items", item);
+        }
+        return invoice;
+    }
+};
+
+} // namespace
+
+TEST_F(SerializationTest, DocumentWritesItsItemsInOrderWithoutItselfAgain)
+{
+    ManagedObject* invoice = document(3);
+    const QVariantMap dictionary = Serialization::toDictionary(*invoice);
+    const QVariantList items = dictionary.value("items").toList();
+    ASSERT_EQ(items.size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        const QVariantMap item = items[i].toMap();
+        EXPECT_EQ(item.value("title").toString(), QStringLiteral("Item %1").arg(i));
+        EXPECT_EQ(item.value("class").toString(), "NSManagedObject");
+        EXPECT_FALSE(item.contains("invoice"));
+    }
+
+    // And back: three items in the same order, owned by the new document.
+    QVariantMap read = dictionary;
+    read.insert("class", "Invoice");
+    auto copy = Serialization::createManagedObjectFromDictionary(read, context);
+    ASSERT_TRUE(copy.ok());
+    ASSERT_EQ(copy.value()->items().size(), 3);
+    for (int i = 0; i < 3; ++i) {
+        EXPECT_EQ(copy.value()->items()[i]->stringValue("title"), QStringLiteral("Item %1").arg(i));
+        EXPECT_EQ(copy.value()->items()[i]->object("invoice"), copy.value());
+    }
+}
+
+TEST_F(SerializationTest, ItemWritesItsDocumentWithoutComingBackThroughIt)
+{
+    ManagedObject* invoice = document(3);
+    const QVariantMap dictionary = Serialization::toDictionary(*invoice->items()[1]);
+    const QVariantMap owner = dictionary.value("invoice").toMap();
+    EXPECT_EQ(owner.value("number").toString(), "RE-7");
+    const QVariantList siblings = owner.value("items").toList();
+    ASSERT_EQ(siblings.size(), 2);
+    EXPECT_EQ(siblings[0].toMap().value("title").toString(), "Item 0");
+    EXPECT_EQ(siblings[1].toMap().value("title").toString(), "Item 2");
+
+    // A history handed in leaves out what it holds.
+    QSet<const ManagedObject*> history{invoice};
+    EXPECT_FALSE(Serialization::toDictionaryWithTraversalHistory(*invoice->items()[0], &history).contains("invoice"));
+    EXPECT_EQ(history.size(), 2);
+}
+
+TEST(SerializationDecodedValue, OldDateMarkerBecomesTheReferenceDate)
+{
+    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
+    const struct
+    {
+        QVariant in;
+        QVariant out;
+    } cases[] = {
+        {QStringLiteral("dAtEaTtr:"), reference},
+        {QStringLiteral("dAtEaTtr:788918400"), reference},
+        {QStringLiteral("dAtEaTtr:-5 whatever"), reference},
+        {QStringLiteral("dAtEaTtr"), QStringLiteral("dAtEaTtr")},
+        {QStringLiteral("DATEATTR:12"), QStringLiteral("DATEATTR:12")},
+        {QStringLiteral(" dAtEaTtr:12"), QStringLiteral(" dAtEaTtr:12")},
+        {QString(), QString()},
+        {qint64(5), qint64(5)},
+        {QByteArray("dAtEaTtr:"), QByteArray("dAtEaTtr:")},
+        {reference.addDays(3), reference.addDays(3)},
+    };
+    for (const auto& c : cases) {
+        const QVariant out = Serialization::decodedValueFrom(c.in, "date");
+        EXPECT_EQ(out.typeId(), c.out.typeId()) << c.in.toString().toStdString();
+        EXPECT_EQ(out, c.out) << c.in.toString().toStdString();
+    }
+}
+
+namespace {
+
+struct DictionaryCase
+{
+    const char* name;
+    QVariantMap dictionary;
+    bool accepted;
+    QString key;       // checked on the created document when accepted
+    QVariant expected;
+};
+
+QVariantMap invoiceWith(const QString& key, const QVariant& value)
+{
+    return QVariantMap{{"class", "Invoice"}, {"number", "A-1"}, {key, value}};
+}
+
+QVariantMap itemDictionary(const QVariantMap& extra = {})
+{
+    QVariantMap item{{"class", "NSManagedObject"}, {"title", "Work"}};
+    item.insert(extra);
+    return item;
+}
+
+QVariantMap nestedTooDeep()
+{
+    // Item -> its document -> an item -> its document ... beyond the limit.
+    QVariantMap inner = itemDictionary();
+    for (int i = 0; i < Serialization::maximumNesting; ++i) {
+        QVariantMap invoice{{"class", "Invoice"}, {"items", QVariantList{inner}}};
+        inner = itemDictionary({{"invoice", invoice}});
+    }
+    return QVariantMap{{"class", "Invoice"}, {"items", QVariantList{inner}}};
+}
+
+const QDateTime referenceDate(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
+
+} // namespace
+
+class SerializationDictionaryTest : public ::testing::TestWithParam<DictionaryCase>
+{
+protected:
+    FixedClock clock{now};
+    ObjectContext context{nullptr, clock};
+};
+
+TEST_P(SerializationDictionaryTest, WholeTreeIsCheckedBeforeAnythingIsInserted)
+{
+    const DictionaryCase& c = GetParam();
+    // An unrelated pending change that a refused file must not disturb.
+    ManagedObject* pending = context.insertNewObject(Entity::Address);
+    pending->setValue("address", "Somewhere");
+
+    auto created = Serialization::createManagedObjectFromDictionary(c.dictionary, context);
+    ASSERT_EQ(created.ok(), c.accepted) << (created.ok() ? "" : created.error().message.toStdString());
+    if (!c.accepted) {
+        EXPECT_EQ(created.error().code, ErrorCode::FileReadCorrupt);
+        EXPECT_FALSE(created.error().message.isEmpty());
+        EXPECT_TRUE(context.fetch(Entity::Invoice).isEmpty());
+        EXPECT_TRUE(context.fetch(Entity::Item).isEmpty());
+        EXPECT_EQ(context.fetch(Entity::Address), QList<ManagedObject*>{pending});
+        EXPECT_EQ(pending->stringValue("address"), "Somewhere");
+        return;
+    }
+    const QVariant actual = created.value()->value(c.key);
+    EXPECT_EQ(actual.typeId(), c.expected.typeId());
+    EXPECT_EQ(actual, c.expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Cases, SerializationDictionaryTest,
+    ::testing::Values(
+        DictionaryCase{"integerServesFloat", invoiceWith("amount", qint64(3)), true, "amount", 3.0f},
+        DictionaryCase{"realServesInteger", invoiceWith("status", 2.0), true, "status", qint64(2)},
+        DictionaryCase{"numberServesBool", invoiceWith("isPaid", qint64(1)), true, "isPaid", true},
+        DictionaryCase{"boolServesInteger", invoiceWith("kind", true), true, "kind", qint64(1)},
+        DictionaryCase{"doubleNarrowsToFloat", invoiceWith("amount", double(0.1f)), true, "amount", 0.1f},
+        DictionaryCase{"dateMarker", invoiceWith("due", "dAtEaTtr:99"), true, "due", referenceDate},
+        DictionaryCase{"unknownKeySkipped", invoiceWith("colour", "red"), true, "number", QStringLiteral("A-1")},
+        DictionaryCase{"genericClassIsItem", itemDictionary(), true, "title", QStringLiteral("Work")},
+        DictionaryCase{"missingClass", QVariantMap{{"number", "A-1"}}, false, {}, {}},
+        DictionaryCase{"classNotText", QVariantMap{{"class", qint64(7)}}, false, {}, {}},
+        DictionaryCase{"unknownClass", QVariantMap{{"class", "NSWindow"}}, false, {}, {}},
+        DictionaryCase{"textForNumber", invoiceWith("amount", "12.50"), false, {}, {}},
+        DictionaryCase{"numberForText", invoiceWith("number", qint64(12)), false, {}, {}},
+        DictionaryCase{"textForDate", invoiceWith("date", "2026-01-01"), false, {}, {}},
+        DictionaryCase{"dateMarkerForText", invoiceWith("title", "dAtEaTtr:1"), false, {}, {}},
+        DictionaryCase{"dataForDate", invoiceWith("date", QByteArray("x")), false, {}, {}},
+        DictionaryCase{"textForData", QVariantMap{{"class", "Design"}, {"misc5", "yesterday"}}, false, {}, {}},
+        DictionaryCase{"floatOutOfRange", invoiceWith("amount", 1e39), false, {}, {}},
+        DictionaryCase{"integerNotFinite", invoiceWith("status", qQNaN()), false, {}, {}},
+        DictionaryCase{"listForAttribute", invoiceWith("title", QVariantList{"a"}), false, {}, {}},
+        DictionaryCase{"recordForAttribute", invoiceWith("title", itemDictionary()), false, {}, {}},
+        DictionaryCase{"textForItems", invoiceWith("items", "three"), false, {}, {}},
+        DictionaryCase{"recordForItems", invoiceWith("items", itemDictionary()), false, {}, {}},
+        DictionaryCase{"textInItems", invoiceWith("items", QVariantList{itemDictionary(), "x"}), false, {}, {}},
+        DictionaryCase{"documentInItems", invoiceWith("items", QVariantList{QVariantMap{{"class", "Invoice"}}}), false,
+                       {}, {}},
+        DictionaryCase{"damagedSecondItem",
+                       invoiceWith("items", QVariantList{itemDictionary(), itemDictionary({{"unitCount", "two"}})}),
+                       false, {}, {}},
+        DictionaryCase{"listForOwner", itemDictionary({{"invoice", QVariantList{}}}), false, {}, {}},
+        DictionaryCase{"nestedTooDeep", nestedTooDeep(), false, {}, {}}),
+    [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(SerializationTest, PopulateFillsAnExistingObjectAndAppendsItems)
+{
+    ManagedObject* invoice = document(1);
+    ASSERT_TRUE(Serialization::populateFromDictionary(
+        *invoice, {{"class", "Ignored"}, {"subject", "Hello"}, {"items", QVariantList{itemDictionary()}}}));
+    EXPECT_EQ(invoice->stringValue("subject"), "Hello");
+    ASSERT_EQ(invoice->items().size(), 2);
+    EXPECT_EQ(invoice->items()[1]->stringValue("title"), "Work");
+
+    Status refused = Serialization::populateFromDictionary(*invoice, {{"subject", "Bye"}, {"amount", "x"}});
+    EXPECT_FALSE(refused);
+    EXPECT_EQ(invoice->stringValue("subject"), "Hello");
+}
