@@ -189,6 +189,7 @@ void ArrayController::insertObject(ManagedObject* object, int arrangedIndex)
 {
     if (!object)
         return;
+    const QList<ManagedObject*> selected = selectedObjects();
     if (!m_content.contains(object))
         m_content.append(object);
     if (!m_arranged.contains(object)) {
@@ -201,9 +202,13 @@ void ArrayController::insertObject(ManagedObject* object, int arrangedIndex)
         Q_EMIT arrangedObjectsChanged();
         Q_EMIT selectionChanged();
     } else {
-        const QList<ManagedObject*> selected = selectedObjects();
+        const QList<int> before = m_selection;
+        m_selection.clear();
+        for (ManagedObject* o : selected)
+            m_selection.append(int(m_arranged.indexOf(o)));
         Q_EMIT arrangedObjectsChanged();
-        setSelectedObjects(selected);
+        if (m_selection != before)
+            Q_EMIT selectionChanged();
     }
 }
 

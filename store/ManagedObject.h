@@ -39,8 +39,17 @@ public:
 
     bool isInserted() const { return m_state == State::Inserted; }
     bool isDeleted() const { return m_state == State::Deleted || m_state == State::Gone; }
-    bool isUpdated() const { return m_state == State::Saved && (!m_original.isEmpty() || m_relationsDirty); }
-    bool hasChanges() const { return m_state == State::Inserted || m_state == State::Deleted || isUpdated(); }
+    bool isUpdated() const
+    {
+        return m_state == State::Saved &&
+               (!m_original.isEmpty() || (m_originalLists && *m_originalLists != m_lists));
+    }
+    // An object inserted and deleted again before a save leaves nothing to write.
+    bool hasChanges() const
+    {
+        return m_state == State::Inserted || (m_state == State::Deleted && m_wasSavedBeforeDelete) ||
+               isUpdated();
+    }
 
     // Attributes.
     QVariant value(const QString& key) const;
@@ -99,7 +108,6 @@ private:
     int m_savedPosition = -1;
     std::optional<std::vector<QList<ManagedObject*>>> m_originalLists;
     std::optional<ManagedObject*> m_originalOwner;
-    bool m_relationsDirty = false;
     bool m_wasSavedBeforeDelete = false;
 };
 

@@ -170,7 +170,6 @@ void ObjectContext::changeList(ManagedObject* object, int ri, const QList<Manage
         member->m_owner = object;
         m_positionCheck.insert(member);
     }
-    object->m_relationsDirty = true;
     markChanged(object);
     m_undo.registerUndo([this, object, ri, old] { changeList(object, ri, old); });
     Q_EMIT objectChanged(object, object->entity().relationships()[size_t(ri)].name);
@@ -404,7 +403,6 @@ Status ObjectContext::save()
         }
         o->m_original.clear();
         o->m_originalLists.reset();
-        o->m_relationsDirty = false;
     }
     for (ManagedObject* o : std::as_const(m_positionCheck)) {
         if (o->m_state == ManagedObject::State::Gone)
@@ -443,7 +441,6 @@ void ObjectContext::rollback()
             o->m_lists = *o->m_originalLists;
             o->m_originalLists.reset();
         }
-        o->m_relationsDirty = false;
     }
     // Owners follow the restored lists; objects in no list were saved without one.
     for (ManagedObject* o : std::as_const(m_positionCheck)) {

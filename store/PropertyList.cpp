@@ -40,12 +40,23 @@ int xmlDepth(const QByteArray& data)
             break;
         const QByteArray tag = QByteArray::fromRawData(lt + 1, int(gt - lt - 1)).trimmed();
         const bool selfClosing = tag.endsWith('/');
-        if (tag == "dict" || tag == "array")
-            maxDepth = std::max(maxDepth, ++depth);
-        else if (tag == "/dict" || tag == "/array")
-            --depth;
-        else if (selfClosing && (tag.startsWith("dict") || tag.startsWith("array")))
+        // The element name ends at white space: attributes do not hide a container.
+        qsizetype nameEnd = 0;
+        while (nameEnd < tag.size() && !isspace(uchar(tag[nameEnd])) && tag[nameEnd] != '/')
+            ++nameEnd;
+        if (nameEnd == 0 && tag.startsWith('/')) {
+            nameEnd = 1;
+            while (nameEnd < tag.size() && !isspace(uchar(tag[nameEnd])))
+                ++nameEnd;
+        }
+        const QByteArray name = tag.left(nameEnd);
+        const bool container = name == "dict" || name == "array";
+        if (container && selfClosing)
             maxDepth = std::max(maxDepth, depth + 1);
+        else if (container)
+            maxDepth = std::max(maxDepth, ++depth);
+        else if (name == "/dict" || name == "/array")
+            --depth;
         p = gt + 1;
     }
     return maxDepth;
@@ -218,9 +229,15 @@ QVariant toVariant(plist_t node, int depth)
         return QByteArray(p, qsizetype(length));
     }
     case PLIST_DATE: {
+        // libplist keeps the seconds as a double and answers them truncated
+        // toward zero, with the magnitude of the fraction in whole microseconds
+        // (rounded down): round to the millisecond and give the fraction the
+        // sign of the seconds. (Within the one second before 2001 the sign is
+        // lost to libplist itself.)
         int32_t sec = 0, usec = 0;
         plist_get_date_val(node, &sec, &usec);
-        const qint64 ms = (qint64(sec) + referenceDateOffset) * 1000 + usec / 1000;
+        const qint64 fraction = (qint64(usec) + 500) / 1000;
+        const qint64 ms = (qint64(sec) + referenceDateOffset) * 1000 + (sec < 0 ? -fraction : fraction);
         return QDateTime::fromMSecsSinceEpoch(ms, QTimeZone::utc());
     }
     case PLIST_UID: {

@@ -9,6 +9,9 @@
 
 #include <sqlite3.h>
 
+#include <cmath>
+#include <limits>
+
 namespace vorn {
 
 namespace {
@@ -43,6 +46,15 @@ QString columnList(const EntityDescription& entity)
     for (const auto& a : entity.attributes())
         columns << quoted(a.name);
     return columns.join(QLatin1Char(','));
+}
+
+// SQLite reads a double-quoted name that matches no column as a string
+// literal, so a table missing a column would answer the column's name as
+// every row's value instead of failing. Quoted names must be names.
+void refuseQuotedLiterals(sqlite3* db)
+{
+    sqlite3_db_config(db, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    sqlite3_db_config(db, SQLITE_DBCONFIG_DQS_DDL, 0, nullptr);
 }
 
 quint32 bigEndian32(const unsigned char* p)
@@ -108,6 +120,7 @@ Result<std::unique_ptr<SqliteStore>> SqliteStore::open(const QString& path, cons
                            reason);
     }
     sqlite3_busy_timeout(db, 5000);
+    refuseQuotedLiterals(db);
     std::unique_ptr<SqliteStore> store(new SqliteStore(path, db, model));
     bool created = false;
     if (Status s = store->prepareSchema(created); !s)
@@ -123,11 +136,18 @@ Status SqliteStore::validate(const QString& path, const ObjectModel& model)
     if (Status header = checkHeader(path); !header)
         return header;
     sqlite3* db = nullptr;
-    const QByteArray uri = QByteArrayLiteral("file:") + QUrl::toPercentEncoding(path, "/") + "?mode=ro";
+    // A read-only connection cannot remove the shared-memory and log files it
+    // makes for a database in write-ahead mode. Without a log beside it the
+    // file holds everything and nobody writes it, so it is read as immutable
+    // and nothing is left behind.
+    const bool hasLog = QFileInfo::exists(path + QStringLiteral("-wal"));
+    const QByteArray uri = QByteArrayLiteral("file:") + QUrl::toPercentEncoding(path, "/") +
+                           (hasLog ? "?mode=ro" : "?mode=ro&immutable=1");
     if (sqlite3_open_v2(uri.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr) != SQLITE_OK) {
         sqlite3_close(db);
         return Error::make(ErrorCode::StoreOpenFailed, tr("The Vorn database “%1” could not be opened.").arg(path));
     }
+    refuseQuotedLiterals(db);
     SqliteStore store(path, db, model);
     bool created = false;
     return store.prepareSchema(created);
@@ -405,9 +425,15 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
     case AttributeType::Integer:
         sqlite3_bind_int64(stmt, index, value.toLongLong());
         break;
-    case AttributeType::Float:
-        sqlite3_bind_double(stmt, index, double(value.toFloat()));
+    case AttributeType::Float: {
+        // SQLite keeps a whole-number real as an integer, which drops the sign
+        // of -0. The negative double nearest zero is not whole, and reads back
+        // as the float -0.
+        const float f = value.toFloat();
+        sqlite3_bind_double(stmt, index,
+                            f == 0.0f && std::signbit(f) ? -std::numeric_limits<double>::denorm_min() : double(f));
         break;
+    }
     case AttributeType::Bool:
         sqlite3_bind_int(stmt, index, value.toBool() ? 1 : 0);
         break;

@@ -1,0 +1,179 @@
+#include "store/ArrayController.h"
+#include "tests/store/StoreTestSupport.h"
+
+namespace vorn::test {
+namespace {
+
+const QString kDate = QStringLiteral("date");
+
+class ArrayControllerTest : public ::testing::Test
+{
+protected:
+    ArrayControllerTest() : m_context(nullptr, m_clock)
+    {
+        m_list.setSortDescriptors({{kDate, false}, {SortDescriptor::storeOrder(), false}});
+    }
+    ManagedObject* doc(const QString& title, const QDateTime& date, int kind = 1)
+    {
+        ManagedObject* o = m_context.insertNewObject(Entity::Invoice);
+        o->setValue(QStringLiteral("title"), title);
+        o->setValue(kDate, date);
+        o->setValue(QStringLiteral("kind"), kind);
+        return o;
+    }
+
+    FixedClock m_clock{utc(2026, 1, 1)};
+    ObjectContext m_context;
+    ArrayController m_list;
+};
+
+TEST_F(ArrayControllerTest, SortsNewestDateFirstThenLastCreatedFirst)
+{
+    doc("a", utc(2026, 1, 1));
+    doc("b", utc(2026, 3, 1));
+    doc("c", utc(2026, 1, 1));
+    doc("d", utc(2025, 12, 31, 23, 59, 59, 999));
+    doc("e", utc(2026, 3, 1));
+    doc("f", utc(2026, 1, 1, 12, 0, 0, 1));
+    ManagedObject* noDate = doc("g", QDateTime());
+    EXPECT_FALSE(noDate->hasValue(kDate));
+    m_list.setEntity(&m_context, Entity::Invoice);
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"e", "b", "f", "c", "a", "d", "g"}));
+}
+
+TEST_F(ArrayControllerTest, FilterAndSelectionSurviveRearranging)
+{
+    doc("a", utc(2026, 1, 1), 1);
+    ManagedObject* b = doc("b", utc(2026, 2, 1), 0);
+    doc("c", utc(2026, 3, 1), 1);
+    m_list.setEntity(&m_context, Entity::Invoice);
+    m_list.setSelectedObjects({b});
+    ASSERT_EQ(m_list.selectionIndex(), 1);
+
+    b->setValue(kDate, utc(2027, 1, 1));
+    m_list.rearrangeObjects();
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"b", "c", "a"}));
+    EXPECT_EQ(m_list.selectedObject(), b);
+    EXPECT_EQ(m_list.selectionIndex(), 0);
+
+    m_list.setFilterPredicate([](const ManagedObject& o) { return o.intValue(QStringLiteral("kind")) == 0; });
+    EXPECT_EQ(titles(m_list.arrangedObjects()), QStringList{"b"});
+    EXPECT_EQ(m_list.selectedObject(), b);
+    m_list.setFilterPredicate([](const ManagedObject& o) { return o.intValue(QStringLiteral("kind")) == 1; });
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"c", "a"}));
+    EXPECT_EQ(m_list.selectedObject(), nullptr);
+    EXPECT_EQ(m_list.content().size(), 3);
+}
+
+TEST_F(ArrayControllerTest, AutomaticRearrangingFollowsSortKeyEdits)
+{
+    ManagedObject* a = doc("a", utc(2026, 1, 1));
+    doc("b", utc(2026, 2, 1));
+    m_list.setEntity(&m_context, Entity::Invoice);
+    m_list.setAutomaticallyRearrangesObjects(true);
+    m_list.setSelectedObjects({a});
+    a->setValue(kDate, utc(2026, 6, 1));
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"a", "b"}));
+    EXPECT_EQ(m_list.selectedObject(), a);
+}
+
+struct RemoveCase
+{
+    const char* name;
+    int selected;
+    int removed;
+    bool avoidsEmptySelection;
+    const char* expectedSelection; // "" for none
+};
+
+const RemoveCase removeCases[] = {
+    {"SelectedMiddleTakesNext", 1, 1, true, "c"}, {"SelectedLastTakesNewLast", 3, 3, true, "c"},
+    {"SelectedFirstTakesNext", 0, 0, true, "b"},  {"SelectedWithoutAvoidingEmpty", 1, 1, false, ""},
+    {"OtherBeforeSelected", 2, 0, false, "c"},    {"OtherAfterSelected", 0, 3, true, "a"},
+    {"NothingSelected", -1, 2, false, ""},
+};
+
+class RemoveSelectionTest : public ArrayControllerTest, public ::testing::WithParamInterface<RemoveCase>
+{
+};
+
+TEST_P(RemoveSelectionTest, SelectionAfterRemoving)
+{
+    const RemoveCase& c = GetParam();
+    doc("d", utc(2026, 1, 1));
+    doc("c", utc(2026, 2, 1));
+    doc("b", utc(2026, 3, 1));
+    doc("a", utc(2026, 4, 1));
+    m_list.setEntity(&m_context, Entity::Invoice);
+    m_list.setAvoidsEmptySelection(c.avoidsEmptySelection);
+    m_list.setSelectionIndexes(c.selected >= 0 ? QList<int>{c.selected} : QList<int>{});
+    ASSERT_EQ(titles(m_list.arrangedObjects()), (QStringList{"a", "b", "c", "d"}));
+    int selectionSignals = 0;
+    QObject::connect(&m_list, &ArrayController::selectionChanged, [&] { ++selectionSignals; });
+    m_list.removeObject(m_list.arrangedObjects()[c.removed]);
+    EXPECT_EQ(m_list.count(), 3);
+    const ManagedObject* selected = m_list.selectedObject();
+    EXPECT_EQ(selected ? selected->stringValue(QStringLiteral("title")) : QString(),
+              QLatin1String(c.expectedSelection));
+    EXPECT_LE(m_list.selectionIndexes().size(), 1);
+    if (selected) {
+        EXPECT_EQ(m_list.arrangedObjects().indexOf(selected), m_list.selectionIndex());
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Cases, RemoveSelectionTest, ::testing::ValuesIn(removeCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(ArrayControllerTest, DeletesLeaveAndUndoBringsBack)
+{
+    doc("a", utc(2026, 1, 1));
+    ManagedObject* b = doc("b", utc(2026, 2, 1));
+    doc("c", utc(2026, 3, 1));
+    m_list.setEntity(&m_context, Entity::Invoice);
+    m_context.undoManager()->removeAllActions();
+    {
+        UndoGroup g(m_context.undoManager(), QStringLiteral("Delete"));
+        m_context.deleteObject(b);
+    }
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"c", "a"}));
+    m_context.undoManager()->undo();
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"c", "b", "a"}));
+    EXPECT_EQ(m_list.content().count(b), 1);
+    m_context.undoManager()->redo();
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"c", "a"}));
+}
+
+TEST_F(ArrayControllerTest, NewObjectsJoinOnlyThroughAddObject)
+{
+    doc("a", utc(2026, 1, 1));
+    m_list.setEntity(&m_context, Entity::Invoice);
+    m_list.setSelectionIndexes({0});
+    ManagedObject* b = doc("b", utc(2027, 1, 1));
+    EXPECT_EQ(m_list.count(), 1) << "the creating action adds the object itself";
+    m_list.addObject(b);
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"a", "b"}));
+    EXPECT_EQ(m_list.selectedObject(), b);
+    m_list.rearrangeObjects();
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"b", "a"}));
+    EXPECT_EQ(m_list.selectedObject(), b);
+
+    m_list.setSelectsInsertedObjects(false);
+    ManagedObject* c = doc("c", utc(2020, 1, 1));
+    m_list.insertObject(c, 0);
+    EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"c", "b", "a"}));
+    EXPECT_EQ(m_list.selectedObject(), b);
+    m_list.addObject(c);
+    EXPECT_EQ(m_list.content().count(c), 1);
+}
+
+TEST_F(ArrayControllerTest, RollbackRefetches)
+{
+    doc("a", utc(2026, 1, 1));
+    m_list.setEntity(&m_context, Entity::Invoice);
+    m_list.addObject(doc("b", utc(2026, 2, 1)));
+    m_context.rollback();
+    EXPECT_EQ(m_list.count(), 0);
+}
+
+} // namespace
+} // namespace vorn::test
