@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QPointer>
 #include <QTemporaryDir>
 #include <QTimer>
@@ -18,6 +19,8 @@
 #include <QWebEngineUrlRequestInterceptor>
 
 #include <optional>
+
+#include <unistd.h>
 
 namespace vorn {
 
@@ -149,6 +152,18 @@ QPageLayout PdfRenderer::pageLayout(qint64 paperSize)
 bool PdfRenderer::isAvailable()
 {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
+}
+
+void PdfRenderer::prepareProcess(bool headless)
+{
+    QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+    if (headless && qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
+        qputenv("QT_QPA_PLATFORM", "offscreen");
+    // The engine's sandbox refuses to run as root; documents cannot run code
+    // or reach anything anyway.
+    if (::getuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX"))
+        qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
 }
 
 void PdfRenderer::setParallelPages(int pages)

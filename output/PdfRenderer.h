@@ -71,6 +71,11 @@ public:
     // Whether rendering can work in this process (it needs a GUI application
     // object, though not a display).
     static bool isAvailable();
+    // What the process must set before it creates its application object
+    // to render: shared GL contexts, the sandbox switched off for root, the
+    // offscreen platform when headless and no platform is chosen, and quiet
+    // engine start-up logs.
+    static void prepareProcess(bool headless);
 
 Q_SIGNALS:
     // A request of a document was refused.

@@ -1,0 +1,280 @@
+#include "tests/output/OutputFixture.h"
+#include "tests/output/PdfSupport.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QSignalSpy>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+namespace vorn::test {
+namespace {
+
+void wait(int ms)
+{
+    QEventLoop loop;
+    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
+    loop.exec();
+}
+
+const char* const tablePage = R"(<!DOCTYPE html>
+<html><head><meta charset="utf-8"><style>%CSS%</style></head><body>
+<h1>%LETTERTITLE% %NUMBER%</h1><p>%CLIENTADDRESS%</p>
+<table><thead><tr><th>%LOCDESCRIPTION%</th><th>%LOCNET%</th></tr></thead><tbody>%ITEMSLIST%</tbody></table>
+<p class="total">%LOCTOTAL% %TOTAL% %CURRENCY%</p></body></html>)";
+const char* const tableRow = "<tr><td>%ITEMSTITLE%</td><td>%ITEMSAMOUNT%</td></tr>";
+
+class Rendering : public OutputFixture
+{
+public:
+    ManagedObject* documentWithItems(int count)
+    {
+        addDesign(QString::fromLatin1(tablePage), QString::fromLatin1(tableRow),
+                  QStringLiteral("body{font-family:sans-serif} td{padding:4pt}"));
+        ManagedObject* d = addDocument(1, {{QStringLiteral("address"), QStringLiteral("Erin Holloway\n7 Quarry Lane")},
+                                           {QStringLiteral("amount"), 1234.5f}});
+        for (int i = 1; i <= count; ++i)
+            addItem(d, {{QStringLiteral("title"), QStringLiteral("Item-%1-end").arg(i)},
+                        {QStringLiteral("amount"), float(i)}});
+        select(d);
+        return d;
+    }
+
+    QByteArray render(const QString& html, QStringList allowed = {})
+    {
+        PdfRenderer::Job job = preview.renderJob(html);
+        job.allowedFiles += allowed;
+        auto pdf = renderer.renderNow(job);
+        EXPECT_TRUE(pdf.ok()) << pdf.error().fullText().toStdString();
+        return pdf.ok() ? pdf.value() : QByteArray();
+    }
+};
+
+struct PaperCase
+{
+    int setting;
+    double width;
+    double height;
+};
+
+class Papers : public Rendering, public ::testing::WithParamInterface<PaperCase>
+{
+};
+
+TEST_P(Papers, PrintOnThePaperOfTheSettings)
+{
+    documentWithItems(3);
+    settings.setValue(QStringLiteral("tempPaperSize"), GetParam().setting);
+    PdfInspector pdf(render(preview.invoiceHTMLString()));
+    ASSERT_TRUE(pdf.isValid());
+    EXPECT_EQ(pdf.pageCount(), 1);
+    EXPECT_NEAR(pdf.pageSize().width(), GetParam().width, 1.0);
+    EXPECT_NEAR(pdf.pageSize().height(), GetParam().height, 1.0);
+    const QString text = pdf.allText();
+    EXPECT_TRUE(text.contains(QStringLiteral("Invoice INV-2025-17"))) << text.toStdString();
+    EXPECT_TRUE(text.contains(QStringLiteral("Item-3-end")));
+    EXPECT_TRUE(text.contains(QStringLiteral("{locTotal} 1,234.50 EUR")));
+}
+
+INSTANTIATE_TEST_SUITE_P(TempPaperSize, Papers,
+                         ::testing::Values(PaperCase{0, 612, 792}, PaperCase{1, 612, 1008}, PaperCase{2, 595.3, 841.9},
+                                           PaperCase{3, 728.5, 1031.8}, PaperCase{4, 515.9, 728.5},
+                                           PaperCase{7, 612, 792}, PaperCase{-1, 612, 792}));
+
+TEST_F(Rendering, LongDocumentsBreakAcrossPagesWithEveryRow)
+{
+    documentWithItems(150);
+    PdfInspector pdf(render(preview.invoiceHTMLString()));
+    ASSERT_TRUE(pdf.isValid());
+    EXPECT_GE(pdf.pageCount(), 3);
+    const QString text = pdf.allText();
+    for (int i = 1; i <= 150; ++i)
+        EXPECT_EQ(text.count(QStringLiteral("Item-%1-end").arg(i)), 1) << i;
+    EXPECT_TRUE(pdf.text(pdf.pageCount() - 1).contains(QStringLiteral("1,234.50")));
+}
+
+TEST_F(Rendering, TheMarginsAreFortyPointsAndSixtyAtTheBottom)
+{
+    // A page filled with black shows the printable area.
+    PdfInspector pdf(render(QStringLiteral("<html><body style=\"margin:0\"><div style=\"background:#000;"
+                                           "height:3000px\"></div></body></html>")));
+    const QImage page = pdf.image(0);
+    ASSERT_FALSE(page.isNull());
+    // Unpainted parts of a page are transparent.
+    auto dark = [&page](int x, int y) {
+        const QRgb p = page.pixel(x, y);
+        return qAlpha(p) > 200 && qGray(p) < 60;
+    };
+    const int w = page.width();
+    const int h = page.height();
+    EXPECT_FALSE(dark(38, h / 2));
+    EXPECT_TRUE(dark(42, h / 2));
+    EXPECT_FALSE(dark(w - 38, h / 2));
+    EXPECT_TRUE(dark(w - 42, h / 2));
+    EXPECT_FALSE(dark(w / 2, 38));
+    EXPECT_TRUE(dark(w / 2, 42));
+    EXPECT_FALSE(dark(w / 2, h - 58));
+    EXPECT_TRUE(dark(w / 2, h - 62));
+}
+
+TEST_F(Rendering, NothingOfADocumentReachesTheNetwork)
+{
+    QTcpServer server;
+    ASSERT_TRUE(server.listen(QHostAddress::LocalHost));
+    int connections = 0;
+    QObject::connect(&server, &QTcpServer::newConnection, [&] {
+        while (QTcpSocket* socket = server.nextPendingConnection()) {
+            ++connections;
+            socket->close();
+        }
+    });
+    const QString u = QStringLiteral("http://127.0.0.1:%1").arg(server.serverPort());
+    QString html = QStringLiteral(
+        "<html><head><link rel=preconnect href='U/pc'><link rel=dns-prefetch href='U/'>"
+        "<link rel=prefetch href='U/pf'><link rel=preload as=image href='U/pl.png'><link rel=stylesheet href='U/s.css'>"
+        "<link rel=icon href='U/favicon.ico'><style>@import url('U/i.css'); @font-face{font-family:r;src:url('U/f.woff')}"
+        " body{font-family:r;background:url('U/bg.png')}</style>"
+        "<meta http-equiv=refresh content='0;url=U/refresh'><base href='U/base/'></head><body>"
+        "<h1>LOCKED-DOWN</h1><img src='U/img.png'><img src='relative.png'><img srcset='U/s1.png 2x'>"
+        "<iframe src='U/frame'></iframe><script src='U/s.js'></script><script>document.write('SCRIPT-RAN');"
+        "new Image().src='U/js.png'</script><object data='U/obj'></object><embed src='U/embed'>"
+        "<video src='U/v.mp4' autoplay poster='U/poster.png'></video><audio src='U/a.mp3' autoplay></audio>"
+        "<svg><image href='U/svg.png' width=10 height=10 /></svg><a ping='U/ping' href='U/link'>link</a>"
+        "<form action='U/form'><input type=image src='U/input.png'></form></body></html>");
+    html.replace(QLatin1Char('U'), u);
+    QSignalSpy blocked(&renderer, &PdfRenderer::requestBlocked);
+    PdfInspector pdf(render(html));
+    wait(800);
+    EXPECT_EQ(connections, 0);
+    ASSERT_TRUE(pdf.isValid());
+    EXPECT_TRUE(pdf.allText().contains(QStringLiteral("LOCKED-DOWN")));
+    EXPECT_FALSE(pdf.allText().contains(QStringLiteral("SCRIPT-RAN")));
+}
+
+int countPixels(const QImage& image, QRgb colour)
+{
+    int n = 0;
+    for (int y = 0; y < image.height(); ++y)
+        for (int x = 0; x < image.width(); ++x)
+            n += (qAbs(qRed(image.pixel(x, y)) - qRed(colour)) < 30 &&
+                  qAbs(qGreen(image.pixel(x, y)) - qGreen(colour)) < 30 &&
+                  qAbs(qBlue(image.pixel(x, y)) - qBlue(colour)) < 30);
+    return n;
+}
+
+TEST_F(Rendering, OnlyTheLogoFileLoads)
+{
+    addDesign(QStringLiteral("<html><body>%LOGO% <img src=\"file://%1\" width=80 height=80></body></html>")
+                  .arg(QDir(environment.home()).filePath(QStringLiteral("other.png"))),
+              {});
+    QImage other(20, 20, QImage::Format_RGB32);
+    other.fill(QColor(30, 60, 220));
+    ASSERT_TRUE(other.save(QDir(environment.home()).filePath(QStringLiteral("other.png"))));
+    QImage logo(80, 80, QImage::Format_RGB32);
+    logo.fill(QColor(220, 30, 30));
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    logo.save(&buffer, "PNG");
+    settings.setValue(QStringLiteral("prefsLogo"), png);
+    select(addDocument(1));
+
+    PdfInspector pdf(render(preview.invoiceHTMLString()));
+    const QImage page = pdf.image(0);
+    EXPECT_GT(countPixels(page, qRgb(220, 30, 30)), 1000);
+    EXPECT_EQ(countPixels(page, qRgb(30, 60, 220)), 0);
+}
+
+TEST_F(Rendering, HugeDocumentsLoadFromATemporaryFile)
+{
+    QString html = QStringLiteral("<html><body><div style=\"display:none\">");
+    const QString filler = QStringLiteral("<p>filler text of a very long document</p>");
+    while (html.size() < PdfRenderer::inlineHtmlLimit + 200 * 1000)
+        html += filler;
+    html += QStringLiteral("</div><h1>HUGE-END</h1></body></html>");
+    PdfInspector pdf(render(html));
+    ASSERT_TRUE(pdf.isValid());
+    EXPECT_TRUE(pdf.allText().contains(QStringLiteral("HUGE-END")));
+    EXPECT_TRUE(QDir(QDir::tempPath()).entryList({QStringLiteral("vorn-render-*")}, QDir::Dirs).size() >= 1);
+}
+
+TEST_F(Rendering, GarbageStylesStillGiveAPage)
+{
+    addDesign(QStringLiteral("<style>%CSS%</style><p>STYLED-%NUMBER%</p>"), {},
+              QStringLiteral("}}}{{{ body { color: ;;; font: 9999px/-3 \"\\\"; @media { { { </style><b>"));
+    select(addDocument(1));
+    PdfInspector pdf(render(preview.invoiceHTMLString()));
+    ASSERT_TRUE(pdf.isValid());
+    EXPECT_GE(pdf.pageCount(), 1);
+}
+
+TEST_F(Rendering, SeveralPagesRenderAtOnce)
+{
+    renderer.setParallelPages(3);
+    const int jobs = 7;
+    QList<std::optional<Result<QByteArray>>> results(jobs);
+    QEventLoop loop;
+    int done = 0;
+    for (int i = 0; i < jobs; ++i) {
+        renderer.render(preview.renderJob(QStringLiteral("<h1>JOB-%1-DONE</h1>").arg(i)), [&, i](Result<QByteArray> r) {
+            results[i] = std::move(r);
+            if (++done == jobs)
+                loop.quit();
+        });
+    }
+    if (done < jobs)
+        loop.exec();
+    for (int i = 0; i < jobs; ++i) {
+        ASSERT_TRUE(results[i] && results[i]->ok()) << i;
+        PdfInspector pdf(results[i]->value());
+        EXPECT_TRUE(pdf.allText().contains(QStringLiteral("JOB-%1-DONE").arg(i))) << i;
+    }
+}
+
+TEST_F(Rendering, ThePreviewWritesThePdfAndReportsIt)
+{
+    documentWithItems(2);
+    QFile::remove(state.pdfPath);
+    QSignalSpy ready(&preview, &PreviewController::previewReady);
+    QSignalSpy generating(&preview, &PreviewController::generatingChanged);
+    state.isReminderAction = true;
+    preview.generatePreview();
+    EXPECT_FALSE(state.isReminderAction);
+    EXPECT_TRUE(preview.isGenerating());
+    ASSERT_TRUE(ready.wait(30000));
+    EXPECT_EQ(ready.first().first().toString(), state.pdfPath);
+    EXPECT_FALSE(preview.isGenerating());
+    EXPECT_EQ(generating.count(), 2);
+    EXPECT_TRUE(settings.boolValue(QStringLiteral("isMainPreviewAction")));
+    QFile file(state.pdfPath);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    PdfInspector pdf(file.readAll());
+    EXPECT_TRUE(pdf.allText().contains(QStringLiteral("Item-2-end")));
+
+    preview.generateReminder({QStringLiteral("Second Notice"), {}, {}});
+    EXPECT_TRUE(state.isReminderAction);
+    ASSERT_TRUE(ready.wait(30000));
+    file.close();
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    PdfInspector reminder(file.readAll());
+    EXPECT_TRUE(reminder.allText().contains(QStringLiteral("Second Notice INV-2025-17")));
+    EXPECT_TRUE(ui.calls(QStringLiteral("alert")).isEmpty());
+}
+
+TEST_F(Rendering, AFileThatCannotBeWrittenIsNotLeftHalfDone)
+{
+    // A file where a folder should be: no permission can make that writable.
+    const QString blocker = QDir(environment.home()).filePath(QStringLiteral("not-a-folder"));
+    QFile file(blocker);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.close();
+    const QString target = blocker + QStringLiteral("/out.pdf");
+    Status s = renderer.renderToFile(preview.renderJob(QStringLiteral("<p>x</p>")), target);
+    EXPECT_FALSE(s.ok());
+    EXPECT_FALSE(QFile::exists(target));
+}
+
+} // namespace
+} // namespace vorn::test
