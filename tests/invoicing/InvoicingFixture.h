@@ -14,6 +14,17 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <ostream>
+
+inline void PrintTo(const QString& text, std::ostream* os)
+{
+    *os << '"' << text.toStdString() << '"';
+}
+
+inline void PrintTo(const QDateTime& date, std::ostream* os)
+{
+    *os << date.toString(Qt::ISODateWithMs).toStdString();
+}
 
 namespace vorn::test {
 
