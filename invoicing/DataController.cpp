@@ -3,9 +3,9 @@
 #include "invoicing/Calculator.h"
 #include "invoicing/FilterController.h"
 #include "invoicing/GUIController.h"
-#include "invoicing/InvoicingLog.h"
 #include "invoicing/Keys.h"
 #include "invoicing/NumberingController.h"
+#include "invoicing/SaveLog.h"
 #include "output/Clone.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
@@ -267,12 +267,7 @@ void DataController::invoicesArrangementChanged()
 
 void DataController::saveLoggingFailure()
 {
-    ObjectContext* context = m_state.context();
-    if (!context)
-        return;
-    if (Status s = context->save(); !s)
-        qCWarning(lcInvoicing).noquote() << QStringLiteral("Unresolved error %1, %2").arg(s.error().message,
-                                                                                          s.error().reason);
+    vorn::saveLoggingFailure(m_state.context());
 }
 
 } // namespace vorn

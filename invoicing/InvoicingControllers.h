@@ -4,6 +4,7 @@
 #include "invoicing/DataController.h"
 #include "invoicing/FilterController.h"
 #include "invoicing/GUIController.h"
+#include "invoicing/ItemController.h"
 #include "invoicing/NumberingController.h"
 
 #include <memory>
@@ -28,6 +29,7 @@ public:
     FilterController& filter() { return *m_filter; }
     GUIController& gui() { return *m_gui; }
     DataController& data() { return *m_data; }
+    ItemController& items() { return *m_items; }
 
 private:
     std::unique_ptr<Calculator> m_calculator;
@@ -35,6 +37,7 @@ private:
     std::unique_ptr<FilterController> m_filter;
     std::unique_ptr<GUIController> m_gui;
     std::unique_ptr<DataController> m_data;
+    std::unique_ptr<ItemController> m_items;
 };
 
 } // namespace vorn

@@ -1,0 +1,183 @@
+#include "tests/invoicing/InvoicingFixture.h"
+
+#include "invoicing/QVDragAndDropArrayController.h"
+
+using namespace vorn;
+using namespace vorn::test;
+
+namespace {
+
+using DnD = QVDragAndDropArrayController;
+
+struct CountCase
+{
+    QList<int> indexes;
+    int location, length, count;
+};
+
+const CountCase countCases[] = {
+    {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1}, {{0, 4}, 1, 3, 0}, {{0, 4}, 4, 1, 1},
+    {{3}, 0, 3, 0},    {{}, 0, 10, 0},    {{0, 1, 2}, 0, 0, 0}, {{5, 6, 9}, 6, 4, 2},
+};
+
+class CountOfIndexes : public ::testing::TestWithParam<CountCase>
+{
+};
+
+TEST_P(CountOfIndexes, InRange)
+{
+    const CountCase& c = GetParam();
+    EXPECT_EQ(DnD::countOfIndexesInRange(c.indexes, c.location, c.length), c.count);
+}
+
+INSTANTIATE_TEST_SUITE_P(DragAndDrop, CountOfIndexes, ::testing::ValuesIn(countCases));
+
+class DragAndDropTest : public InvoicingFixture
+{
+protected:
+    DragAndDropTest()
+    {
+        doc = document(1);
+        for (int i = 0; i < 5; ++i) {
+            ManagedObject* line = item(doc, float(i + 1), 1);
+            line->setValue(key::title, QString::number(i));
+        }
+        select(doc);
+    }
+    QString order() const
+    {
+        QString text;
+        for (const ManagedObject* line : doc->items())
+            text += line->stringValue(key::title);
+        return text;
+    }
+    DnD& dnd() { return controllers->items().dragAndDrop(); }
+
+    ManagedObject* doc = nullptr;
+};
+
+struct MoveCase
+{
+    const char* name;
+    QList<int> indexes;
+    int to;
+    const char* order;
+    QList<int> landed;
+};
+
+const MoveCase moveCases[] = {
+    {"twoDownToRowFour", {1, 2}, 4, "03124", {2, 3}},
+    {"firstToEnd", {0}, 5, "12340", {4}},
+    {"lastToTop", {4}, 0, "40123", {0}},
+    {"ends ToMiddle", {0, 4}, 2, "10423", {1, 2}},
+    {"ontoItself", {2}, 2, "01234", {2}},
+    {"justBelowItself", {2}, 3, "01234", {2}},
+    {"pastTheEndClamps", {1, 3}, 10, "02413", {3, 4}},
+    {"unorderedDuplicates", {3, 1, 3}, 0, "13024", {0, 1}},
+    {"outOfRangeIgnored", {7, -1}, 0, "01234", {}},
+};
+
+class MovingRows : public DragAndDropTest, public ::testing::WithParamInterface<MoveCase>
+{
+};
+
+TEST_P(MovingRows, LandAsOneBlock)
+{
+    const MoveCase& c = GetParam();
+    EXPECT_EQ(dnd().moveObjectsInArrangedObjectsFromIndexes(c.indexes, c.to), c.landed);
+    EXPECT_EQ(order(), QString::fromUtf8(c.order));
+    EXPECT_EQ(state.itemsController().arrangedObjects(), doc->items());
+    if (!c.landed.isEmpty()) {
+        EXPECT_EQ(state.itemsController().selectionIndexes(), c.landed);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(DragAndDrop, MovingRows, ::testing::ValuesIn(moveCases), [](const auto& info) {
+    std::string name = info.param.name;
+    std::erase(name, ' ');
+    return name;
+});
+
+struct ValidateCase
+{
+    bool fromThisTable, optionHeld;
+    int proposed;
+    DnD::Operation operation;
+    int row;
+};
+
+const ValidateCase validateCases[] = {
+    {true, false, 3, DnD::Move, 3},
+    {true, true, 3, DnD::Copy, 3},
+    {false, false, 1, DnD::Copy, 1},
+    {false, true, -4, DnD::Copy, 0},
+};
+
+class ValidatingDrops : public DragAndDropTest, public ::testing::WithParamInterface<ValidateCase>
+{
+};
+
+TEST_P(ValidatingDrops, OperationAndRow)
+{
+    const ValidateCase& c = GetParam();
+    const DnD::DropProposal p = dnd().validateDrop(c.fromThisTable, c.optionHeld, c.proposed);
+    EXPECT_EQ(p.operation, c.operation);
+    EXPECT_EQ(p.row, c.row);
+    EXPECT_TRUE(p.above);
+}
+
+INSTANTIATE_TEST_SUITE_P(DragAndDrop, ValidatingDrops, ::testing::ValuesIn(validateCases));
+
+TEST_F(DragAndDropTest, WrittenRowsMoveOnDropAndRecalculate)
+{
+    DnD::Pasteboard pb = dnd().writeRows({2, 1});
+    EXPECT_EQ(pb.types, (QStringList{DnD::copiedRowsType, DnD::movedRowsType}));
+    EXPECT_FALSE(pb.copiedRows.has_value());
+    EXPECT_TRUE(dnd().acceptDrop(pb, true, false, 4));
+    EXPECT_EQ(order(), QStringLiteral("03124"));
+    EXPECT_FLOAT_EQ(doc->floatValue(key::subAmount), 15.0f);
+    EXPECT_FALSE(context.hasChanges());
+
+    DnD::Pasteboard single = dnd().writeRows({0});
+    EXPECT_EQ(single.types.last(), DnD::stringType);
+    EXPECT_EQ(single.string, QStringLiteral("0"));
+}
+
+TEST_F(DragAndDropTest, OptionDropWithinTheTableFindsNothingToCopy)
+{
+    DnD::Pasteboard pb = dnd().writeRows({1});
+    EXPECT_FALSE(dnd().acceptDrop(pb, true, true, 4));
+    EXPECT_EQ(order(), QStringLiteral("01234"));
+    EXPECT_EQ(doc->items().size(), 5);
+}
+
+TEST_F(DragAndDropTest, CopiedRowsAndUrlsInsertNewLines)
+{
+    DnD::Pasteboard rows;
+    rows.copiedRows = QVariantList{QVariantMap{{key::title, QStringLiteral("x")}, {key::baseAmount, 2.0}},
+                                   QVariantMap{{key::title, QStringLiteral("y")}, {QStringLiteral("bogus"), 1}}};
+    EXPECT_TRUE(dnd().acceptDrop(rows, false, false, 1));
+    EXPECT_EQ(order(), QStringLiteral("0xy1234"));
+    EXPECT_EQ(state.itemsController().selectionIndexes(), (QList<int>{1, 2}));
+
+    DnD::Pasteboard url;
+    url.url = QStringLiteral("https://example.org/");
+    EXPECT_TRUE(dnd().acceptDrop(url, false, false, -3));
+    EXPECT_EQ(doc->items().size(), 8);
+    EXPECT_EQ(doc->items().first()->stringValue(key::title), QString());
+
+    EXPECT_FALSE(dnd().acceptDrop(DnD::Pasteboard{}, false, false, 0));
+    EXPECT_FALSE(dnd().acceptDrop(DnD::Pasteboard{{}, QByteArray("garbage"), {}, {}, {}}, true, false, 0));
+}
+
+TEST_F(DragAndDropTest, SentDocumentsRefuseDropsAndMoves)
+{
+    doc->setValue(key::status, 2);
+    EXPECT_EQ(dnd().validateDrop(true, false, 1).operation, DnD::None);
+    EXPECT_FALSE(dnd().acceptDrop(dnd().writeRows({0}), true, false, 3));
+    EXPECT_TRUE(controllers->items().moveItems({0}, 3).isEmpty());
+    EXPECT_EQ(ui.alertTitles(), QStringList{QStringLiteral("Error!")});
+    EXPECT_EQ(order(), QStringLiteral("01234"));
+}
+
+} // namespace
