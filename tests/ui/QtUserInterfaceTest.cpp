@@ -1,0 +1,206 @@
+#include "ui/QtUserInterface.h"
+#include "app/AppDelegate.h"
+#include "store/Clock.h"
+#include "store/Settings.h"
+#include "tests/support/TestEnvironment.h"
+#include "ui/MainWindow.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QMessageBox>
+#include <QPushButton>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace vorn::test {
+namespace {
+
+// What the user saw in the message box that was answered.
+struct Seen
+{
+    QStringList buttons;
+    QString defaultButton;
+    QString text;
+    QString informativeText;
+    Qt::WindowModality modality = Qt::NonModal;
+    bool onMainWindow = false;
+};
+
+// Answers the next message box as soon as it is up, the way a user would.
+void answerNextBox(std::function<void(QMessageBox&)> answer, Seen& seen, const QWidget* mainWindow)
+{
+    auto* timer = new QTimer;
+    timer->setInterval(10);
+    QObject::connect(timer, &QTimer::timeout, [timer, answer = std::move(answer), &seen, mainWindow] {
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+        if (!box || !box->isVisible())
+            return;
+        timer->stop();
+        timer->deleteLater();
+        for (QAbstractButton* button : box->buttons())
+            seen.buttons << button->text();
+        // The platform's button order may differ from the alert's; compare as sets.
+        seen.buttons.sort();
+        seen.defaultButton = box->defaultButton() ? box->defaultButton()->text() : QString();
+        seen.text = box->text();
+        seen.informativeText = box->informativeText();
+        seen.modality = box->windowModality();
+        seen.onMainWindow = mainWindow && box->parentWidget() == mainWindow;
+        answer(*box);
+    });
+    timer->start();
+}
+
+std::function<void(QMessageBox&)> click(const QString& text)
+{
+    return [text](QMessageBox& box) {
+        for (QAbstractButton* button : box.buttons())
+            if (button->text() == text)
+                return button->click();
+        ADD_FAILURE() << "no button " << text.toStdString();
+        box.done(0);
+    };
+}
+
+std::function<void(QMessageBox&)> press(Qt::Key key)
+{
+    return [key](QMessageBox& box) { QTest::keyClick(&box, key); };
+}
+
+class QtUserInterfaceTest : public ::testing::Test
+{
+protected:
+    QtUserInterfaceTest()
+    {
+        ui.setMainWindow(&window);
+        window.show();
+    }
+
+    TestEnvironment env;
+    Settings settings{env.locations().settingsFile()};
+    QtUserInterface ui;
+    AppDelegate app{settings, ui, Clock::system(), env.locations()};
+    MainWindow window{app};
+};
+
+struct AlertCase
+{
+    const char* what;
+    QStringList buttons;
+    bool sheet;
+    std::function<void(QMessageBox&)> answer;
+    int expected;
+};
+
+class AlertTest : public QtUserInterfaceTest, public ::testing::WithParamInterface<AlertCase>
+{
+};
+
+TEST_P(AlertTest, AnswersThePositionOfTheChosenButton)
+{
+    const AlertCase& c = GetParam();
+    SCOPED_TRACE(c.what);
+    Seen seen;
+    answerNextBox(c.answer, seen, &window);
+    const UserInterface::Alert alert{QStringLiteral("Delete Invoice"),
+                                     QStringLiteral("Do you really want to?"), c.buttons,
+                                     UserInterface::AlertStyle::Warning, c.sheet};
+    EXPECT_EQ(ui.runAlert(alert), c.expected);
+
+    QStringList shown = c.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : c.buttons;
+    shown.sort();
+    EXPECT_EQ(seen.buttons, shown);
+    EXPECT_EQ(seen.defaultButton, c.buttons.isEmpty() ? QStringLiteral("OK") : c.buttons.first());
+    EXPECT_EQ(seen.text, alert.title);
+    EXPECT_EQ(seen.informativeText, alert.text);
+    EXPECT_EQ(seen.modality, c.sheet ? Qt::WindowModal : Qt::ApplicationModal);
+    EXPECT_EQ(seen.onMainWindow, true);
+}
+
+const QStringList deleteOrCancel{QStringLiteral("Delete"), QStringLiteral("Cancel")};
+const QStringList threeWay{QStringLiteral("Save"), QStringLiteral("Don't Save"), QStringLiteral("Cancel")};
+
+INSTANTIATE_TEST_SUITE_P(
+    Buttons, AlertTest,
+    ::testing::Values(AlertCase{"the first button", deleteOrCancel, true, click("Delete"), 0},
+                      AlertCase{"the second button", deleteOrCancel, true, click("Cancel"), 1},
+                      AlertCase{"Return takes the first button", deleteOrCancel, true, press(Qt::Key_Return),
+                                0},
+                      AlertCase{"Escape takes Cancel", deleteOrCancel, false, press(Qt::Key_Escape), 1},
+                      AlertCase{"no buttons means one OK", {}, false, click("OK"), 0},
+                      AlertCase{"Escape on a lone OK", {}, true, press(Qt::Key_Escape), 0},
+                      AlertCase{"the middle of three", threeWay, true, click("Don't Save"), 1},
+                      AlertCase{"Escape among three takes Cancel, wherever it is", threeWay, false,
+                                press(Qt::Key_Escape), 2},
+                      AlertCase{"Escape among three takes Cancel, wherever it is",
+                                {QStringLiteral("Cancel"), QStringLiteral("Convert")},
+                                false,
+                                press(Qt::Key_Escape),
+                                0}),
+    [](const ::testing::TestParamInfo<AlertCase>& info) { return std::to_string(info.index); });
+
+TEST_F(QtUserInterfaceTest, PresentsAnErrorWithItsReasonAndDoesNotRecover)
+{
+    Seen seen;
+    answerNextBox(press(Qt::Key_Return), seen, &window);
+    EXPECT_FALSE(ui.presentError(
+        Error::make(ErrorCode::StoreInitFailed, QStringLiteral("Failed to initialize the store"),
+                    QStringLiteral("There was an error building up the data file."))));
+    EXPECT_EQ(seen.text, QStringLiteral("Failed to initialize the store"));
+    EXPECT_EQ(seen.informativeText, QStringLiteral("There was an error building up the data file."));
+}
+
+struct ProgramCase
+{
+    const char* what;
+    QStringList installed;
+    QString identifier;
+    QString found; // program name, or empty
+};
+
+class ProgramTest : public ::testing::TestWithParam<ProgramCase>
+{
+};
+
+TEST_P(ProgramTest, FindsTheDesktopsOwnHelperProgram)
+{
+    const ProgramCase& c = GetParam();
+    SCOPED_TRACE(c.what);
+    QTemporaryDir bin;
+    for (const QString& name : c.installed) {
+        QFile file(bin.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write("#!/bin/sh\nexit 0\n");
+        file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    }
+    const QByteArray savedPath = qgetenv("PATH");
+    qputenv("PATH", QFile::encodeName(bin.path()));
+    const QString found = QtUserInterface::findApplication(c.identifier);
+    QtUserInterface ui;
+    const bool opened = ui.openApplication(c.identifier);
+    qputenv("PATH", savedPath);
+
+    EXPECT_EQ(found, c.found.isEmpty() ? QString() : bin.filePath(c.found));
+    EXPECT_EQ(opened, !c.found.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Programs, ProgramTest,
+    ::testing::Values(ProgramCase{"the usual calculator first",
+                                  {"xcalc", "kcalc", "gnome-calculator"},
+                                  "calculator",
+                                  "gnome-calculator"},
+                      ProgramCase{"any calculator will do", {"galculator"}, "calculator", "galculator"},
+                      ProgramCase{"no calculator installed", {"gnome-contacts"}, "calculator", ""},
+                      ProgramCase{"contacts", {"kaddressbook"}, "contacts", "kaddressbook"},
+                      ProgramCase{"a helper nobody knows", {"mail"}, "mail", ""}),
+    [](const ::testing::TestParamInfo<ProgramCase>& info) { return std::to_string(info.index); });
+
+} // namespace
+} // namespace vorn::test

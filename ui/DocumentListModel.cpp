@@ -1,0 +1,182 @@
+#include "ui/DocumentListModel.h"
+
+#include "store/ManagedObject.h"
+
+#include <QColor>
+#include <QLocale>
+#include <QRegularExpression>
+
+namespace vorn {
+
+namespace {
+
+const QString kKind = QStringLiteral("kind");
+const QString kStatus = QStringLiteral("status");
+const QString kNumber = QStringLiteral("number");
+const QString kTitle = QStringLiteral("title");
+const QString kAddress = QStringLiteral("address");
+const QString kDate = QStringLiteral("date");
+const QString kAmount = QStringLiteral("amount");
+const QString kCurrency = QStringLiteral("currency");
+
+} // namespace
+
+int DocumentListModel::columnCount(const QModelIndex& parent) const
+{
+    return parent.isValid() ? 0 : ColumnCount;
+}
+
+QString DocumentListModel::statusText(qint64 status)
+{
+    switch (status) {
+    case 1:
+        return tr("Sent");
+    case 2:
+        return tr("Overdue");
+    case 3:
+        return tr("Paid");
+    case 4:
+        return tr("Partly Paid");
+    default:
+        // Unknown values read as a fresh document, as the status stamps do.
+        return tr("Created");
+    }
+}
+
+QString DocumentListModel::kindText(qint64 kind)
+{
+    return kind == 0 ? tr("Quote") : tr("Invoice");
+}
+
+QString DocumentListModel::firstLine(const QString& text)
+{
+    static const QRegularExpression lineBreak(QStringLiteral("[\\r\\n\\x{2028}\\x{2029}]"));
+    const QStringList lines = text.split(lineBreak);
+    for (const QString& line : lines) {
+        const QString trimmed = line.trimmed();
+        if (!trimmed.isEmpty())
+            return trimmed;
+    }
+    return {};
+}
+
+QString DocumentListModel::amountText(float amount, const QString& currency)
+{
+    const QString number = QLocale().toString(double(amount), 'f', 2);
+    return currency.isEmpty() ? number : number + QChar(0x00A0) + currency;
+}
+
+QVariant DocumentListModel::data(const QModelIndex& index, int role) const
+{
+    const ManagedObject* doc = objectAt(index.row());
+    if (!doc || index.column() < 0 || index.column() >= ColumnCount)
+        return {};
+    const qint64 kind = doc->intValue(kKind);
+    const qint64 status = doc->intValue(kStatus);
+
+    switch (role) {
+    case Qt::DisplayRole:
+        switch (index.column()) {
+        case NumberColumn:
+            return doc->stringValue(kNumber);
+        case TitleColumn: {
+            const QString title = doc->stringValue(kTitle).trimmed();
+            return title.isEmpty() ? kindText(kind) : title;
+        }
+        case ClientColumn:
+            return firstLine(doc->stringValue(kAddress));
+        case DateColumn: {
+            const QDateTime date = doc->dateValue(kDate);
+            return date.isValid() ? QLocale().toString(date.toLocalTime().date(), QLocale::ShortFormat)
+                                  : QString();
+        }
+        case AmountColumn:
+            return amountText(doc->floatValue(kAmount), doc->stringValue(kCurrency));
+        case StatusColumn:
+            return statusText(status);
+        }
+        break;
+    case Qt::ToolTipRole:
+        switch (index.column()) {
+        case TitleColumn:
+            return kindText(kind);
+        case ClientColumn:
+            return doc->stringValue(kAddress).trimmed();
+        case DateColumn: {
+            const QDateTime date = doc->dateValue(kDate);
+            return date.isValid() ? QLocale().toString(date.toLocalTime(), QLocale::LongFormat) : QString();
+        }
+        }
+        break;
+    case Qt::TextAlignmentRole:
+        if (index.column() == AmountColumn)
+            return QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter);
+        return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    case Qt::ForegroundRole:
+        // Invoices that need attention stand out; quotes are never overdue.
+        if (index.column() == StatusColumn && kind != 0) {
+            if (status == 2)
+                return QColor(0xc6, 0x28, 0x28);
+            if (status == 3)
+                return QColor(0x2e, 0x7d, 0x32);
+            if (status == 4)
+                return QColor(0xb2, 0x6a, 0x00);
+        }
+        break;
+    case ValueRole:
+        switch (index.column()) {
+        case NumberColumn:
+            return doc->value(kNumber);
+        case TitleColumn:
+            return doc->value(kTitle);
+        case ClientColumn:
+            return doc->value(kAddress);
+        case DateColumn:
+            return doc->value(kDate);
+        case AmountColumn:
+            return doc->value(kAmount);
+        case StatusColumn:
+            return doc->value(kStatus);
+        }
+        break;
+    case KindRole:
+        return kind;
+    case StatusRole:
+        return status;
+    }
+    return {};
+}
+
+QVariant DocumentListModel::headerData(int section, Qt::Orientation orientation, int role) const
+{
+    if (orientation != Qt::Horizontal)
+        return {};
+    if (role == Qt::TextAlignmentRole)
+        return QVariant::fromValue((section == AmountColumn ? Qt::AlignRight : Qt::AlignLeft) |
+                                   Qt::AlignVCenter);
+    if (role != Qt::DisplayRole)
+        return {};
+    switch (section) {
+    case NumberColumn:
+        return tr("Number");
+    case TitleColumn:
+        return tr("Title");
+    case ClientColumn:
+        return tr("Client");
+    case DateColumn:
+        return tr("Date");
+    case AmountColumn:
+        return tr("Amount");
+    case StatusColumn:
+        return tr("Status");
+    }
+    return {};
+}
+
+bool DocumentListModel::showsKey(const QString& key) const
+{
+    return key == kNumber || key == kTitle || key == kKind || key == kAddress || key == kDate ||
+           key == kAmount || key == kCurrency || key == kStatus;
+}
+
+} // namespace vorn

@@ -1,0 +1,109 @@
+#include "ui/DocumentListView.h"
+
+#include "ui/DocumentListModel.h"
+
+#include <QApplication>
+#include <QHeaderView>
+#include <QPainter>
+#include <QStyledItemDelegate>
+
+namespace vorn {
+
+namespace {
+
+constexpr int kCellPadding = 8;
+
+// Cells with room on both sides of their text; rows are selected as a whole,
+// so the current cell gets no focus frame of its own.
+class PaddedItemDelegate : public QStyledItemDelegate
+{
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        QStyleOptionViewItem opt = option;
+        initStyleOption(&opt, index);
+        opt.state &= ~QStyle::State_HasFocus;
+        const QWidget* widget = option.widget;
+        QStyle* style = widget ? widget->style() : QApplication::style();
+        style->drawPrimitive(QStyle::PE_PanelItemViewItem, &opt, painter, widget);
+        opt.rect.adjust(kCellPadding - 3, 0, -(kCellPadding - 3), 0);
+        style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
+    }
+
+    QSize sizeHint(const QStyleOptionViewItem& option, const QModelIndex& index) const override
+    {
+        return QStyledItemDelegate::sizeHint(option, index) + QSize(2 * (kCellPadding - 3), 0);
+    }
+};
+
+} // namespace
+
+DocumentListView::DocumentListView(QWidget* parent) : QTableView(parent)
+{
+    setSelectionBehavior(QAbstractItemView::SelectRows);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setAlternatingRowColors(true);
+    setShowGrid(false);
+    setWordWrap(false);
+    setTextElideMode(Qt::ElideRight);
+    setTabKeyNavigation(false);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setVerticalScrollMode(QAbstractItemView::ScrollPerPixel);
+    verticalHeader()->hide();
+    verticalHeader()->setSectionResizeMode(QHeaderView::Fixed);
+    verticalHeader()->setDefaultSectionSize(fontMetrics().height() + 12);
+    horizontalHeader()->setHighlightSections(false);
+    horizontalHeader()->setStretchLastSection(false);
+    horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+    horizontalHeader()->setMinimumSectionSize(48);
+    horizontalHeader()->setStyleSheet(
+        QStringLiteral("QHeaderView::section { padding-left: %1px; padding-right: %1px; }")
+            .arg(kCellPadding - 2));
+    setItemDelegate(new PaddedItemDelegate(this));
+}
+
+void DocumentListView::setModel(QAbstractItemModel* model)
+{
+    QTableView::setModel(model);
+    if (!model || model->columnCount() != DocumentListModel::ColumnCount)
+        return;
+    // The client takes what room is left; the other columns fit their text.
+    QHeaderView* header = horizontalHeader();
+    const QFontMetrics metrics = fontMetrics();
+    const auto width = [&metrics](const QString& sample) { return metrics.horizontalAdvance(sample) + 28; };
+    header->setSectionResizeMode(QHeaderView::Interactive);
+    header->setSectionResizeMode(DocumentListModel::ClientColumn, QHeaderView::Stretch);
+    header->resizeSection(DocumentListModel::NumberColumn, width(QStringLiteral("INV-2026-00000")));
+    header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Invoice for services")));
+    header->resizeSection(DocumentListModel::DateColumn, width(QStringLiteral("00/00/0000")));
+    header->resizeSection(DocumentListModel::AmountColumn, width(QStringLiteral("000,000.00 EUR")));
+    header->resizeSection(DocumentListModel::StatusColumn, width(QStringLiteral("Partly Paid")));
+}
+
+void DocumentListView::setPlaceholderText(const QString& text)
+{
+    if (text == m_placeholder)
+        return;
+    m_placeholder = text;
+    viewport()->update();
+}
+
+void DocumentListView::paintEvent(QPaintEvent* event)
+{
+    QTableView::paintEvent(event);
+    if (m_placeholder.isEmpty() || (model() && model()->rowCount() > 0))
+        return;
+    QPainter painter(viewport());
+    QFont font = painter.font();
+    font.setPointSizeF(font.pointSizeF() * 1.15);
+    painter.setFont(font);
+    painter.setPen(palette().color(QPalette::PlaceholderText));
+    painter.drawText(viewport()->rect().adjusted(24, 24, -24, -24), Qt::AlignCenter | Qt::TextWordWrap,
+                     m_placeholder);
+}
+
+} // namespace vorn

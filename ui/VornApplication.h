@@ -1,0 +1,29 @@
+#pragma once
+
+#include <QApplication>
+#include <QStringList>
+
+#include <functional>
+
+namespace vorn {
+
+// The application object. Files the desktop asks Vorn to open arrive as
+// events, possibly before the application is ready for them: they wait
+// until a handler is set.
+class VornApplication : public QApplication
+{
+    Q_OBJECT
+public:
+    VornApplication(int& argc, char** argv);
+
+    void setFileOpenHandler(std::function<void(const QString&)> handler);
+
+protected:
+    bool event(QEvent* event) override;
+
+private:
+    std::function<void(const QString&)> m_openFile;
+    QStringList m_pending;
+};
+
+} // namespace vorn

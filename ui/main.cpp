@@ -1,0 +1,76 @@
+#include "app/AppDelegate.h"
+#include "app/InstanceLock.h"
+#include "store/Clock.h"
+#include "store/FileLocations.h"
+#include "store/Settings.h"
+#include "ui/MainWindow.h"
+#include "ui/QtUserInterface.h"
+#include "ui/UiLog.h"
+#include "ui/VornApplication.h"
+
+#include <QCommandLineParser>
+#include <QMessageBox>
+
+using namespace vorn;
+
+int main(int argc, char** argv)
+{
+    VornApplication application(argc, argv);
+    QApplication::setApplicationName(QStringLiteral("Vorn"));
+    QApplication::setApplicationDisplayName(QStringLiteral("Vorn"));
+    QApplication::setOrganizationDomain(QStringLiteral("tandrelo.com"));
+    QApplication::setApplicationVersion(QStringLiteral(VORN_VERSION));
+
+    QCommandLineParser parser;
+    parser.setApplicationDescription(
+        QApplication::translate("main", "Invoices, quotes and payment reminders."));
+    parser.addHelpOption();
+    parser.addVersionOption();
+    parser.addPositionalArgument(
+        QStringLiteral("files"),
+        QApplication::translate("main", "Files to open (Vorn explains how to import them)."),
+        QStringLiteral("[files...]"));
+    parser.process(application);
+
+    const FileLocations locations = FileLocations::fromEnvironment();
+    QtUserInterface ui;
+
+    // An unreadable settings file is reported once; Vorn then runs on its
+    // standard settings and leaves the file alone.
+    Settings settings(locations.settingsFile());
+    if (Status loaded = settings.load(); !loaded)
+        ui.presentError(loaded.error());
+
+    InstanceLock lock(locations.lockFile());
+    if (Status locked = lock.tryLock(); !locked) {
+        if (locked.error().code == ErrorCode::StoreLocked) {
+            QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
+                            QApplication::translate("main", "Vorn is already running."), QMessageBox::Ok);
+            box.setInformativeText(locked.error().reason);
+            box.exec();
+            return 1;
+        }
+        // Without a usable folder the store reports the problem itself.
+        qCWarning(lcUi).noquote() << locked.error().fullText();
+    }
+
+    AppDelegate app(settings, ui, Clock::system(), locations);
+    MainWindow window(app);
+    ui.setMainWindow(&window);
+
+    app.awakeFromNib();
+    app.applicationDidFinishLaunching();
+    qCInfo(lcUi).noquote() << "Vorn" << QApplication::applicationVersion() << "started with store"
+                           << (app.state().context() ? app.state().storeURL : QStringLiteral("(none)"));
+    window.show();
+    app.fadeViewIn();
+    settings.setAutoSynchronize(true);
+
+    // Dropped or double-clicked files are never opened directly: the
+    // application explains how to import them.
+    application.setFileOpenHandler([&app](const QString& path) { app.applicationOpenFile(path); });
+    for (const QString& path : parser.positionalArguments())
+        app.applicationOpenFile(path);
+
+    return application.exec();
+}
