@@ -78,7 +78,7 @@ void DocumentListView::setModel(QAbstractItemModel* model)
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setSectionResizeMode(DocumentListModel::ClientColumn, QHeaderView::Stretch);
     header->resizeSection(DocumentListModel::NumberColumn, width(QStringLiteral("INV-2026-00000")));
-    header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Invoice for services")));
+    header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Consulting, November 2026")));
     header->resizeSection(DocumentListModel::DateColumn, width(QStringLiteral("00/00/0000")));
     header->resizeSection(DocumentListModel::AmountColumn, width(QStringLiteral("000,000.00 EUR")));
     header->resizeSection(DocumentListModel::StatusColumn, width(QStringLiteral("Partly Paid")));

@@ -137,6 +137,8 @@ void MainWindow::createCentralArea()
     m_amountsLabel = new QLabel(this);
     m_amountsLabel->setObjectName(QStringLiteral("documentTotals"));
     m_amountsLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    m_countsLabel->setContentsMargins(6, 2, 6, 2);
+    m_amountsLabel->setContentsMargins(6, 2, 6, 2);
     statusBar()->addWidget(m_countsLabel, 1);
     statusBar()->addPermanentWidget(m_amountsLabel);
     statusBar()->setSizeGripEnabled(true);
