@@ -9,7 +9,9 @@ InvoicingControllers::InvoicingControllers(AppState& state)
       m_filter(std::make_unique<FilterController>(state, *m_calculator)),
       m_gui(std::make_unique<GUIController>(state)),
       m_data(std::make_unique<DataController>(state, *m_calculator, *m_numbering, *m_filter, *m_gui)),
-      m_items(std::make_unique<ItemController>(state, *m_calculator))
+      m_items(std::make_unique<ItemController>(state, *m_calculator)),
+      m_shipping(std::make_unique<ShippingController>(state, *m_calculator)),
+      m_discount(std::make_unique<DiscountController>(state, *m_calculator))
 {
 }
 

@@ -2,10 +2,12 @@
 
 #include "invoicing/Calculator.h"
 #include "invoicing/DataController.h"
+#include "invoicing/DiscountController.h"
 #include "invoicing/FilterController.h"
 #include "invoicing/GUIController.h"
 #include "invoicing/ItemController.h"
 #include "invoicing/NumberingController.h"
+#include "invoicing/ShippingController.h"
 
 #include <memory>
 
@@ -30,6 +32,8 @@ public:
     GUIController& gui() { return *m_gui; }
     DataController& data() { return *m_data; }
     ItemController& items() { return *m_items; }
+    ShippingController& shipping() { return *m_shipping; }
+    DiscountController& discount() { return *m_discount; }
 
 private:
     std::unique_ptr<Calculator> m_calculator;
@@ -38,6 +42,8 @@ private:
     std::unique_ptr<GUIController> m_gui;
     std::unique_ptr<DataController> m_data;
     std::unique_ptr<ItemController> m_items;
+    std::unique_ptr<ShippingController> m_shipping;
+    std::unique_ptr<DiscountController> m_discount;
 };
 
 } // namespace vorn

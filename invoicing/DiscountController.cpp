@@ -1,0 +1,80 @@
+#include "invoicing/DiscountController.h"
+
+#include "invoicing/Calculator.h"
+#include "invoicing/Keys.h"
+#include "invoicing/SentLock.h"
+#include "store/AppState.h"
+#include "store/Settings.h"
+#include "store/UserInterface.h"
+
+namespace vorn {
+
+DiscountController::DiscountController(AppState& state, Calculator& calculator, QObject* parent)
+    : QObject(parent), m_state(state), m_calculator(calculator)
+{
+}
+
+void DiscountController::showDiscountPopover()
+{
+    if (m_shown) {
+        m_shown = false;
+        Q_EMIT popoverChanged();
+        return;
+    }
+    if (SentLock::refuse(m_state))
+        return;
+    ManagedObject* doc = m_state.currentInvoice();
+    if (!doc) {
+        m_state.ui().beep();
+        return;
+    }
+    // A document that never had a discount starts with the default title.
+    const QString defaultTitle = m_state.settings().stringValue(key::locDiscount);
+    if (!doc->boolValue(key::isDiscountEnabled) && doc->stringValue(key::discountTitle).isEmpty() &&
+        !defaultTitle.isEmpty())
+        doc->setValue(key::discountTitle, defaultTitle);
+    m_shown = true;
+    Q_EMIT popoverChanged();
+}
+
+void DiscountController::recalculate()
+{
+    m_state.invoicesController().rearrangeObjects();
+    m_calculator.calculateInvoice(m_state.currentInvoice());
+    m_calculator.calculateDatabase();
+}
+
+void DiscountController::closeDiscountPopover()
+{
+    ObjectContext* context = m_state.context();
+    UndoGroup group(context ? context->undoManager() : nullptr, tr("Discount"));
+    recalculate();
+    m_shown = false;
+    Q_EMIT popoverChanged();
+}
+
+bool DiscountController::switchDiscountOff()
+{
+    if (SentLock::refuse(m_state))
+        return false;
+    ManagedObject* doc = m_state.currentInvoice();
+    if (!doc)
+        return false;
+    ObjectContext* context = m_state.context();
+    UndoGroup group(context ? context->undoManager() : nullptr, tr("Discount"));
+    doc->setValue(key::isDiscountEnabled, false);
+    recalculate();
+    return true;
+}
+
+void DiscountController::makeDiscountTitleResponder()
+{
+    m_state.ui().focus(QStringLiteral("discountPopoverTitleView"));
+}
+
+void DiscountController::makeDiscountSubtitleTitleResponder()
+{
+    m_state.ui().focus(QStringLiteral("discountPopoverSubtitleView"));
+}
+
+} // namespace vorn

@@ -1,0 +1,198 @@
+#include "tests/invoicing/InvoicingFixture.h"
+
+using namespace vorn;
+using namespace vorn::test;
+
+namespace {
+
+class ShippingDiscountTest : public InvoicingFixture
+{
+protected:
+    ShippingDiscountTest()
+    {
+        settings.setValue(key::locShipping, QStringLiteral("Shipping"));
+        settings.setValue(key::locDiscount, QStringLiteral("Discount"));
+        doc = document(1);
+        item(doc, 100, 1);
+        select(doc);
+    }
+    ShippingController& shipping() { return controllers->shipping(); }
+    DiscountController& discount() { return controllers->discount(); }
+
+    // Fills the shipping popover as a user would and accepts it.
+    void acceptShipping(const QString& title, float amount)
+    {
+        if (!shipping().isShippingPopoverShown())
+            shipping().showShippingPopover();
+        doc->setValue(key::isShippingEnabled, true);
+        doc->setValue(key::shippingTitle, title);
+        doc->setValue(key::shippingAmount, amount);
+        shipping().closeShippingPopover();
+    }
+    QStringList remembered()
+    {
+        QStringList list;
+        for (const ManagedObject* r : state.recentShippingArrayController().arrangedObjects())
+            list << r->stringValue(key::title) + QLatin1Char('/') + QString::number(r->floatValue(key::amount));
+        return list;
+    }
+
+    ManagedObject* doc = nullptr;
+};
+
+struct DefaultTitleCase
+{
+    const char* name;
+    bool discount; // the discount popover rather than the shipping one
+    bool enabled;
+    const char* title;
+    const char* setting;
+    const char* expected;
+};
+
+const DefaultTitleCase defaultTitleCases[] = {
+    {"newShipping", false, false, "", "Shipping", "Shipping"},
+    {"shippingWithTitleKeepsIt", false, false, "Express", "Shipping", "Express"},
+    {"shippingOnWithEmptyTitle", false, true, "", "Shipping", ""},
+    {"noDefaultShippingTitle", false, false, "", "", ""},
+    {"newDiscount", true, false, "", "Discount", "Discount"},
+    {"discountWithTitleKeepsIt", true, false, "Loyalty", "Discount", "Loyalty"},
+    {"discountOnWithEmptyTitle", true, true, "", "Discount", ""},
+};
+
+class DefaultTitles : public ShippingDiscountTest, public ::testing::WithParamInterface<DefaultTitleCase>
+{
+};
+
+TEST_P(DefaultTitles, OnOpening)
+{
+    const DefaultTitleCase& c = GetParam();
+    const QString& titleKey = c.discount ? key::discountTitle : key::shippingTitle;
+    settings.setValue(c.discount ? key::locDiscount : key::locShipping, QString::fromUtf8(c.setting));
+    doc->setValue(c.discount ? key::isDiscountEnabled : key::isShippingEnabled, c.enabled);
+    doc->setValue(titleKey, QString::fromUtf8(c.title));
+    if (c.discount)
+        discount().showDiscountPopover();
+    else
+        shipping().showShippingPopover();
+    EXPECT_EQ(doc->stringValue(titleKey), QString::fromUtf8(c.expected));
+    EXPECT_TRUE(c.discount ? discount().isDiscountPopoverShown() : shipping().isShippingPopoverShown());
+}
+
+INSTANTIATE_TEST_SUITE_P(Shipping, DefaultTitles, ::testing::ValuesIn(defaultTitleCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST_F(ShippingDiscountTest, ButtonsToggleAndSentDocumentsAreRefused)
+{
+    settings.setValue(key::alwaysShowRecentShipping, 1);
+    shipping().showShippingPopover();
+    EXPECT_TRUE(shipping().isShippingPopoverShown());
+    EXPECT_EQ(settings.intValue(key::shippingTabViewIndex), 1);
+    shipping().showShippingPopover();
+    EXPECT_FALSE(shipping().isShippingPopoverShown());
+    discount().showDiscountPopover();
+    discount().showDiscountPopover();
+    EXPECT_FALSE(discount().isDiscountPopoverShown());
+    EXPECT_TRUE(ui.alertTitles().isEmpty());
+
+    for (int status : {1, 2, 3, 4}) {
+        doc->setValue(key::status, status);
+        doc->setValue(key::kind, status % 2); // quotes are locked by status too
+        ui.clear();
+        shipping().showShippingPopover();
+        discount().showDiscountPopover();
+        EXPECT_FALSE(shipping().isShippingPopoverShown());
+        EXPECT_FALSE(discount().isDiscountPopoverShown());
+        EXPECT_EQ(ui.alertTitles(), (QStringList{QStringLiteral("Error!"), QStringLiteral("Error!")}));
+        EXPECT_FALSE(shipping().switchShippingOff());
+        EXPECT_FALSE(discount().switchDiscountOff());
+    }
+}
+
+TEST_F(ShippingDiscountTest, AcceptingRecalculatesAndRemembersEachChargeOnce)
+{
+    settings.setValue(key::tax2IsCompound, true);
+    doc->setValue(key::tax1Percent, 0.2f);
+    doc->setValue(key::tax2Percent, 0.1f);
+    doc->setValue(key::isShippingTax2Enabled, true);
+    shipping().showShippingPopover();
+    shipping().note() = QStringLiteral("by courier");
+    doc->setValue(key::shippingSubtitle, QStringLiteral("2 days"));
+    doc->setValue(key::hasShippingSubtitle, true);
+    acceptShipping(QStringLiteral("Express"), 10);
+    EXPECT_FALSE(shipping().isShippingPopoverShown());
+    EXPECT_FLOAT_EQ(doc->floatValue(key::tax2Amount), 1.2f);
+    EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 111.2f);
+
+    acceptShipping(QStringLiteral("Express"), 10);
+    acceptShipping(QStringLiteral("Express"), 12.5f);
+    acceptShipping(QStringLiteral("Post"), 10);
+    EXPECT_EQ(remembered(),
+              (QStringList{QStringLiteral("Express/10"), QStringLiteral("Express/12.5"), QStringLiteral("Post/10")}));
+
+    const ManagedObject* first = state.recentShippingArrayController().arrangedObjects().first();
+    EXPECT_EQ(first->stringValue(key::note), QStringLiteral("by courier"));
+    EXPECT_EQ(first->stringValue(key::subtitle), QStringLiteral("2 days"));
+    EXPECT_TRUE(first->boolValue(key::hasSubtitle));
+    EXPECT_FALSE(first->boolValue(key::isTax1Enabled));
+    EXPECT_TRUE(first->boolValue(key::isTax2Enabled));
+
+    // Cancelling neither recalculates nor remembers.
+    shipping().showShippingPopover();
+    doc->setValue(key::shippingAmount, 99.0f);
+    shipping().cancelShippingPopover();
+    EXPECT_EQ(remembered().size(), 3);
+    EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 111.2f);
+}
+
+TEST_F(ShippingDiscountTest, PickingARememberedChargeSwitchesShippingOn)
+{
+    acceptShipping(QStringLiteral("Freight"), 40);
+    ManagedObject* r = state.recentShippingArrayController().arrangedObjects().first();
+    r->setValue(key::isTax1Enabled, true);
+    r->setValue(key::subtitle, QStringLiteral("pallet"));
+    r->setValue(key::note, QStringLiteral("internal"));
+    doc->setValue(key::tax1Percent, 0.5f);
+    doc->setValue(key::isShippingEnabled, false);
+    doc->setValue(key::shippingTitle, QString());
+    doc->setValue(key::notes, QString());
+    calculator().calculateInvoice(doc);
+    ASSERT_FLOAT_EQ(doc->floatValue(key::amount), 100.0f);
+
+    shipping().showShippingPopover();
+    state.recentShippingArrayController().setSelectionIndexes({0});
+    shipping().selectRecentShipping();
+    EXPECT_TRUE(doc->boolValue(key::isShippingEnabled));
+    EXPECT_EQ(doc->stringValue(key::shippingTitle), QStringLiteral("Freight"));
+    EXPECT_EQ(doc->stringValue(key::shippingSubtitle), QStringLiteral("pallet"));
+    EXPECT_TRUE(doc->boolValue(key::isShippingTax1Enabled));
+    EXPECT_EQ(doc->stringValue(key::notes), QString());
+    EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 160.0f);
+    EXPECT_FALSE(shipping().isShippingPopoverShown());
+
+    EXPECT_TRUE(shipping().switchShippingOff());
+    EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 100.0f);
+}
+
+TEST_F(ShippingDiscountTest, DiscountIsTakenOffOnAcceptAndNotRemembered)
+{
+    discount().showDiscountPopover();
+    doc->setValue(key::isDiscountEnabled, true);
+    doc->setValue(key::discountKind, 1);
+    doc->setValue(key::discountPercent, 0.1f);
+    discount().closeDiscountPopover();
+    EXPECT_FALSE(discount().isDiscountPopoverShown());
+    EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 90.0f);
+    EXPECT_FLOAT_EQ(state.totalAmount, 0.0f); // a created invoice is not in the totals
+
+    EXPECT_TRUE(discount().switchDiscountOff());
+    EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 100.0f);
+    EXPECT_EQ(context.fetch(Entity::RecentShipping).size(), 0);
+
+    discount().makeDiscountTitleResponder();
+    shipping().makeShippingTitleResponder();
+    EXPECT_EQ(ui.calls(QStringLiteral("focus"))[0].title, QStringLiteral("discountPopoverTitleView"));
+    EXPECT_EQ(ui.calls(QStringLiteral("focus"))[1].title, QStringLiteral("shippingPopoverAmountView"));
+}
+
+} // namespace
