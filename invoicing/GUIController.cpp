@@ -24,6 +24,7 @@ bool remindable(const ManagedObject* doc)
 GUIController::GUIController(AppState& state, QObject* parent)
     : QObject(parent), m_state(state), m_deleteLabel(tr("Delete Invoice"))
 {
+    connect(&m_state, &AppState::currentInvoiceChanged, this, &GUIController::scheduleToolbarLabel);
 }
 
 GUIController::Validation GUIController::validateUserInterfaceItem(const QString& action) const

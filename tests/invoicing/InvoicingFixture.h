@@ -51,7 +51,9 @@ protected:
         return QDateTime(QDate(y, m, d), QTime(h, min), QTimeZone::utc());
     }
 
-    // A document straight in the store and the list (not through addInvoice).
+    // A document straight in the store and the list (not through addInvoice),
+    // due so that the totals keep its status: overdue ones yesterday, others
+    // in a month.
     ManagedObject* document(int kind, int status = 0, float amount = 0.0f)
     {
         ManagedObject* doc = context.insertNewObject(Entity::Invoice);
@@ -59,6 +61,7 @@ protected:
         doc->setValue(key::status, status);
         doc->setValue(key::amount, amount);
         doc->setValue(key::date, clock.now());
+        doc->setValue(key::due, clock.now().addDays(status == 2 ? -1 : 30));
         state.invoicesController().addObject(doc);
         return doc;
     }

@@ -1,0 +1,224 @@
+#include "tests/invoicing/InvoicingFixture.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+
+using namespace vorn;
+using namespace vorn::test;
+
+namespace {
+
+class FilterTest : public InvoicingFixture
+{
+protected:
+    FilterTest()
+    {
+        // name: kind, status, age in hours
+        add("quote", 0, 0, 1);
+        add("created", 1, 0, 11);
+        add("sent", 1, 1, 13);
+        add("overdue", 1, 2, 80);
+        add("paid", 1, 3, 90);
+        add("partly", 1, 4, 370);
+        add("old", 1, 1, 4379);
+        add("ancient", 1, 1, 4381);
+        add("future", 1, 1, -2);
+    }
+    void add(const char* name, int kind, int status, int hoursAgo)
+    {
+        ManagedObject* doc = document(kind, status, 10);
+        doc->setValue(key::title, QString::fromUtf8(name));
+        doc->setValue(key::date, clock.now().addSecs(-qint64(hoursAgo) * 3600));
+        // Dates keep every status as it is when the totals run.
+        doc->setValue(key::due, clock.now().addDays(status == 2 ? -1 : 100));
+    }
+    QStringList listed() const
+    {
+        QStringList names;
+        for (const ManagedObject* o : const_cast<AppState&>(state).invoicesController().arrangedObjects())
+            names << o->stringValue(key::title);
+        names.sort();
+        return names;
+    }
+};
+
+struct FilterCase
+{
+    quint64 tag;
+    QStringList listed;
+};
+
+const FilterCase filterCases[] = {
+    {0, {"ancient", "created", "future", "old", "overdue", "paid", "partly", "quote", "sent"}},
+    {1, {"ancient", "future", "old", "sent"}},
+    {2, {"overdue"}},
+    {3, {"paid"}},
+    {4, {"quote"}},
+    {5, {"created", "quote"}},                                  // 12 hours back
+    {6, {"created", "overdue", "quote", "sent"}},               // 3.5 days
+    {7, {"created", "overdue", "paid", "partly", "quote", "sent"}}, // 15.5 days
+    {8, {"created", "old", "overdue", "paid", "partly", "quote", "sent"}}, // 182.5 days
+    {9, {"ancient", "future", "old", "sent"}},
+    {1000, {"ancient", "future", "old", "sent"}},
+};
+
+class Filters : public FilterTest, public ::testing::WithParamInterface<FilterCase>
+{
+};
+
+TEST_P(Filters, ListAndTotals)
+{
+    const FilterCase& c = GetParam();
+    controllers->filter().selectFilterAction(c.tag);
+    EXPECT_EQ(listed(), c.listed);
+    EXPECT_EQ(state.filterTag, c.tag);
+    EXPECT_EQ(controllers->filter().filterButtonImage(),
+              c.tag ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate"));
+    // The totals describe the filtered list (every document is worth 10).
+    quint64 counted = 0, quotes = 0;
+    for (const ManagedObject* o : state.invoicesController().arrangedObjects()) {
+        if (o->intValue(key::kind) != 1)
+            ++quotes;
+        else if (o->intValue(key::status) > 0)
+            ++counted;
+    }
+    EXPECT_EQ(state.invoiceCount, counted);
+    EXPECT_EQ(state.quoteCount, quotes);
+    EXPECT_FLOAT_EQ(state.totalAmount, 10.0f * float(counted));
+}
+
+INSTANTIATE_TEST_SUITE_P(Filter, Filters, ::testing::ValuesIn(filterCases));
+
+TEST_F(FilterTest, DateRangesEndExactlyOnTheirHalfDays)
+{
+    ManagedObject* edge = document(1, 0);
+    edge->setValue(key::title, QStringLiteral("edge"));
+    edge->setValue(key::date, clock.now().addSecs(-43200));
+    controllers->filter().selectFilterAction(5);
+    EXPECT_TRUE(listed().contains(QStringLiteral("edge")));
+    edge->setValue(key::date, clock.now().addSecs(-43201));
+    controllers->filter().setFilterPredicate();
+    EXPECT_FALSE(listed().contains(QStringLiteral("edge")));
+    edge->setValue(key::date, QVariant());
+    controllers->filter().setFilterPredicate();
+    EXPECT_FALSE(listed().contains(QStringLiteral("edge")));
+    EXPECT_EQ(FilterController::unitsForTag(8) * FilterController::halfDaySeconds, 182 * 86400 + 43200);
+}
+
+TEST_F(FilterTest, PopoverClosesWhenAFilterIsPicked)
+{
+    controllers->filter().openFilterPopover();
+    EXPECT_TRUE(controllers->filter().isFilterPopoverShown());
+    controllers->filter().selectFilterAction(2);
+    EXPECT_FALSE(controllers->filter().isFilterPopoverShown());
+}
+
+// ---------------------------------------------------------------------------
+// Menus, toolbar, tabs.
+
+struct WindowCase
+{
+    const char* name;
+    int kind, status; // kind -1: no document selected
+    bool deleteEnabled;
+    const char* deleteTitle;
+    bool reminder;
+    const char* toolbarLabel;
+};
+
+const WindowCase windowCases[] = {
+    {"nothingSelected", -1, 0, false, "Delete Invoice", false, "Delete Invoice"},
+    {"createdInvoice", 1, 0, true, "Delete Invoice", false, "Delete Invoice"},
+    {"sentInvoice", 1, 1, true, "Delete Invoice", false, "Delete Invoice"},
+    {"overdueInvoice", 1, 2, true, "Delete Invoice", true, "Delete Invoice"},
+    {"paidInvoice", 1, 3, true, "Delete Invoice", false, "Delete Invoice"},
+    {"partlyPaidInvoice", 1, 4, true, "Delete Invoice", true, "Delete Invoice"},
+    {"overdueQuote", 0, 2, true, "Delete Quote", false, "Delete Quote"},
+    {"partlyPaidQuote", 0, 4, true, "Delete Quote", false, "Delete Quote"},
+    {"otherKindCountsAsInvoice", 3, 2, true, "Delete Invoice", true, "Delete Invoice"},
+};
+
+class WindowState : public InvoicingFixture, public ::testing::WithParamInterface<WindowCase>
+{
+};
+
+TEST_P(WindowState, MenusToolbarAndReminder)
+{
+    const WindowCase& c = GetParam();
+    if (c.kind >= 0) {
+        ManagedObject* doc = document(c.kind, c.status);
+        doc->setValue(key::due, clock.now().addDays(c.status == 2 ? -1 : 100));
+        select(doc);
+    }
+    GUIController& gui = controllers->gui();
+    const auto deletion = gui.validateUserInterfaceItem(GUIController::deleteInvoiceAction);
+    EXPECT_EQ(deletion.enabled, c.deleteEnabled);
+    EXPECT_EQ(deletion.title.value_or(QString()), QString::fromUtf8(c.deleteTitle));
+    EXPECT_EQ(gui.validateUserInterfaceItem(GUIController::openReminderSheetAction).enabled, c.reminder);
+    EXPECT_TRUE(gui.validateUserInterfaceItem(QStringLiteral("addInvoice")).enabled);
+    EXPECT_FALSE(gui.validateUserInterfaceItem(QStringLiteral("addInvoice")).title.has_value());
+
+    gui.delayedToolbarLabel();
+    EXPECT_EQ(gui.deleteToolbarLabel(), QString::fromUtf8(c.toolbarLabel));
+    EXPECT_EQ(gui.isReminderButtonEnabled(), c.reminder);
+    EXPECT_EQ(state.isReminderButtonHidden, !c.reminder);
+}
+
+INSTANTIATE_TEST_SUITE_P(Window, WindowState, ::testing::ValuesIn(windowCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+using WindowTest = InvoicingFixture;
+
+TEST_F(WindowTest, SelectionChangesRelabelTheToolbarShortlyAfter)
+{
+    ManagedObject* quote = document(0);
+    document(1);
+    select(quote);
+    QElapsedTimer timer;
+    timer.start();
+    while (controllers->gui().deleteToolbarLabel() != QStringLiteral("Delete Quote") && timer.elapsed() < 2000)
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+    EXPECT_EQ(controllers->gui().deleteToolbarLabel(), QStringLiteral("Delete Quote"));
+    EXPECT_GE(timer.elapsed(), 25);
+}
+
+TEST_F(WindowTest, TabsFollowTheToolbarTags)
+{
+    const std::pair<qint64, const char*> tags[] = {{0, "addressItem"}, {1, "itemsItem"}, {2, "infoItem"},
+                                                   {7, "addressItem"}, {-1, "addressItem"}};
+    for (const auto& [tag, item] : tags) {
+        ui.clear();
+        controllers->gui().selectMainTabIndex(tag);
+        EXPECT_EQ(ui.calls(QStringLiteral("toolbar")).value(0).title, QString::fromUtf8(item));
+        EXPECT_EQ(settings.intValue(key::mainTabIndex), tag);
+    }
+    settings.setValue(key::mainTabIndex, 2);
+    controllers->gui().selectInfoView();
+    EXPECT_EQ(settings.intValue(key::mainTabIndex), 2);
+}
+
+TEST_F(WindowTest, SplitViewAndReminderSheet)
+{
+    EXPECT_EQ(GUIController::constrainMaxCoordinate(450.0), 300.0);
+    EXPECT_EQ(GUIController::constrainMinCoordinate(20.0), 204.0);
+    const auto [list, detail] = GUIController::resizeSubviews(QSize(1000, 700), 250, 1);
+    EXPECT_EQ(list, QRect(0, 0, 250, 700));
+    EXPECT_EQ(detail, QRect(251, 0, 749, 700));
+
+    settings.setValue(key::locReminder, QStringLiteral("Reminder"));
+    settings.setValue(key::tempRemConditions, QStringLiteral("Please pay"));
+    settings.setValue(key::tempRemFooter, QStringLiteral("Regards"));
+    controllers->gui().openReminderSheet();
+    const auto& sheet = controllers->gui().reminderSheet();
+    EXPECT_TRUE(sheet.shown);
+    EXPECT_EQ(sheet.title, QStringLiteral("Reminder"));
+    EXPECT_EQ(sheet.conditions, QStringLiteral("Please pay"));
+    EXPECT_EQ(sheet.footer, QStringLiteral("Regards"));
+    controllers->gui().cancelReminderSheet();
+    EXPECT_FALSE(controllers->gui().reminderSheet().shown);
+
+    controllers->gui().calculatorButtonAction();
+    EXPECT_EQ(ui.calls(QStringLiteral("application")).value(0).title, QStringLiteral("calculator"));
+}
+
+} // namespace
