@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/AppLog.h"
+#include "designs/DesignController.h"
 #include "store/Clock.h"
 #include "store/PropertyList.h"
 #include "store/Settings.h"
@@ -24,6 +25,10 @@ AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clo
                          QObject* parent)
     : QObject(parent), m_state(settings, ui, clock, std::move(locations))
 {
+    setTemplateLoader([this] {
+        if (Status s = DesignController(m_state).loadTemplates(); !s)
+            m_state.ui().presentError(s.error());
+    });
 }
 
 AppDelegate::~AppDelegate()

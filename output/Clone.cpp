@@ -29,7 +29,8 @@ ManagedObject* cloneInContext(const ManagedObject& source, ObjectContext& target
         if (r.toMany) {
             QList<ManagedObject*> copies;
             for (const ManagedObject* related : source.objects(r.name)) {
-                ManagedObject* relatedCopy = cloneInContext(*related, target, cache, excludeEntities, excludeAttributes);
+                ManagedObject* relatedCopy =
+                    cloneInContext(*related, target, cache, excludeEntities, excludeAttributes);
                 if (relatedCopy && !copies.contains(relatedCopy))
                     copies.append(relatedCopy);
             }
@@ -38,7 +39,8 @@ ManagedObject* cloneInContext(const ManagedObject& source, ObjectContext& target
             if (!copies.isEmpty())
                 copy->setObjects(r.name, copies);
         } else if (const ManagedObject* related = source.object(r.name)) {
-            if (ManagedObject* relatedCopy = cloneInContext(*related, target, cache, excludeEntities, excludeAttributes))
+            if (ManagedObject* relatedCopy =
+                    cloneInContext(*related, target, cache, excludeEntities, excludeAttributes))
                 copy->setObject(r.name, relatedCopy);
         }
     }

@@ -8,22 +8,27 @@
 
 namespace vorn {
 
-InterchangeController::InterchangeController(AppState& state, QObject* parent) : QObject(parent), m_state(state) {}
+InterchangeController::InterchangeController(AppState& state, QObject* parent)
+    : QObject(parent), m_state(state)
+{
+}
 
 ManagedObject* InterchangeController::importInvoice()
 {
     UserInterface& ui = m_state.ui();
     if (!m_state.context())
         return nullptr;
-    const int answer = ui.runAlert(
-        {tr("Warning!"),
-         tr("The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by "
-            "design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair "
-            "day. So please, do yourself a favor and check what you are doing here. Do you still want to import the "
-            "invoice?"),
-         {tr("Import…"), tr("Cancel")},
-         UserInterface::AlertStyle::Warning,
-         false});
+    const int answer = ui.runAlert({tr("Warning!"),
+                                    tr("The integrity of your data is your responsibility, and yours alone. "
+                                       "Vorn is just a stupid App and by "
+                                       "design it can't know or care about duplicate invoices, messed up "
+                                       "numbers, or if you're having a bad hair "
+                                       "day. So please, do yourself a favor and check what you are doing "
+                                       "here. Do you still want to import the "
+                                       "invoice?"),
+                                    {tr("Import…"), tr("Cancel")},
+                                    UserInterface::AlertStyle::Warning,
+                                    false});
     if (answer != 0)
         return nullptr;
     const auto path = ui.runOpenPanel({tr("Import Vorn Document"), {QStringLiteral("vorn")}, {}, {}, false});
@@ -70,13 +75,15 @@ Status InterchangeController::exportItems()
 Status InterchangeController::exportVornDataXML()
 {
     ObjectContext* context = m_state.context();
-    return exportDocuments(context ? context->fetch(Entity::Invoice) : QList<ManagedObject*>(), tr("Vorn Database"));
+    return exportDocuments(context ? context->fetch(Entity::Invoice) : QList<ManagedObject*>(),
+                           tr("Vorn Database"));
 }
 
-Status InterchangeController::exportDocuments(const QList<ManagedObject*>& documents, const QString& proposedName)
+Status InterchangeController::exportDocuments(const QList<ManagedObject*>& documents,
+                                              const QString& proposedName)
 {
-    const auto path =
-        m_state.ui().runSavePanel({tr("Export Vorn Database As XML"), {QStringLiteral("xml")}, proposedName, {}, true});
+    const auto path = m_state.ui().runSavePanel(
+        {tr("Export Vorn Database As XML"), {QStringLiteral("xml")}, proposedName, {}, true});
     if (!path)
         return {};
     Status written = InterchangeFile::writeDatabaseXml(*path, documents);
@@ -91,7 +98,8 @@ void InterchangeController::saveContext()
     if (!context)
         return;
     if (Status s = context->save(); !s)
-        qCWarning(lcOutput).noquote() << QStringLiteral("Unresolved error %1, %2").arg(s.error().message, s.error().reason);
+        qCWarning(lcOutput).noquote()
+            << QStringLiteral("Unresolved error %1, %2").arg(s.error().message, s.error().reason);
 }
 
 } // namespace vorn

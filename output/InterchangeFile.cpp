@@ -60,7 +60,8 @@ Result<QByteArray> InterchangeFile::readFile(const QString& path)
         return Error::make(ErrorCode::FileNotFound, tr("The file “%1” could not be opened.").arg(name),
                            file.exists() ? file.errorString() : tr("There is no such file."));
     if (file.size() > PropertyList::maximumSize)
-        return Error::make(ErrorCode::FileReadCorrupt, tr("The file “%1” is too large to be a Vorn file.").arg(name));
+        return Error::make(ErrorCode::FileReadCorrupt,
+                           tr("The file “%1” is too large to be a Vorn file.").arg(name));
     QByteArray data = file.readAll();
     if (file.error() != QFileDevice::NoError)
         return Error::make(ErrorCode::FileReadUnknown, tr("The file “%1” could not be read.").arg(name),
@@ -75,8 +76,9 @@ Result<QVariantMap> InterchangeFile::rootEntry(const QByteArray& data, const QSt
         return root.error();
     const QVariant entry = root.value().toMap().value(key);
     if (root.value().typeId() != QMetaType::QVariantMap || entry.typeId() != QMetaType::QVariantMap)
-        return Error::make(ErrorCode::FileReadCorrupt,
-                           key == designKey() ? tr("The file is not a Vorn design.") : tr("The file is not a Vorn document."));
+        return Error::make(ErrorCode::FileReadCorrupt, key == designKey()
+                                                           ? tr("The file is not a Vorn design.")
+                                                           : tr("The file is not a Vorn document."));
     return entry.toMap();
 }
 

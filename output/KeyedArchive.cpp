@@ -57,8 +57,8 @@ private:
         auto it = m_classes.constFind(name);
         if (it != m_classes.cend())
             return *it;
-        const PlistUid uid = append(QVariantMap{{QStringLiteral("$classname"), name},
-                                                {QStringLiteral("$classes"), hierarchy}});
+        const PlistUid uid = append(
+            QVariantMap{{QStringLiteral("$classname"), name}, {QStringLiteral("$classes"), hierarchy}});
         m_classes.insert(name, uid);
         return uid;
     }
@@ -96,10 +96,11 @@ private:
             for (auto it = map.cbegin(); it != map.cend(); ++it)
                 objects.append(encode(it.value()));
             const PlistUid cls = classUid(QStringLiteral("NSMutableDictionary"),
-                                          {QStringLiteral("NSMutableDictionary"), QStringLiteral("NSDictionary"),
-                                           QStringLiteral("NSObject")});
-            m_objects[qsizetype(uid.value)] = QVariantMap{
-                {keysKey, uidList(keys)}, {objectsKey, uidList(objects)}, {classKey, QVariant::fromValue(cls)}};
+                                          {QStringLiteral("NSMutableDictionary"),
+                                           QStringLiteral("NSDictionary"), QStringLiteral("NSObject")});
+            m_objects[qsizetype(uid.value)] = QVariantMap{{keysKey, uidList(keys)},
+                                                          {objectsKey, uidList(objects)},
+                                                          {classKey, QVariant::fromValue(cls)}};
             return uid;
         }
         case QMetaType::QVariantList:
@@ -108,7 +109,8 @@ private:
             QList<PlistUid> objects;
             for (const QVariant& element : value.toList())
                 objects.append(encode(element));
-            const PlistUid cls = classUid(QStringLiteral("NSArray"), {QStringLiteral("NSArray"), QStringLiteral("NSObject")});
+            const PlistUid cls =
+                classUid(QStringLiteral("NSArray"), {QStringLiteral("NSArray"), QStringLiteral("NSObject")});
             m_objects[qsizetype(uid.value)] =
                 QVariantMap{{objectsKey, uidList(objects)}, {classKey, QVariant::fromValue(cls)}};
             return uid;
@@ -116,7 +118,8 @@ private:
         case QMetaType::QDateTime: {
             const PlistUid uid = reserve();
             const qint64 ms = value.toDateTime().toMSecsSinceEpoch() - referenceDateOffset * 1000;
-            const PlistUid cls = classUid(QStringLiteral("NSDate"), {QStringLiteral("NSDate"), QStringLiteral("NSObject")});
+            const PlistUid cls =
+                classUid(QStringLiteral("NSDate"), {QStringLiteral("NSDate"), QStringLiteral("NSObject")});
             m_objects[qsizetype(uid.value)] =
                 QVariantMap{{timeKey, double(ms) / 1000.0}, {classKey, QVariant::fromValue(cls)}};
             return uid;
@@ -174,7 +177,8 @@ public:
 private:
     static Error damaged()
     {
-        return Error::make(ErrorCode::FileReadCorrupt, KeyedArchive::tr("The file is damaged or not a Vorn file."));
+        return Error::make(ErrorCode::FileReadCorrupt,
+                           KeyedArchive::tr("The file is damaged or not a Vorn file."));
     }
 
     Result<QVariantList> references(const QVariant& list, int depth)
@@ -268,8 +272,9 @@ private:
                 return damaged();
             return data;
         }
-        return Error::make(ErrorCode::FileReadCorrupt,
-                           KeyedArchive::tr("The file holds an object of an unknown class, “%1”.").arg(className));
+        return Error::make(
+            ErrorCode::FileReadCorrupt,
+            KeyedArchive::tr("The file holds an object of an unknown class, “%1”.").arg(className));
     }
 
     const QVariantList& m_objects;

@@ -82,8 +82,9 @@ public:
         const QVariant cls = dictionary.value(classKey);
         if (cls.typeId() != QMetaType::QString)
             return damaged(Serialization::tr("a record has no class name"));
-        const QString name = cls.toString() == Serialization::genericClassName() ? Serialization::genericEntityName()
-                                                                                : cls.toString();
+        const QString name = cls.toString() == Serialization::genericClassName()
+                                 ? Serialization::genericEntityName()
+                                 : cls.toString();
         const EntityDescription* entity = m_model.entity(name);
         if (!entity)
             return damaged(Serialization::tr("it names an unknown kind of record, “%1”").arg(cls.toString()));
@@ -128,7 +129,8 @@ public:
                     }
                 } else {
                     return wrongType(key, entity.name(),
-                                     r->toMany ? Serialization::tr("a list of records") : Serialization::tr("a record"));
+                                     r->toMany ? Serialization::tr("a list of records")
+                                               : Serialization::tr("a record"));
                 }
                 planned.relations.push_back(std::move(relation));
                 continue;
@@ -201,7 +203,8 @@ private:
 
     static Error damaged(const QString& what)
     {
-        return Error::make(ErrorCode::FileReadCorrupt, Serialization::tr("The file is damaged: %1.").arg(what));
+        return Error::make(ErrorCode::FileReadCorrupt,
+                           Serialization::tr("The file is damaged: %1.").arg(what));
     }
     static Error wrongType(const QString& key, const QString& entity, const QString& expected)
     {
@@ -267,7 +270,8 @@ QVariantMap Serialization::toDictionaryWithTraversalHistory(const ManagedObject&
                 if (!history->contains(related))
                     list.append(toDictionaryWithTraversalHistory(*related, history));
             dictionary.insert(r.name, list);
-        } else if (const ManagedObject* related = object.object(r.name); related && !history->contains(related)) {
+        } else if (const ManagedObject* related = object.object(r.name);
+                   related && !history->contains(related)) {
             dictionary.insert(r.name, toDictionaryWithTraversalHistory(*related, history));
         }
     }
@@ -281,6 +285,14 @@ Result<ManagedObject*> Serialization::createManagedObjectFromDictionary(const QV
     if (!planned)
         return planned.error();
     return insert(planned.value(), context);
+}
+
+Status Serialization::checkDictionary(const QVariantMap& dictionary, const ObjectModel& model)
+{
+    auto planned = Planner(model).object(dictionary, {}, 0);
+    if (!planned)
+        return planned.error();
+    return {};
 }
 
 Status Serialization::populateFromDictionary(ManagedObject& object, const QVariantMap& dictionary)

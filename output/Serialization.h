@@ -43,6 +43,9 @@ public:
     // relationships of the entity are skipped.
     static Result<ManagedObject*> createManagedObjectFromDictionary(const QVariantMap& dictionary,
                                                                     ObjectContext& context);
+    // Checks a dictionary as createManagedObjectFromDictionary would, without
+    // inserting anything (for callers that must check several first).
+    static Status checkDictionary(const QVariantMap& dictionary, const ObjectModel& model);
     // Fills an existing object: attributes are set, nested dictionaries and
     // arrays become new related objects. Checked as a whole first, as above.
     static Status populateFromDictionary(ManagedObject& object, const QVariantMap& dictionary);

@@ -26,7 +26,8 @@ protected:
         invoice->setValue(QStringLiteral("number"), QStringLiteral("RE-2026-007"));
         invoice->setValue(QStringLiteral("amount"), 34.65f);
         invoice->setValue(QStringLiteral("kind"), 1);
-        invoice->setValue(QStringLiteral("date"), QDateTime(QDate(2026, 2, 14), QTime(9, 30), QTimeZone::utc()));
+        invoice->setValue(QStringLiteral("date"),
+                          QDateTime(QDate(2026, 2, 14), QTime(9, 30), QTimeZone::utc()));
         invoice->setValue(QStringLiteral("misc1"), QVariant()); // absent must stay absent
         for (int i = 0; i < itemCount; ++i) {
             ManagedObject* item = source.insertNewObject(Entity::Item);
@@ -84,7 +85,8 @@ struct ExclusionCase
 };
 
 class CloneExclusionTest : public CloneTest, public ::testing::WithParamInterface<ExclusionCase>
-{};
+{
+};
 
 } // namespace
 
@@ -101,7 +103,8 @@ TEST_P(CloneExclusionTest, ExcludedEntitiesAndAttributes)
     }
     EXPECT_EQ(copy->items().size(), c.itemsExpected);
     EXPECT_EQ(target.fetch(Entity::Item).size(), c.itemsExpected);
-    EXPECT_EQ(copy->stringValue(QStringLiteral("uniqueID")) == original->stringValue(QStringLiteral("uniqueID")),
+    EXPECT_EQ(copy->stringValue(QStringLiteral("uniqueID")) ==
+                  original->stringValue(QStringLiteral("uniqueID")),
               c.sameUniqueId);
     // An excluded attribute keeps what insertion gave it: a fresh identity, no number.
     EXPECT_FALSE(copy->stringValue(QStringLiteral("uniqueID")).isEmpty());
@@ -118,7 +121,8 @@ INSTANTIATE_TEST_SUITE_P(
                       ExclusionCase{"items", {"Item"}, {}, true, 0, true, true},
                       ExclusionCase{"root", {"Invoice"}, {}, false, 0, false, false},
                       ExclusionCase{"identity", {}, {"uniqueID"}, true, 2, false, true},
-                      ExclusionCase{"identityAndNumber", {"Design"}, {"uniqueID", "number"}, true, 2, false, false}),
+                      ExclusionCase{
+                          "identityAndNumber", {"Design"}, {"uniqueID", "number"}, true, 2, false, false}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(CloneTest, ItemReachesItsDocumentAndIsCopiedOnlyOnce)

@@ -42,10 +42,12 @@ QByteArray documentWith(const QVariant& sixth, const QVariantList& more = {})
 {
     QVariantList objects{
         "$null",
-        QVariantMap{{"NS.keys", QVariantList{uid(3)}}, {"NS.objects", QVariantList{uid(4)}}, {"$class", uid(2)}},
+        QVariantMap{
+            {"NS.keys", QVariantList{uid(3)}}, {"NS.objects", QVariantList{uid(4)}}, {"$class", uid(2)}},
         dictClass,
         "vornDic",
-        QVariantMap{{"NS.keys", QVariantList{uid(5), uid(7)}}, {"NS.objects", QVariantList{uid(8), uid(6)}},
+        QVariantMap{{"NS.keys", QVariantList{uid(5), uid(7)}},
+                    {"NS.objects", QVariantList{uid(8), uid(6)}},
                     {"$class", uid(2)}},
         "class",
         sixth,
@@ -60,7 +62,8 @@ QByteArray nestedUidArrays(int depth)
 {
     QVariantList objects{"$null", arrayClass};
     for (int i = 0; i < depth; ++i)
-        objects.append(QVariantMap{{"NS.objects", QVariantList{uid(quint64(objects.size() + 1))}}, {"$class", uid(1)}});
+        objects.append(
+            QVariantMap{{"NS.objects", QVariantList{uid(quint64(objects.size() + 1))}}, {"$class", uid(1)}});
     objects.append("bottom");
     return archiveOf(objects, uid(2));
 }
@@ -94,7 +97,8 @@ struct HostileCase
 } // namespace
 
 class HostileDocumentFile : public ::testing::TestWithParam<HostileCase>
-{};
+{
+};
 
 TEST_P(HostileDocumentFile, IsRefusedWithAMessageAndInsertsNothing)
 {
@@ -120,12 +124,9 @@ TEST_P(HostileDocumentFile, IsRefusedWithAMessageAndInsertsNothing)
 INSTANTIATE_TEST_SUITE_P(
     Cases, HostileDocumentFile,
     ::testing::Values(
-        HostileCase{"empty", {}},
-        HostileCase{"text", "hello, this is not a property list"},
-        HostileCase{"html", "<html><body><dict></body></html>"},
-        HostileCase{"justTheMagic", "bplist00"},
-        HostileCase{"deepXml", deepXml(100000)},
-        HostileCase{"deepBinary", deepBinary(2000)},
+        HostileCase{"empty", {}}, HostileCase{"text", "hello, this is not a property list"},
+        HostileCase{"html", "<html><body><dict></body></html>"}, HostileCase{"justTheMagic", "bplist00"},
+        HostileCase{"deepXml", deepXml(100000)}, HostileCase{"deepBinary", deepBinary(2000)},
         HostileCase{"sharedReferencesUnfoldingToBillions", fileData("shared-bomb.plist")},
         HostileCase{"rootIsAnArray", PropertyList::toXml(QVariantList{"vornDic"})},
         HostileCase{"noDocumentKey", PropertyList::toXml(QVariantMap{{"designDic", QVariantMap{}}})},
@@ -133,34 +134,40 @@ INSTANTIATE_TEST_SUITE_P(
         HostileCase{"otherArchiver", archiveOf({"$null", "x"}, uid(1), "NSArchiver")},
         HostileCase{"noTop", PropertyList::toBinary(QVariantMap{{"$archiver", "NSKeyedArchiver"},
                                                                 {"$objects", QVariantList{"$null"}}})},
-        HostileCase{"objectsNotAList", PropertyList::toBinary(QVariantMap{
-                                           {"$archiver", "NSKeyedArchiver"},
-                                           {"$top", QVariantMap{{"root", uid(1)}}},
-                                           {"$objects", "none"}})},
+        HostileCase{"objectsNotAList",
+                    PropertyList::toBinary(QVariantMap{{"$archiver", "NSKeyedArchiver"},
+                                                       {"$top", QVariantMap{{"root", uid(1)}}},
+                                                       {"$objects", "none"}})},
         HostileCase{"rootNotAReference", archiveOf({"$null", "x"}, "x")},
         HostileCase{"rootIsNull", archiveOf({"$null", "x"}, uid(0))},
         HostileCase{"rootOutOfRange", archiveOf({"$null", "x"}, uid(99))},
-        HostileCase{"cycleThroughItself",
-                    archiveOf({"$null",
-                               QVariantMap{{"NS.keys", QVariantList{uid(3)}}, {"NS.objects", QVariantList{uid(1)}},
-                                           {"$class", uid(2)}},
-                               dictClass, "vornDic"})},
+        HostileCase{"cycleThroughItself", archiveOf({"$null",
+                                                     QVariantMap{{"NS.keys", QVariantList{uid(3)}},
+                                                                 {"NS.objects", QVariantList{uid(1)}},
+                                                                 {"$class", uid(2)}},
+                                                     dictClass, "vornDic"})},
         HostileCase{"cycleThroughAnArray",
-                    documentWith(QVariantMap{{"NS.objects", QVariantList{uid(4)}}, {"$class", uid(9)}}, {arrayClass})},
+                    documentWith(QVariantMap{{"NS.objects", QVariantList{uid(4)}}, {"$class", uid(9)}},
+                                 {arrayClass})},
         HostileCase{"referencesTooDeep", nestedUidArrays(KeyedArchive::maximumDepth + 10)},
-        HostileCase{"nullAsValue", documentWith(QVariantMap{{"NS.objects", QVariantList{uid(0)}}, {"$class", uid(9)}},
-                                                {arrayClass})},
+        HostileCase{"nullAsValue",
+                    documentWith(QVariantMap{{"NS.objects", QVariantList{uid(0)}}, {"$class", uid(9)}},
+                                 {arrayClass})},
         HostileCase{"referenceOutOfRange",
-                    documentWith(QVariantMap{{"NS.objects", QVariantList{uid(500)}}, {"$class", uid(9)}}, {arrayClass})},
-        HostileCase{"unknownClass",
-                    documentWith(QVariantMap{{"NS.objects", QVariantList{}}, {"$class", uid(9)}},
-                                 {QVariantMap{{"$classname", "NSWindow"}, {"$classes", QStringList{"NSWindow"}}}})},
-        HostileCase{"classIsText", documentWith(QVariantMap{{"NS.objects", QVariantList{}}, {"$class", uid(8)}})},
+                    documentWith(QVariantMap{{"NS.objects", QVariantList{uid(500)}}, {"$class", uid(9)}},
+                                 {arrayClass})},
+        HostileCase{
+            "unknownClass",
+            documentWith(QVariantMap{{"NS.objects", QVariantList{}}, {"$class", uid(9)}},
+                         {QVariantMap{{"$classname", "NSWindow"}, {"$classes", QStringList{"NSWindow"}}}})},
+        HostileCase{"classIsText",
+                    documentWith(QVariantMap{{"NS.objects", QVariantList{}}, {"$class", uid(8)}})},
         HostileCase{"classMissing", documentWith(QVariantMap{{"NS.objects", QVariantList{}}})},
         HostileCase{"plainListAsObject", documentWith(QVariantList{uid(8)})},
         HostileCase{"referenceAsObject", documentWith(uid(8))},
-        HostileCase{"keysNotAList",
-                    documentWith(QVariantMap{{"NS.keys", "a"}, {"NS.objects", QVariantList{}}, {"$class", uid(2)}})},
+        HostileCase{
+            "keysNotAList",
+            documentWith(QVariantMap{{"NS.keys", "a"}, {"NS.objects", QVariantList{}}, {"$class", uid(2)}})},
         HostileCase{"keyNotText", documentWith(QVariantMap{{"NS.keys", QVariantList{uid(9)}},
                                                            {"NS.objects", QVariantList{uid(8)}},
                                                            {"$class", uid(2)}},
@@ -168,19 +175,23 @@ INSTANTIATE_TEST_SUITE_P(
         HostileCase{"keysAndObjectsDiffer", documentWith(QVariantMap{{"NS.keys", QVariantList{uid(5)}},
                                                                      {"NS.objects", QVariantList{}},
                                                                      {"$class", uid(2)}})},
-        HostileCase{"timeNotANumber", documentWith(QVariantMap{{"NS.time", "noon"}, {"$class", uid(9)}}, {dateClass})},
-        HostileCase{"timeInfinite", documentWith(QVariantMap{{"NS.time", std::numeric_limits<double>::infinity()},
-                                                             {"$class", uid(9)}},
-                                                 {dateClass})},
-        HostileCase{"timeBeyondAnyCalendar", documentWith(QVariantMap{{"NS.time", 1e300}, {"$class", uid(9)}},
-                                                          {dateClass})},
+        HostileCase{"timeNotANumber",
+                    documentWith(QVariantMap{{"NS.time", "noon"}, {"$class", uid(9)}}, {dateClass})},
+        HostileCase{"timeInfinite",
+                    documentWith(QVariantMap{{"NS.time", std::numeric_limits<double>::infinity()},
+                                             {"$class", uid(9)}},
+                                 {dateClass})},
+        HostileCase{"timeBeyondAnyCalendar",
+                    documentWith(QVariantMap{{"NS.time", 1e300}, {"$class", uid(9)}}, {dateClass})},
         HostileCase{"textWhereADateBelongs", documentWith("tomorrow")},
         HostileCase{"unknownRecordClass",
                     archiveOf({"$null",
-                               QVariantMap{{"NS.keys", QVariantList{uid(3)}}, {"NS.objects", QVariantList{uid(4)}},
+                               QVariantMap{{"NS.keys", QVariantList{uid(3)}},
+                                           {"NS.objects", QVariantList{uid(4)}},
                                            {"$class", uid(2)}},
                                dictClass, "vornDic",
-                               QVariantMap{{"NS.keys", QVariantList{uid(5)}}, {"NS.objects", QVariantList{uid(3)}},
+                               QVariantMap{{"NS.keys", QVariantList{uid(5)}},
+                                           {"NS.objects", QVariantList{uid(3)}},
                                            {"$class", uid(2)}},
                                "items"})}),
     [](const auto& info) { return std::string(info.param.name); });
@@ -235,29 +246,37 @@ TEST(HostileDocumentFile, WrongTypeAtAnyKeyIsRefused)
         const auto& attributes = o->entity().attributes();
         for (int i = 0; i < int(attributes.size()); ++i)
             if (!o->value(i).isValid())
-                o->setValue(i, attributes[size_t(i)].type == AttributeType::String ? QVariant("x") : QVariant(1));
+                o->setValue(i, attributes[size_t(i)].type == AttributeType::String ? QVariant("x")
+                                                                                   : QVariant(1));
     }
     const QVariantMap good = Serialization::toDictionary(*document);
 
     // Values that fit no attribute of the other types, each written into an
     // archive and read back as a stranger's file would be.
-    const QVariantList strangers{QVariantList{"a"}, QVariantMap{{"k", "v"}}, QByteArray("bytes"), "text",
-                                 QDateTime(QDate(2020, 1, 1), QTime(0, 0), QTimeZone::utc()), qint64(3)};
+    const QVariantList strangers{QVariantList{"a"},
+                                 QVariantMap{{"k", "v"}},
+                                 QByteArray("bytes"),
+                                 "text",
+                                 QDateTime(QDate(2020, 1, 1), QTime(0, 0), QTimeZone::utc()),
+                                 qint64(3)};
     ObjectContext target(nullptr, clock);
     for (auto it = good.cbegin(); it != good.cend(); ++it) {
         if (it.key() == "class")
             continue;
         const AttributeDescription* attribute = document->entity().attribute(it.key());
         for (const QVariant& stranger : strangers) {
-            const bool fits = attribute && ((attribute->type == AttributeType::String && stranger.typeId() == QMetaType::QString) ||
-                                            (attribute->type == AttributeType::Data && stranger.typeId() == QMetaType::QByteArray) ||
-                                            (attribute->type == AttributeType::Date && stranger.typeId() == QMetaType::QDateTime) ||
-                                            (stranger.typeId() == QMetaType::LongLong && attribute->type != AttributeType::String &&
-                                             attribute->type != AttributeType::Data && attribute->type != AttributeType::Date));
+            const bool fits =
+                attribute &&
+                ((attribute->type == AttributeType::String && stranger.typeId() == QMetaType::QString) ||
+                 (attribute->type == AttributeType::Data && stranger.typeId() == QMetaType::QByteArray) ||
+                 (attribute->type == AttributeType::Date && stranger.typeId() == QMetaType::QDateTime) ||
+                 (stranger.typeId() == QMetaType::LongLong && attribute->type != AttributeType::String &&
+                  attribute->type != AttributeType::Data && attribute->type != AttributeType::Date));
             QVariantMap changed = good;
             changed.insert(it.key(), stranger);
             changed.insert("class", "Invoice");
-            auto entry = InterchangeFile::rootEntry(KeyedArchive::archive(QVariantMap{{"vornDic", changed}}), "vornDic");
+            auto entry = InterchangeFile::rootEntry(KeyedArchive::archive(QVariantMap{{"vornDic", changed}}),
+                                                    "vornDic");
             ASSERT_TRUE(entry.ok());
             auto created = Serialization::createManagedObjectFromDictionary(entry.value(), target);
             EXPECT_EQ(created.ok(), fits) << it.key().toStdString() << " = " << stranger.typeName();

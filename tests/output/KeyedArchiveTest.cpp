@@ -1,5 +1,5 @@
-#include "output/InterchangeFile.h"
 #include "output/KeyedArchive.h"
+#include "output/InterchangeFile.h"
 #include "output/Serialization.h"
 
 #include "store/Clock.h"
@@ -45,7 +45,8 @@ QDateTime utc(int y, int m, int d, int h = 0, int min = 0, int s = 0, int ms = 0
 
 TEST(KeyedArchive, LayoutIsTheKeyedArchiversOwn)
 {
-    const QVariantMap tree{{"a", "x"}, {"d", utc(2001, 1, 2, 0, 0, 1, 500)}, {"l", QVariantList{qint64(1), 2.5f, "x"}}};
+    const QVariantMap tree{
+        {"a", "x"}, {"d", utc(2001, 1, 2, 0, 0, 1, 500)}, {"l", QVariantList{qint64(1), 2.5f, "x"}}};
     auto plist = PropertyList::read(KeyedArchive::archive(tree));
     ASSERT_TRUE(plist.ok());
     ASSERT_TRUE(QByteArray(KeyedArchive::archive(tree)).startsWith("bplist00"));
@@ -172,7 +173,8 @@ TEST(KeyedArchive, DocumentFileReadsBackWithAnIndependentReader)
     EXPECT_EQ(dic.value("isPaid").toBool(), true);
     EXPECT_DOUBLE_EQ(dic.value("date").toObject().value("date").toDouble(),
                      (utc(2026, 2, 14, 9, 30, 12, 250).toMSecsSinceEpoch() - 978307200000LL) / 1000.0);
-    EXPECT_EQ(dic.value("misc5").toObject().value("date").toDouble(), (utc(2026, 3, 1).toSecsSinceEpoch() - 978307200.0));
+    EXPECT_EQ(dic.value("misc5").toObject().value("date").toDouble(),
+              (utc(2026, 3, 1).toSecsSinceEpoch() - 978307200.0));
     const QJsonArray items = dic.value("items").toArray();
     ASSERT_EQ(items.size(), 2);
     EXPECT_EQ(items[0].toObject().value("title").toString(), "First");

@@ -1,6 +1,6 @@
+#include "output/Serialization.h"
 #include "output/InterchangeFile.h"
 #include "output/KeyedArchive.h"
-#include "output/Serialization.h"
 
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
@@ -42,10 +42,18 @@ void fillEveryAttribute(ManagedObject& object, const QString& leaveAbsent)
 {
     const auto& attributes = object.entity().attributes();
     for (int i = 0; i < int(attributes.size()); ++i)
-        object.setValue(i, attributes[size_t(i)].name == leaveAbsent ? QVariant() : sampleValue(attributes[size_t(i)].type, i));
+        object.setValue(i, attributes[size_t(i)].name == leaveAbsent
+                               ? QVariant()
+                               : sampleValue(attributes[size_t(i)].type, i));
 }
 
-enum class Carrier { Dictionary, KeyedArchive, BinaryPlist, XmlPlist };
+enum class Carrier
+{
+    Dictionary,
+    KeyedArchive,
+    BinaryPlist,
+    XmlPlist
+};
 
 struct RoundTripCase
 {
@@ -84,7 +92,8 @@ TEST_P(SerializationRoundTrip, EveryAttributeComesBackAsItWas)
     case Carrier::Dictionary:
         break;
     case Carrier::KeyedArchive: {
-        auto back = InterchangeFile::rootEntry(KeyedArchive::archive(QVariantMap{{"vornDic", dictionary}}), "vornDic");
+        auto back = InterchangeFile::rootEntry(KeyedArchive::archive(QVariantMap{{"vornDic", dictionary}}),
+                                               "vornDic");
         ASSERT_TRUE(back.ok()) << back.error().message.toStdString();
         carried = back.value();
         break;
@@ -92,8 +101,9 @@ TEST_P(SerializationRoundTrip, EveryAttributeComesBackAsItWas)
     case Carrier::BinaryPlist:
     case Carrier::XmlPlist: {
         const QVariantMap root{{"vornDic", dictionary}};
-        auto back = InterchangeFile::rootEntry(
-            c.carrier == Carrier::XmlPlist ? PropertyList::toXml(root) : PropertyList::toBinary(root), "vornDic");
+        auto back = InterchangeFile::rootEntry(c.carrier == Carrier::XmlPlist ? PropertyList::toXml(root)
+                                                                              : PropertyList::toBinary(root),
+                                               "vornDic");
         ASSERT_TRUE(back.ok()) << back.error().message.toStdString();
         carried = back.value();
         break;
@@ -131,12 +141,13 @@ std::vector<RoundTripCase> roundTripCases()
 {
     // For each entity, one attribute of its own left absent, and the spare
     // ones that every entity shares.
-    const std::map<QString, QString> absent{{Entity::Invoice, "subject"},   {Entity::Item, "sku"},
-                                            {Entity::Address, "misc5"},     {Entity::RecentItem, "misc1"},
+    const std::map<QString, QString> absent{{Entity::Invoice, "subject"},     {Entity::Item, "sku"},
+                                            {Entity::Address, "misc5"},       {Entity::RecentItem, "misc1"},
                                             {Entity::RecentShipping, "note"}, {Entity::Design, "css"}};
     std::vector<RoundTripCase> cases;
     for (const auto& [entity, key] : absent)
-        for (Carrier carrier : {Carrier::Dictionary, Carrier::KeyedArchive, Carrier::BinaryPlist, Carrier::XmlPlist})
+        for (Carrier carrier :
+             {Carrier::Dictionary, Carrier::KeyedArchive, Carrier::BinaryPlist, Carrier::XmlPlist})
             cases.push_back({entity, carrier, key});
     return cases;
 }
@@ -207,7 +218,8 @@ TEST_F(SerializationTest, ItemWritesItsDocumentWithoutComingBackThroughIt)
 
     // A history handed in leaves out what it holds.
     QSet<const ManagedObject*> history{invoice};
-    EXPECT_FALSE(Serialization::toDictionaryWithTraversalHistory(*invoice->items()[0], &history).contains("invoice"));
+    EXPECT_FALSE(
+        Serialization::toDictionaryWithTraversalHistory(*invoice->items()[0], &history).contains("invoice"));
     EXPECT_EQ(history.size(), 2);
 }
 
@@ -244,7 +256,7 @@ struct DictionaryCase
     const char* name;
     QVariantMap dictionary;
     bool accepted;
-    QString key;       // checked on the created document when accepted
+    QString key; // checked on the created document when accepted
     QVariant expected;
 };
 
@@ -314,7 +326,8 @@ INSTANTIATE_TEST_SUITE_P(
         DictionaryCase{"boolServesInteger", invoiceWith("kind", true), true, "kind", qint64(1)},
         DictionaryCase{"doubleNarrowsToFloat", invoiceWith("amount", double(0.1f)), true, "amount", 0.1f},
         DictionaryCase{"dateMarker", invoiceWith("due", "dAtEaTtr:99"), true, "due", referenceDate},
-        DictionaryCase{"unknownKeySkipped", invoiceWith("colour", "red"), true, "number", QStringLiteral("A-1")},
+        DictionaryCase{"unknownKeySkipped", invoiceWith("colour", "red"), true, "number",
+                       QStringLiteral("A-1")},
         DictionaryCase{"genericClassIsItem", itemDictionary(), true, "title", QStringLiteral("Work")},
         DictionaryCase{"missingClass", QVariantMap{{"number", "A-1"}}, false, {}, {}},
         DictionaryCase{"classNotText", QVariantMap{{"class", qint64(7)}}, false, {}, {}},
@@ -324,19 +337,27 @@ INSTANTIATE_TEST_SUITE_P(
         DictionaryCase{"textForDate", invoiceWith("date", "2026-01-01"), false, {}, {}},
         DictionaryCase{"dateMarkerForText", invoiceWith("title", "dAtEaTtr:1"), false, {}, {}},
         DictionaryCase{"dataForDate", invoiceWith("date", QByteArray("x")), false, {}, {}},
-        DictionaryCase{"textForData", QVariantMap{{"class", "Design"}, {"misc5", "yesterday"}}, false, {}, {}},
+        DictionaryCase{
+            "textForData", QVariantMap{{"class", "Design"}, {"misc5", "yesterday"}}, false, {}, {}},
         DictionaryCase{"floatOutOfRange", invoiceWith("amount", 1e39), false, {}, {}},
         DictionaryCase{"integerNotFinite", invoiceWith("status", qQNaN()), false, {}, {}},
         DictionaryCase{"listForAttribute", invoiceWith("title", QVariantList{"a"}), false, {}, {}},
         DictionaryCase{"recordForAttribute", invoiceWith("title", itemDictionary()), false, {}, {}},
         DictionaryCase{"textForItems", invoiceWith("items", "three"), false, {}, {}},
         DictionaryCase{"recordForItems", invoiceWith("items", itemDictionary()), false, {}, {}},
-        DictionaryCase{"textInItems", invoiceWith("items", QVariantList{itemDictionary(), "x"}), false, {}, {}},
-        DictionaryCase{"documentInItems", invoiceWith("items", QVariantList{QVariantMap{{"class", "Invoice"}}}), false,
-                       {}, {}},
-        DictionaryCase{"damagedSecondItem",
-                       invoiceWith("items", QVariantList{itemDictionary(), itemDictionary({{"unitCount", "two"}})}),
-                       false, {}, {}},
+        DictionaryCase{
+            "textInItems", invoiceWith("items", QVariantList{itemDictionary(), "x"}), false, {}, {}},
+        DictionaryCase{"documentInItems",
+                       invoiceWith("items", QVariantList{QVariantMap{{"class", "Invoice"}}}),
+                       false,
+                       {},
+                       {}},
+        DictionaryCase{
+            "damagedSecondItem",
+            invoiceWith("items", QVariantList{itemDictionary(), itemDictionary({{"unitCount", "two"}})}),
+            false,
+            {},
+            {}},
         DictionaryCase{"listForOwner", itemDictionary({{"invoice", QVariantList{}}}), false, {}, {}},
         DictionaryCase{"nestedTooDeep", nestedTooDeep(), false, {}, {}}),
     [](const auto& info) { return std::string(info.param.name); });
