@@ -21,6 +21,7 @@ QString oneLine(QString text)
 CliRunner::CliRunner()
 {
     registerSettingsCommands(m_registry);
+    registerDesignCommands(m_registry);
 }
 
 int CliRunner::run(QStringList args, QTextStream& out, QTextStream& err)
