@@ -11,7 +11,8 @@ InvoicingControllers::InvoicingControllers(AppState& state)
       m_data(std::make_unique<DataController>(state, *m_calculator, *m_numbering, *m_filter, *m_gui)),
       m_items(std::make_unique<ItemController>(state, *m_calculator)),
       m_shipping(std::make_unique<ShippingController>(state, *m_calculator)),
-      m_discount(std::make_unique<DiscountController>(state, *m_calculator))
+      m_discount(std::make_unique<DiscountController>(state, *m_calculator)),
+      m_addresses(std::make_unique<AddressController>(state, *m_numbering))
 {
 }
 

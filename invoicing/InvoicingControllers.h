@@ -1,5 +1,6 @@
 #pragma once
 
+#include "invoicing/AddressController.h"
 #include "invoicing/Calculator.h"
 #include "invoicing/DataController.h"
 #include "invoicing/DiscountController.h"
@@ -34,6 +35,7 @@ public:
     ItemController& items() { return *m_items; }
     ShippingController& shipping() { return *m_shipping; }
     DiscountController& discount() { return *m_discount; }
+    AddressController& addresses() { return *m_addresses; }
 
 private:
     std::unique_ptr<Calculator> m_calculator;
@@ -44,6 +46,7 @@ private:
     std::unique_ptr<ItemController> m_items;
     std::unique_ptr<ShippingController> m_shipping;
     std::unique_ptr<DiscountController> m_discount;
+    std::unique_ptr<AddressController> m_addresses;
 };
 
 } // namespace vorn
