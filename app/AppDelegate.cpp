@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/AppLog.h"
+#include "app/BackupController.h"
 #include "designs/DesignController.h"
 #include "store/Clock.h"
 #include "store/PropertyList.h"
@@ -23,7 +24,8 @@ const QString errorDomain = QStringLiteral("YOUR_ERROR_DOMAIN");
 
 AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clock, FileLocations locations,
                          QObject* parent)
-    : QObject(parent), m_state(settings, ui, clock, std::move(locations))
+    : QObject(parent), m_state(settings, ui, clock, std::move(locations)),
+      m_backup(std::make_unique<BackupController>(*this))
 {
     setTemplateLoader([this] {
         if (Status s = DesignController(m_state).loadTemplates(); !s)
@@ -97,6 +99,17 @@ ObjectContext* AppDelegate::managedObjectContext()
     return m_context.get();
 }
 
+void AppDelegate::adoptStore(std::unique_ptr<SqliteStore> store)
+{
+    m_coordinatorBuilt = m_contextBuilt = true;
+    if (m_context) {
+        m_context->reset(std::move(store));
+        return;
+    }
+    m_context = std::make_unique<ObjectContext>(std::move(store), m_state.clock(), *managedObjectModel());
+    m_state.setContext(m_context.get());
+}
+
 void AppDelegate::awakeFromNib()
 {
     createBackupPath();
@@ -123,6 +136,10 @@ void AppDelegate::applicationDidFinishLaunching()
             ui().presentError(s.error());
     }
     ui().showPreferencesWindow();
+    // Once the store is loaded and before the first edit: the safety copy,
+    // or the repair question.
+    if (m_launchChecks)
+        m_backup->createBackup();
     Q_EMIT storeLoaded();
 }
 

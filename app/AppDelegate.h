@@ -13,6 +13,7 @@
 
 namespace vorn {
 
+class BackupController;
 class Clock;
 class Settings;
 class UserInterface;
@@ -38,6 +39,14 @@ public:
     SqliteStore* persistentStoreCoordinator();
     ObjectContext* managedObjectContext();
     QString applicationFilesDirectory() const { return m_state.locations().filesDirectory; }
+    // Puts a newly opened store file in place of the current one (after a
+    // restore); the context forgets its objects and the lists fetch anew.
+    void adoptStore(std::unique_ptr<SqliteStore> store);
+
+    BackupController& backupController() { return *m_backup; }
+    // Whether launching runs the safety copy with its repair question (the
+    // command-line tool leaves that to its "check" command).
+    void setLaunchChecksEnabled(bool enabled) { m_launchChecks = enabled; }
 
     // Launch, in two halves as the window system calls them.
     void awakeFromNib();
@@ -78,6 +87,8 @@ private:
     std::unique_ptr<ObjectContext> m_context;
     AppState m_state;
     std::function<void()> m_loadTemplates;
+    std::unique_ptr<BackupController> m_backup;
+    bool m_launchChecks = true;
 };
 
 } // namespace vorn

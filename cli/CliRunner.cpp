@@ -21,6 +21,7 @@ QString oneLine(QString text)
 CliRunner::CliRunner()
 {
     registerSettingsCommands(m_registry);
+    registerDataCommands(m_registry);
     registerDesignCommands(m_registry);
 }
 
@@ -64,6 +65,8 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
 
     CliUserInterface ui;
     AppDelegate app(settings, ui, Clock::system(), locations);
+    // The safety copy and its repair question run only through "check".
+    app.setLaunchChecksEnabled(false);
     app.awakeFromNib();
     if (!readOnly)
         app.applicationDidFinishLaunching();
