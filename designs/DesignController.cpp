@@ -218,7 +218,7 @@ ManagedObject* DesignController::importDesign()
         UndoGroup group(context->undoManager(), tr("Import Design"));
         auto created = Serialization::createManagedObjectFromDictionary(read, *context);
         if (!created) {
-            ui.presentError(created.error());
+            ui.presentError(InterchangeFile::fileError(*path, created.error()));
             return nullptr;
         }
         design = created.value();

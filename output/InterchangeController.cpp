@@ -42,7 +42,7 @@ ManagedObject* InterchangeController::importInvoice()
     }
     auto document = insertDocument(dictionary.value());
     if (!document) {
-        ui.presentError(document.error());
+        ui.presentError(InterchangeFile::fileError(*path, document.error()));
         return nullptr;
     }
     ui.selectToolbarItem(QStringLiteral("addressItem"));

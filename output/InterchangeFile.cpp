@@ -90,17 +90,21 @@ Result<QVariantMap> readEntry(const QString& path, const QString& key)
     if (!data)
         return data.error();
     auto entry = InterchangeFile::rootEntry(data.value(), key);
-    if (!entry) {
-        Error e = entry.error();
-        // Which file it was matters to the user more than where inside it broke.
-        e.reason = e.message;
-        e.message = InterchangeFile::tr("The file “%1” could not be read.").arg(QFileInfo(path).fileName());
-        return e;
-    }
+    if (!entry)
+        return InterchangeFile::fileError(path, entry.error());
     return entry;
 }
 
 } // namespace
+
+Error InterchangeFile::fileError(const QString& path, const Error& detail)
+{
+    // Which file it was matters to the user more than where inside it broke.
+    Error e = detail;
+    e.reason = detail.message;
+    e.message = tr("The file “%1” could not be read.").arg(QFileInfo(path).fileName());
+    return e;
+}
 
 Result<QVariantMap> InterchangeFile::readDocumentFile(const QString& path)
 {

@@ -46,6 +46,9 @@ public:
     static Result<QVariantMap> rootEntry(const QByteArray& data, const QString& key);
     // The whole file, refusing one too large to be ours before reading it.
     static Result<QByteArray> readFile(const QString& path);
+    // An error about what is inside a file, told as "this file could not be
+    // read" with the detail as its reason.
+    static Error fileError(const QString& path, const Error& detail);
 };
 
 } // namespace vorn

@@ -208,7 +208,7 @@ private:
     }
     static Error wrongType(const QString& key, const QString& entity, const QString& expected)
     {
-        return damaged(Serialization::tr("“%1” of a %2 record does not hold %3").arg(key, entity, expected));
+        return damaged(Serialization::tr("the value of “%1” (%2) is not %3").arg(key, entity, expected));
     }
 
     const ObjectModel& m_model;

@@ -1,0 +1,200 @@
+#include "output/InterchangeController.h"
+#include "output/InterchangeFile.h"
+#include "output/KeyedArchive.h"
+
+#include "store/AppState.h"
+#include "store/Clock.h"
+#include "store/ObjectContext.h"
+#include "store/PropertyList.h"
+#include "store/Settings.h"
+#include "tests/support/ScriptedUserInterface.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QTimeZone>
+
+#include <gtest/gtest.h>
+
+using namespace vorn;
+
+namespace {
+
+const QString warningText =
+    "The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by "
+    "design it "
+    "can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So "
+    "please, do "
+    "yourself a favor and check what you are doing here. Do you still want to import the invoice?";
+
+QDateTime utc(int y, int m, int d)
+{
+    return QDateTime(QDate(y, m, d), QTime(9, 0), QTimeZone::utc());
+}
+
+class InterchangeControllerTest : public ::testing::Test
+{
+protected:
+    QTemporaryDir dir;
+    Settings settings{dir.filePath("settings.plist")};
+    test::ScriptedUserInterface ui;
+    FixedClock clock{utc(2026, 3, 1)};
+    AppState state{settings, ui, clock, FileLocations{}};
+    ObjectContext context{nullptr, clock};
+    InterchangeController interchange{state};
+
+    void SetUp() override { state.setContext(&context); }
+
+    ManagedObject* document(const QString& number, const QDateTime& date, int kind = 1)
+    {
+        ManagedObject* d = context.insertNewObject(Entity::Invoice);
+        d->setValue("number", number);
+        d->setValue("date", date);
+        d->setValue("kind", kind);
+        state.invoicesController().addObject(d);
+        return d;
+    }
+    QString writeFile(const QString& name, const QByteArray& data)
+    {
+        QFile f(dir.filePath(name));
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(data);
+        return f.fileName();
+    }
+    QStringList exportedNumbers(const QString& path)
+    {
+        QFile f(path);
+        EXPECT_TRUE(f.open(QIODevice::ReadOnly));
+        QStringList numbers;
+        for (const QVariant& d : PropertyList::read(f.readAll()).value().toList())
+            numbers << d.toMap().value("number").toString();
+        return numbers;
+    }
+};
+
+} // namespace
+
+TEST_F(InterchangeControllerTest, ImportAsksThenAddsTheDocumentAsItIsAndSaves)
+{
+    // Whatever the file calls its record, it comes in as a document.
+    const QString path =
+        writeFile("doc.vorn",
+                  KeyedArchive::archive(QVariantMap{
+                      {"vornDic", QVariantMap{{"class", "Address"},
+                                              {"number", "RE-9"},
+                                              {"status", qint64(3)},
+                                              {"date", utc(2025, 12, 24)},
+                                              {"items", QVariantList{QVariantMap{{"class", "NSManagedObject"},
+                                                                                 {"title", "Work"}}}}}}}));
+    document("RE-1", utc(2026, 1, 1));
+    ASSERT_TRUE(context.save());
+    ui.answerAlert(0);
+    ui.answerPanel(path);
+    ManagedObject* imported = interchange.importInvoice();
+    ASSERT_NE(imported, nullptr);
+    EXPECT_EQ(imported->entityName(), Entity::Invoice);
+    EXPECT_EQ(imported->stringValue("number"), "RE-9");
+    EXPECT_EQ(imported->intValue("status"), 3);
+    EXPECT_EQ(imported->dateValue("date"), utc(2025, 12, 24));
+    ASSERT_EQ(imported->items().size(), 1);
+    EXPECT_EQ(imported->items().first()->stringValue("title"), "Work");
+
+    const auto calls = ui.calls();
+    ASSERT_EQ(calls.size(), 3);
+    EXPECT_EQ(calls[0].kind, "alert");
+    EXPECT_EQ(calls[0].title, "Warning!");
+    EXPECT_EQ(calls[0].text, warningText);
+    EXPECT_EQ(calls[0].buttons, (QStringList{"Import…", "Cancel"}));
+    EXPECT_EQ(calls[1].kind, "open");
+    EXPECT_EQ(calls[1].title, "Import Vorn Document");
+    EXPECT_EQ(calls[1].buttons, QStringList{"vorn"});
+    EXPECT_EQ(calls[2].kind, "toolbar");
+    EXPECT_EQ(calls[2].title, "addressItem");
+
+    // In the list at its sorted place (older date: after RE-1), and saved.
+    EXPECT_EQ(state.invoicesController().arrangedObjects().last(), imported);
+    EXPECT_FALSE(context.hasChanges());
+
+    // The same file again: a second document with the same number.
+    ui.answerAlert(0);
+    ui.answerPanel(path);
+    ASSERT_NE(interchange.importInvoice(), nullptr);
+    int withNumber = 0;
+    for (const ManagedObject* d : context.fetch(Entity::Invoice))
+        withNumber += d->stringValue("number") == "RE-9" ? 1 : 0;
+    EXPECT_EQ(withNumber, 2);
+}
+
+TEST_F(InterchangeControllerTest, CancellingOrABadFileImportsNothing)
+{
+    const QString good = writeFile(
+        "good.vorn",
+        KeyedArchive::archive(QVariantMap{{"vornDic", QVariantMap{{"class", "Invoice"}, {"number", "X"}}}}));
+    const QString bad = writeFile(
+        "bad.vorn",
+        KeyedArchive::archive(QVariantMap{{"vornDic", QVariantMap{{"class", "Invoice"}, {"number", 5}}}}));
+    ManagedObject* pending = document("RE-1", utc(2026, 1, 1));
+
+    ui.answerAlert(1); // "Cancel"
+    EXPECT_EQ(interchange.importInvoice(), nullptr);
+    EXPECT_TRUE(ui.calls("open").isEmpty());
+
+    ui.answerAlert(0);
+    ui.answerPanel(std::nullopt);
+    EXPECT_EQ(interchange.importInvoice(), nullptr);
+
+    for (const QString& path : {bad, dir.filePath("missing.vorn")}) {
+        ui.clear();
+        ui.answerAlert(0);
+        ui.answerPanel(path);
+        EXPECT_EQ(interchange.importInvoice(), nullptr);
+        ASSERT_EQ(ui.calls("error").size(), 1);
+        EXPECT_TRUE(ui.calls("error").first().title.contains(QFileInfo(path).fileName()));
+        EXPECT_TRUE(ui.calls("toolbar").isEmpty());
+    }
+    EXPECT_EQ(context.fetch(Entity::Invoice), QList<ManagedObject*>{pending});
+    // The unrelated pending document was neither saved nor dropped.
+    EXPECT_TRUE(context.hasChanges());
+    EXPECT_TRUE(pending->isInserted());
+    Q_UNUSED(good);
+
+    state.setContext(nullptr);
+    ui.clear();
+    EXPECT_EQ(interchange.importInvoice(), nullptr);
+    EXPECT_TRUE(ui.calls().isEmpty());
+}
+
+TEST_F(InterchangeControllerTest, ExportsWriteTheListedOrEveryDocument)
+{
+    document("A", utc(2026, 1, 5));
+    document("B", utc(2026, 2, 5), 0);
+    document("C", utc(2026, 1, 20));
+    state.invoicesController().setFilterPredicate(
+        [](const ManagedObject& d) { return d.intValue("kind") == 1; });
+
+    const QString listed = dir.filePath("listed.xml");
+    ui.answerPanel(listed);
+    ASSERT_TRUE(interchange.exportItems());
+    EXPECT_EQ(exportedNumbers(listed), (QStringList{"C", "A"})); // the filtered list, newest first
+
+    const QString all = dir.filePath("all.xml");
+    ui.answerPanel(all);
+    ASSERT_TRUE(interchange.exportVornDataXML());
+    EXPECT_EQ(exportedNumbers(all), (QStringList{"A", "B", "C"})); // store order
+
+    const auto panels = ui.calls("save");
+    ASSERT_EQ(panels.size(), 2);
+    for (const auto& panel : panels) {
+        EXPECT_EQ(panel.title, "Export Vorn Database As XML");
+        EXPECT_EQ(panel.buttons, QStringList{"xml"});
+    }
+    EXPECT_EQ(panels[0].text, "");
+    EXPECT_EQ(panels[1].text, "Vorn Database");
+
+    // A cancelled panel writes nothing; a failed write leaves the old file.
+    ui.answerPanel(std::nullopt);
+    EXPECT_TRUE(interchange.exportVornDataXML());
+    ui.answerPanel(dir.filePath("listed.xml/inside.xml"));
+    EXPECT_FALSE(interchange.exportVornDataXML());
+    EXPECT_EQ(exportedNumbers(listed), (QStringList{"C", "A"}));
+    EXPECT_TRUE(ui.calls("error").isEmpty());
+}
