@@ -3,6 +3,7 @@
 #include "app/AppLog.h"
 #include "app/BackupController.h"
 #include "designs/DesignController.h"
+#include "invoicing/InvoicingControllers.h"
 #include "store/Clock.h"
 #include "store/PropertyList.h"
 #include "store/Settings.h"
@@ -27,6 +28,7 @@ AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clo
     : QObject(parent), m_state(settings, ui, clock, std::move(locations)),
       m_backup(std::make_unique<BackupController>(*this))
 {
+    m_invoicing = std::make_unique<InvoicingControllers>(m_state);
     setTemplateLoader([this] {
         if (Status s = DesignController(m_state).loadTemplates(); !s)
             m_state.ui().presentError(s.error());

@@ -15,6 +15,7 @@ namespace vorn {
 
 class BackupController;
 class Clock;
+class InvoicingControllers;
 class Settings;
 class UserInterface;
 
@@ -44,6 +45,8 @@ public:
     void adoptStore(std::unique_ptr<SqliteStore> store);
 
     BackupController& backupController() { return *m_backup; }
+    // Documents, numbers, arithmetic, items, shipping, discount, addresses, list filter.
+    InvoicingControllers& invoicing() { return *m_invoicing; }
     // Whether launching runs the safety copy with its repair question (the
     // command-line tool leaves that to its "check" command).
     void setLaunchChecksEnabled(bool enabled) { m_launchChecks = enabled; }
@@ -89,6 +92,7 @@ private:
     std::function<void()> m_loadTemplates;
     std::unique_ptr<BackupController> m_backup;
     bool m_launchChecks = true;
+    std::unique_ptr<InvoicingControllers> m_invoicing;
 };
 
 } // namespace vorn
