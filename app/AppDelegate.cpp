@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/AppLog.h"
+#include "app/AssiController.h"
 #include "app/BackupController.h"
 #include "designs/DesignController.h"
 #include "invoicing/InvoicingControllers.h"
@@ -26,7 +27,7 @@ const QString errorDomain = QStringLiteral("YOUR_ERROR_DOMAIN");
 AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clock, FileLocations locations,
                          QObject* parent)
     : QObject(parent), m_state(settings, ui, clock, std::move(locations)),
-      m_backup(std::make_unique<BackupController>(*this))
+      m_backup(std::make_unique<BackupController>(*this)), m_assi(std::make_unique<AssiController>(*this))
 {
     m_invoicing = std::make_unique<InvoicingControllers>(m_state);
     setTemplateLoader([this] {
@@ -138,10 +139,12 @@ void AppDelegate::applicationDidFinishLaunching()
             ui().presentError(s.error());
     }
     ui().showPreferencesWindow();
-    // Once the store is loaded and before the first edit: the safety copy,
-    // or the repair question.
-    if (m_launchChecks)
+    // Once the store is loaded and before the first edit: the safety copy
+    // (or the repair question), then the assistant's first run.
+    if (m_launchChecks) {
         m_backup->createBackup();
+        m_assi->openAssiAtFirstRun();
+    }
     Q_EMIT storeLoaded();
 }
 

@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/AssiController.h"
 #include "cli/CliUserInterface.h"
 #include "cli/CommandRegistry.h"
 #include "cli/Json.h"
@@ -77,14 +78,10 @@ int defaultsLoad(CommandContext& c)
     const int language = c.args.size() == 1 ? int(languages.indexOf(c.args.first().toLower())) : -1;
     if (language < 0)
         return c.usage(CommandRegistry::tr("usage: defaults load english|german|french|spanish"));
-    Settings& settings = c.app.settings();
-    settings.setValue(QStringLiteral("languageDefaults"), qint64(language));
-    if (!settings.boolValue(QStringLiteral("isFirstStoreLoadEverDone"))) {
-        c.app.loadTemplates();
-        settings.setValue(QStringLiteral("isFirstStoreLoadEverDone"), true);
-    }
-    if (Status s = c.app.loadDefaults(language); !s)
-        return c.fail(s.error().fullText());
+    AssiController& assi = c.app.assiController();
+    assi.setLanguage(language);
+    // Failures are presented through the interface and end the run with their text.
+    assi.firstAssiTabAction();
     return ExitCode::Done;
 }
 
