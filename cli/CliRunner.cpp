@@ -6,6 +6,8 @@
 #include "store/Clock.h"
 #include "store/Settings.h"
 
+#include <optional>
+
 namespace vorn {
 
 namespace {
@@ -58,10 +60,14 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
     // and this run neither seeds, saves nor records a quit.
     InstanceLock lock(locations.lockFile());
     bool readOnly = false;
+    std::optional<Error> lockError;
     if (Status s = lock.tryLock(); !s) {
-        if (command.changesStore)
+        if (command.changesStore && s.error().code == ErrorCode::StoreLocked)
             return fail(s.error().message + QLatin1Char(' ') + s.error().reason, ExitCode::Failure);
+        // A lock that cannot even be made (no folder for it) is reported
+        // after the store, whose own error says why.
         readOnly = true;
+        lockError = s.error();
     }
 
     CliUserInterface ui;
@@ -76,6 +82,8 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
                                               : ui.errors().first();
         return fail(e.fullText(), ExitCode::Failure);
     }
+    if (lockError && command.changesStore)
+        return fail(lockError->message + QLatin1Char(' ') + lockError->reason, ExitCode::Failure);
     ui.clear();
 
     CommandContext context{app, ui, args, {}, {}};

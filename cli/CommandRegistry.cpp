@@ -5,6 +5,8 @@
 #include <QDateTime>
 #include <QTimeZone>
 
+#include <cmath>
+
 namespace vorn {
 
 const Command* CommandRegistry::find(QStringList& args) const
@@ -90,7 +92,8 @@ std::optional<QVariant> typedValue(const QString& entityName, const QString& key
     }
     case AttributeType::Float: {
         const float v = text.trimmed().toFloat(&ok);
-        if (ok)
+        // "nan" and "inf" parse, but no amount or rate can be one.
+        if (ok && std::isfinite(v))
             return QVariant(v);
         break;
     }

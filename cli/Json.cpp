@@ -89,8 +89,13 @@ QString write(const QVariant& value)
         return QString::number(value.toLongLong());
     case QMetaType::Float:
         return floatText(value.toFloat());
-    case QMetaType::Double:
-        return shortest(value.toDouble());
+    case QMetaType::Double: {
+        // Settings keep reals as doubles; one that is exactly a single (a
+        // rate stored from a float) is that single's shortest text.
+        const double d = value.toDouble();
+        const float f = float(d);
+        return double(f) == d ? floatText(f) : shortest(d);
+    }
     case QMetaType::QDateTime:
         return quote(dateText(value.toDateTime()));
     case QMetaType::QByteArray:

@@ -7,6 +7,8 @@
 
 #include <QFile>
 
+#include <cmath>
+
 namespace vorn {
 
 namespace {
@@ -50,7 +52,10 @@ int defaultsWrite(CommandContext& c)
     } else if (type == QLatin1String("int")) {
         value = text.trimmed().toLongLong(&ok);
     } else if (type == QLatin1String("float")) {
-        value = text.trimmed().toDouble(&ok);
+        const double number = text.trimmed().toDouble(&ok);
+        // "nan" and "inf" parse, but are no setting anyone can use.
+        ok = ok && std::isfinite(number);
+        value = number;
     } else if (type == QLatin1String("date")) {
         const auto d = Cli::parseDate(text);
         ok = d.has_value();

@@ -23,6 +23,7 @@ std::optional<QString> ScriptedUserInterface::runSavePanel(const FilePanel& pane
 bool ScriptedUserInterface::presentError(const Error& error)
 {
     m_calls.append({QStringLiteral("error"), error.message, error.reason, {}, error.code});
+    m_errors.append(error);
     return m_errorAnswers.isEmpty() ? false : m_errorAnswers.dequeue();
 }
 

@@ -46,10 +46,17 @@ public:
     // Alert titles (or texts when asked) in order.
     QStringList alertTitles() const;
     QList<int> errorCodes() const;
-    void clear() { m_calls.clear(); }
+    // Every error presented, whole (domain included), in order.
+    const QList<Error>& errors() const { return m_errors; }
+    void clear()
+    {
+        m_calls.clear();
+        m_errors.clear();
+    }
 
 private:
     QList<Call> m_calls;
+    QList<Error> m_errors;
     QQueue<int> m_alertAnswers;
     QQueue<std::optional<QString>> m_panelAnswers;
     QQueue<bool> m_errorAnswers;

@@ -1,0 +1,83 @@
+#include "app/InstanceLock.h"
+
+#include <QDir>
+#include <QFile>
+#include <QSysInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace vorn::test {
+namespace {
+
+// The id of a process that has ended.
+qint64 deadProcessId()
+{
+    const pid_t child = fork();
+    if (child == 0)
+        _exit(0);
+    int status = 0;
+    waitpid(child, &status, 0);
+    return child;
+}
+
+class InstanceLockTest : public ::testing::Test
+{
+protected:
+    QString path() const { return m_dir.filePath(QStringLiteral("files/Vorn.vndb.lock")); }
+    QTemporaryDir m_dir;
+};
+
+TEST_F(InstanceLockTest, ASecondLockIsRefusedWhileTheFirstIsHeld)
+{
+    InstanceLock first(path());
+    ASSERT_TRUE(first.tryLock());
+    EXPECT_TRUE(first.isLocked());
+    EXPECT_TRUE(QFile::exists(path()));
+    EXPECT_TRUE(InstanceLock::isHeldElsewhere(path()));
+
+    InstanceLock second(path());
+    const Status refused = second.tryLock();
+    ASSERT_FALSE(refused.ok());
+    EXPECT_EQ(refused.error().code, ErrorCode::StoreLocked);
+    EXPECT_FALSE(refused.error().message.isEmpty());
+    EXPECT_FALSE(second.isLocked());
+    EXPECT_TRUE(first.isLocked()) << "a refused attempt must not break the holder's lock";
+
+    first.unlock();
+    EXPECT_FALSE(InstanceLock::isHeldElsewhere(path()));
+    EXPECT_TRUE(second.tryLock());
+    EXPECT_TRUE(first.tryLock().ok() == false);
+}
+
+TEST_F(InstanceLockTest, ALockLeftByADeadProcessDoesNotBlock)
+{
+    QDir().mkpath(QFileInfo(path()).absolutePath());
+    QFile stale(path());
+    ASSERT_TRUE(stale.open(QIODevice::WriteOnly));
+    stale.write(QByteArray::number(deadProcessId()) + "\nvorn\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    stale.close();
+
+    EXPECT_FALSE(InstanceLock::isHeldElsewhere(path()));
+    InstanceLock lock(path());
+    ASSERT_TRUE(lock.tryLock());
+    EXPECT_TRUE(lock.isLocked());
+}
+
+TEST_F(InstanceLockTest, ALockThatCannotBeCreatedIsAnError)
+{
+    QFile blocker(m_dir.filePath(QStringLiteral("files")));
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    InstanceLock lock(path());
+    const Status s = lock.tryLock();
+    ASSERT_FALSE(s.ok());
+    EXPECT_NE(s.error().code, ErrorCode::StoreLocked);
+    EXPECT_FALSE(InstanceLock::isHeldElsewhere(path()));
+}
+
+} // namespace
+} // namespace vorn::test
