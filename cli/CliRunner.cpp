@@ -23,6 +23,7 @@ QString oneLine(QString text)
 CliRunner::CliRunner()
 {
     registerSettingsCommands(m_registry);
+    registerOutputCommands(m_registry);
     registerDocumentCommands(m_registry);
     registerDataCommands(m_registry);
     registerDesignCommands(m_registry);

@@ -24,6 +24,8 @@ public:
     void showPreferencesWindow() override {}
     bool openUrl(const QUrl&) override { return false; }
     bool openApplication(const QString&) override { return false; }
+    // There is no printer dialog without a display; nothing is printed.
+    bool runPrintOperation(const PrintJob&) override { return false; }
 
     void setPanelAnswer(std::optional<QString> path) { m_panelAnswer = std::move(path); }
     // The text of the last alert that only informed, if any.

@@ -81,6 +81,7 @@ ManagedObject* document(CommandContext& c, const QString& doc);
 } // namespace Cli
 
 void registerSettingsCommands(CommandRegistry& registry);
+void registerOutputCommands(CommandRegistry& registry);
 void registerDocumentCommands(CommandRegistry& registry);
 void registerDataCommands(CommandRegistry& registry);
 void registerDesignCommands(CommandRegistry& registry);

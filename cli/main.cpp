@@ -1,13 +1,25 @@
 #include "cli/CliRunner.h"
+#include "output/PdfRenderer.h"
 
 #include <QCoreApplication>
+#include <QGuiApplication>
 #include <QTextStream>
 
 #include <cstdio>
+#include <cstring>
+#include <memory>
 
 int main(int argc, char** argv)
 {
-    QCoreApplication application(argc, argv);
+    // Only rendering needs the GUI application object (on the offscreen
+    // platform, without a display); every other command starts without it.
+    std::unique_ptr<QCoreApplication> application;
+    if (argc > 1 && std::strcmp(argv[1], "pdf") == 0) {
+        vorn::PdfRenderer::prepareProcess(true);
+        application = std::make_unique<QGuiApplication>(argc, argv);
+    } else {
+        application = std::make_unique<QCoreApplication>(argc, argv);
+    }
     QCoreApplication::setApplicationName(QStringLiteral("vorn-cli"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("tandrelo.com"));
     QTextStream out(stdout);

@@ -11,6 +11,7 @@
 #include <QGuiApplication>
 #include <QLoggingCategory>
 #include <QPointer>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimer>
 #include <QWebEnginePage>
@@ -18,6 +19,7 @@
 #include <QWebEngineSettings>
 #include <QWebEngineUrlRequestInterceptor>
 
+#include <cstdio>
 #include <optional>
 
 #include <unistd.h>
@@ -44,8 +46,11 @@ private:
     PdfRenderer& m_renderer;
 };
 
-// A page that follows no navigation but the one its job starts: no
-// redirects, refreshes or frames leading elsewhere.
+// A page that follows no navigation of its main frame but the one its job
+// starts: no refresh or link leads the document elsewhere. Frames inside it
+// may navigate; what they ask for is refused by the request guard and the
+// local-content settings (refusing the navigation itself can leave the
+// page loading forever).
 class RenderPage : public QWebEnginePage
 {
 public:
@@ -56,12 +61,14 @@ public:
 protected:
     bool acceptNavigationRequest(const QUrl& url, NavigationType, bool isMainFrame) override
     {
-        if (isMainFrame && m_expecting) {
+        if (!isMainFrame)
+            return true;
+        if (m_expecting) {
             m_expecting = false;
             return true;
         }
-        const QString scheme = url.scheme();
-        return !isMainFrame && (scheme == QLatin1String("about") || scheme == QLatin1String("data"));
+        qCDebug(lcOutput) << "Refused a navigation of a document to" << url.toString().left(200);
+        return false;
     }
 
 private:
@@ -87,6 +94,14 @@ QString cleanPath(const QString& path)
 {
     return QDir::cleanPath(QFileInfo(path).absoluteFilePath());
 }
+
+// A policy in the document itself refuses everything but inline styles and
+// local or inline images and fonts before any request is made; this also
+// keeps embedded objects from holding the load open forever.
+const QString securityPolicy = QStringLiteral(
+    "<meta http-equiv=\"Content-Security-Policy\" content=\"default-src 'none'; img-src file: data:; "
+    "style-src 'unsafe-inline' data:; font-src data:; object-src 'none'; frame-src 'none'; media-src 'none'; "
+    "script-src 'none'; form-action 'none'; base-uri 'none'\">");
 
 Error renderError(const QString& reason)
 {
@@ -149,6 +164,35 @@ QPageLayout PdfRenderer::pageLayout(qint64 paperSize)
     return QPageLayout(pageSize(paperSize), QPageLayout::Portrait, QMarginsF(40, 40, 40, 60), QPageLayout::Point);
 }
 
+QString PdfRenderer::withSecurityPolicy(const QString& html)
+{
+    // After a doctype, so that the document keeps its standards mode; the
+    // parser files the element into the head either way.
+    static const QRegularExpression doctype(QStringLiteral("^\\s*(<!--.*?-->\\s*)*<!doctype[^>]*>"),
+                                            QRegularExpression::CaseInsensitiveOption |
+                                                QRegularExpression::DotMatchesEverythingOption);
+    const QRegularExpressionMatch match = doctype.match(html);
+    const qsizetype at = match.hasMatch() ? match.capturedEnd() : 0;
+    return html.left(at) + securityPolicy + html.mid(at);
+}
+
+namespace {
+
+QtMessageHandler previousHandler = nullptr;
+
+void quietMessageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
+{
+    const bool ours = context.category && qstrncmp(context.category, "vorn.", 5) == 0;
+    if (!ours && type < QtCriticalMsg)
+        return;
+    if (previousHandler)
+        previousHandler(type, context, message);
+    else
+        std::fprintf(stderr, "%s\n", qPrintable(qFormatLogMessage(type, context, message)));
+}
+
+} // namespace
+
 bool PdfRenderer::isAvailable()
 {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
@@ -164,6 +208,14 @@ void PdfRenderer::prepareProcess(bool headless)
     if (::getuid() == 0 && qEnvironmentVariableIsEmpty("QTWEBENGINE_DISABLE_SANDBOX"))
         qputenv("QTWEBENGINE_DISABLE_SANDBOX", "1");
     QLoggingCategory::setFilterRules(QStringLiteral("qt.webenginecontext.info=false"));
+    if (headless) {
+        // A command-line run keeps its error output to its own messages:
+        // the engine's start-up notes and the platform's go unsaid.
+        QByteArray flags = qgetenv("QTWEBENGINE_CHROMIUM_FLAGS");
+        if (!flags.contains("--log-level"))
+            qputenv("QTWEBENGINE_CHROMIUM_FLAGS", (flags + " --log-level=3").trimmed());
+        previousHandler = qInstallMessageHandler(quietMessageHandler);
+    }
 }
 
 void PdfRenderer::setParallelPages(int pages)
@@ -281,7 +333,12 @@ void PdfRenderer::start(Slot& slot, Pending pending)
     if (!slot.page) {
         slot.page = makePage();
         Slot* s = &slot;
-        connect(slot.page.get(), &QWebEnginePage::loadFinished, this, [this, s](bool ok) { loadFinished(*s, ok); });
+        connect(slot.page.get(), &QWebEnginePage::loadStarted, this,
+                [s] { qCDebug(lcOutput) << "Load started, job" << s->job; });
+        connect(slot.page.get(), &QWebEnginePage::loadFinished, this, [this, s](bool ok) {
+            qCDebug(lcOutput) << "Load finished, job" << s->job << ok;
+            loadFinished(*s, ok);
+        });
         connect(slot.page.get(), &QWebEnginePage::renderProcessTerminated, this, [this, s] {
             if (s->busy)
                 finish(*s, renderError(tr("The layout engine stopped unexpectedly.")));
@@ -297,7 +354,7 @@ void PdfRenderer::start(Slot& slot, Pending pending)
         slot.allowed.append(cleanPath(file));
     slot.watchdog.start(m_timeoutMs);
 
-    const QByteArray utf8 = pending.job.html.toUtf8();
+    const QByteArray utf8 = withSecurityPolicy(pending.job.html).toUtf8();
     slot.page->expectNavigation();
     if (utf8.size() > inlineHtmlLimit) {
         slot.tempFile = cleanPath(m_tempDirectory + QStringLiteral("/document-%1.html").arg(slot.job));

@@ -60,6 +60,13 @@ QString PreviewController::missingTemplatePage()
                           "default design."));
 }
 
+ReminderTexts PreviewController::defaultReminderTexts() const
+{
+    const Settings& s = m_state.settings();
+    return {s.stringValue(QStringLiteral("locReminder")), s.stringValue(QStringLiteral("tempRemConditions")),
+            s.stringValue(QStringLiteral("tempRemFooter"))};
+}
+
 QList<ManagedObject*> PreviewController::displayedItems(const ManagedObject& document) const
 {
     // The item list shows the current document's items; any other document

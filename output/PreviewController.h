@@ -37,6 +37,9 @@ public:
     // The items of a document in the order the item list shows them.
     QList<ManagedObject*> displayedItems(const ManagedObject& document) const;
 
+    // The reminder sheet as it opens: the reminder label as title and the
+    // reminder texts of the preferences.
+    ReminderTexts defaultReminderTexts() const;
     // The texts of the reminder sheet, used while isReminderAction is set.
     void setReminderTexts(ReminderTexts texts) { m_reminder = std::move(texts); }
     const ReminderTexts& reminderTexts() const { return m_reminder; }

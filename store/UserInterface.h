@@ -2,11 +2,16 @@
 
 #include "store/Result.h"
 
+#include <QRectF>
+#include <QSizeF>
 #include <QString>
 #include <QStringList>
 #include <QUrl>
 
+#include <functional>
 #include <optional>
+
+class QPainter;
 
 namespace vorn {
 
@@ -36,6 +41,20 @@ public:
         bool canCreateFolders = true;
     };
 
+    // A print job of pages the core draws: the shell runs the print
+    // operation (with the print panel and the progress panel when asked) and
+    // calls paintPage for every page with the painter of the printer and the
+    // sheet's rectangle in the painter's units.
+    struct PrintJob
+    {
+        QString title;
+        QString paperName; // "na-letter", "iso-a4" ...
+        QSizeF paperSize;  // points
+        bool showPanels = false;
+        int pageCount = 0;
+        std::function<void(QPainter& painter, int page, const QRectF& sheet)> paintPage; // page from 0
+    };
+
     virtual ~UserInterface() = default;
 
     // Shows the alert and answers the index of the button chosen (0 = first).
@@ -52,6 +71,13 @@ public:
     virtual void selectToolbarItem(const QString& identifier) = 0;
     virtual void focus(const QString& target) = 0;
     virtual void showPreferencesWindow() = 0;
+
+    // Prints the job; answers false when it was cancelled or could not print.
+    virtual bool runPrintOperation(const PrintJob& job)
+    {
+        Q_UNUSED(job);
+        return false;
+    }
 
     virtual bool openUrl(const QUrl& url) = 0;
     // Starts a helper program of the desktop ("calculator", "contacts").

@@ -153,6 +153,28 @@ TEST_F(Rendering, NothingOfADocumentReachesTheNetwork)
     EXPECT_FALSE(pdf.allText().contains(QStringLiteral("SCRIPT-RAN")));
 }
 
+TEST(SecurityPolicy, GoesIntoTheHeadWithoutLeavingStandardsMode)
+{
+    const QString meta = PdfRenderer::withSecurityPolicy(QString()).trimmed();
+    ASSERT_TRUE(meta.startsWith(QStringLiteral("<meta http-equiv=\"Content-Security-Policy\"")));
+    struct Case
+    {
+        const char* html;
+        const char* expected; // "@" stands for the policy element
+    } cases[] = {
+        {"<!DOCTYPE html><html><head>", "<!DOCTYPE html>@<html><head>"},
+        {"  <!doctype HTML>\n<html>", "  <!doctype HTML>@\n<html>"},
+        {"<!-- Vorn --><!DOCTYPE html><p>", "<!-- Vorn --><!DOCTYPE html>@<p>"},
+        {"<html><p>x</p>", "@<html><p>x</p>"},
+        {"<p>no doctype here <!DOCTYPE html></p>", "@<p>no doctype here <!DOCTYPE html></p>"},
+    };
+    for (const Case& c : cases) {
+        QString expected = QString::fromUtf8(c.expected);
+        expected.replace(QLatin1Char('@'), meta);
+        EXPECT_EQ(PdfRenderer::withSecurityPolicy(QString::fromUtf8(c.html)), expected) << c.html;
+    }
+}
+
 int countPixels(const QImage& image, QRgb colour)
 {
     int n = 0;

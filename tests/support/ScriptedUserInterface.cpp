@@ -39,6 +39,13 @@ bool ScriptedUserInterface::openApplication(const QString& identifier)
     return true;
 }
 
+bool ScriptedUserInterface::runPrintOperation(const PrintJob& job)
+{
+    m_calls.append({QStringLiteral("print"), job.title, job.paperName, {}, job.showPanels ? 1 : 0});
+    m_lastPrintJob = job;
+    return m_printAnswers.isEmpty() ? true : m_printAnswers.dequeue();
+}
+
 QList<ScriptedUserInterface::Call> ScriptedUserInterface::calls(const QString& kind) const
 {
     QList<Call> result;

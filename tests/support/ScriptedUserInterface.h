@@ -17,7 +17,7 @@ class ScriptedUserInterface : public UserInterface
 public:
     struct Call
     {
-        QString kind;   // "alert", "open", "save", "error", "beep", "center", "toolbar", "focus", "preferences", "url", "application"
+        QString kind;   // "alert", "open", "save", "error", "beep", "center", "toolbar", "focus", "preferences", "url", "application", "print"
         QString title;  // alert title, panel title, error message, toolbar item ...
         QString text;   // alert text, error reason
         QStringList buttons;
@@ -35,11 +35,15 @@ public:
     void showPreferencesWindow() override { m_calls.append({QStringLiteral("preferences"), {}, {}, {}, 0}); }
     bool openUrl(const QUrl& url) override;
     bool openApplication(const QString& identifier) override;
+    // Records the job (kept for the test to paint) and answers from the queue (printed when empty).
+    bool runPrintOperation(const PrintJob& job) override;
 
     // Scripting.
     void answerAlert(int button) { m_alertAnswers.enqueue(button); }
     void answerPanel(std::optional<QString> path) { m_panelAnswers.enqueue(std::move(path)); }
     void answerErrorRecovered(bool recovered) { m_errorAnswers.enqueue(recovered); }
+    void answerPrint(bool printed) { m_printAnswers.enqueue(printed); }
+    const std::optional<PrintJob>& lastPrintJob() const { return m_lastPrintJob; }
 
     const QList<Call>& calls() const { return m_calls; }
     QList<Call> calls(const QString& kind) const;
@@ -60,6 +64,8 @@ private:
     QQueue<int> m_alertAnswers;
     QQueue<std::optional<QString>> m_panelAnswers;
     QQueue<bool> m_errorAnswers;
+    QQueue<bool> m_printAnswers;
+    std::optional<PrintJob> m_lastPrintJob;
 };
 
 } // namespace vorn::test

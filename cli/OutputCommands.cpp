@@ -1,0 +1,291 @@
+#include "app/AppDelegate.h"
+#include "cli/CliUserInterface.h"
+#include "cli/CommandRegistry.h"
+#include "invoicing/Calculator.h"
+#include "invoicing/FilterController.h"
+#include "output/DesignPreview.h"
+#include "output/ExportController.h"
+#include "output/PdfRenderer.h"
+#include "output/PreviewController.h"
+#include "store/AtomicFile.h"
+#include "store/Clock.h"
+#include "store/Settings.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFileInfo>
+#include <QSet>
+#include <QThread>
+
+namespace vorn {
+
+namespace {
+
+class OutputCommands
+{
+    Q_DECLARE_TR_FUNCTIONS(OutputCommands)
+};
+
+QString tr(const char* text)
+{
+    return OutputCommands::tr(text);
+}
+
+// The reminder options of html and pdf, taken out of args. Without
+// --reminder the document is shown as itself.
+struct ReminderOptions
+{
+    bool reminder = false;
+    std::optional<QString> title;
+    std::optional<QString> conditions;
+    std::optional<QString> footer;
+};
+
+std::optional<ReminderOptions> takeReminderOptions(CommandContext& c, QStringList& args)
+{
+    ReminderOptions options;
+    for (int i = 0; i < args.size();) {
+        const QString arg = args[i];
+        std::optional<QString>* target = nullptr;
+        if (arg == QLatin1String("--reminder")) {
+            options.reminder = true;
+            args.removeAt(i);
+            continue;
+        }
+        if (arg == QLatin1String("--title"))
+            target = &options.title;
+        else if (arg == QLatin1String("--conditions"))
+            target = &options.conditions;
+        else if (arg == QLatin1String("--footer"))
+            target = &options.footer;
+        if (!target) {
+            ++i;
+            continue;
+        }
+        if (i + 1 >= args.size()) {
+            c.message = tr("%1 needs a text").arg(arg);
+            return std::nullopt;
+        }
+        *target = args[i + 1];
+        args.remove(i, 2);
+    }
+    if (!options.reminder && (options.title || options.conditions || options.footer)) {
+        c.message = tr("--title, --conditions and --footer belong to --reminder");
+        return std::nullopt;
+    }
+    return options;
+}
+
+// Shows the document as the main window would: selected, with its items,
+// as a reminder with the sheet's texts when asked.
+void present(PreviewController& preview, ManagedObject* document, const ReminderOptions& options)
+{
+    AppState& state = preview.state();
+    state.invoicesController().setSelectedObjects({document});
+    state.itemsController().setContent(document->items());
+    state.isReminderAction = options.reminder;
+    if (options.reminder) {
+        ReminderTexts texts = preview.defaultReminderTexts();
+        texts.title = options.title.value_or(texts.title);
+        texts.conditions = options.conditions.value_or(texts.conditions);
+        texts.footer = options.footer.value_or(texts.footer);
+        preview.setReminderTexts(texts);
+    }
+}
+
+bool hasDesign(CommandContext& c, PreviewController& preview)
+{
+    if (preview.currentDesign())
+        return true;
+    if (c.ui.errors().isEmpty())
+        c.message = tr("There is no default design: make one of the designs the default design first.");
+    return false;
+}
+
+int htmlCommand(CommandContext& c)
+{
+    QStringList args = c.args;
+    auto options = takeReminderOptions(c, args);
+    if (!options)
+        return ExitCode::Usage;
+    if (args.size() != 1)
+        return c.usage(tr("usage: html DOC [--reminder [--title T] [--conditions C] [--footer F]]"));
+    ManagedObject* document = Cli::document(c, args[0]);
+    if (!document)
+        return ExitCode::Usage;
+    PdfRenderer renderer;
+    PreviewController preview(c.app.state(), renderer);
+    if (!hasDesign(c, preview))
+        return ExitCode::Failure;
+    present(preview, document, *options);
+    c.out = preview.invoiceHTMLString();
+    return ExitCode::Done;
+}
+
+// A file name from a job title: no folder separators, no leading dot.
+QString fileNameFor(QString title)
+{
+    title.replace(QLatin1Char('/'), QLatin1Char('-'));
+    title.remove(QChar(0));
+    if (title.startsWith(QLatin1Char('.')))
+        title.prepend(QLatin1Char('_'));
+    return title.trimmed().isEmpty() ? QStringLiteral("Document") : title;
+}
+
+std::optional<quint64> filterTag(const QString& text)
+{
+    static const QStringList names{QStringLiteral("all"),   QStringLiteral("sent"),  QStringLiteral("overdue"),
+                                   QStringLiteral("paid"),  QStringLiteral("quotes"), QStringLiteral("today"),
+                                   QStringLiteral("week"),  QStringLiteral("month"), QStringLiteral("year")};
+    bool ok = false;
+    const quint64 number = text.toULongLong(&ok);
+    if (ok && number < quint64(names.size()))
+        return number;
+    const qsizetype index = names.indexOf(text.toLower());
+    if (index >= 0)
+        return quint64(index);
+    return std::nullopt;
+}
+
+int pdfAll(CommandContext& c, QStringList args)
+{
+    std::optional<quint64> tag = 0;
+    const qsizetype f = args.indexOf(QStringLiteral("--filter"));
+    if (f >= 0) {
+        tag = f + 1 < args.size() ? filterTag(args[f + 1]) : std::nullopt;
+        if (!tag)
+            return c.usage(tr("unknown filter “%1”").arg(f + 1 < args.size() ? args[f + 1] : QString()));
+        args.remove(f, 2);
+    }
+    if (args.size() != 1)
+        return c.usage(tr("usage: pdf --all OUTDIR [--filter TAG]"));
+    const QString folder = QFileInfo(args[0]).absoluteFilePath();
+    if (!QDir().mkpath(folder))
+        return c.fail(tr("The folder “%1” could not be created.").arg(folder));
+
+    AppState& state = c.app.state();
+    QList<ManagedObject*> documents = state.invoicesController().content();
+    ArrayController::sort(documents, state.invoicesController().sortDescriptors());
+    if (const Predicate predicate = FilterController::predicateForTag(*tag, state.clock().now()))
+        documents.removeIf([&predicate](ManagedObject* d) { return !predicate(*d); });
+
+    PdfRenderer renderer;
+    // The layout engine runs in its own processes: a page more than there
+    // are cores keeps them busy while this process writes the files.
+    renderer.setParallelPages(QThread::idealThreadCount() + 1);
+    PreviewController preview(state, renderer);
+    if (!hasDesign(c, preview))
+        return ExitCode::Failure;
+    state.isReminderAction = false;
+
+    const QString company = state.settings().stringValue(QStringLiteral("prefsName"));
+    QSet<QString> used;
+    QStringList written;
+    QString failure;
+    int pending = 0;
+    QEventLoop loop;
+    for (ManagedObject* document : std::as_const(documents)) {
+        const QString title = QStringLiteral("%1 | %2 | %3")
+                                  .arg(company, document->stringValue(QStringLiteral("title")),
+                                       document->stringValue(QStringLiteral("number")));
+        QString name = fileNameFor(title);
+        for (int n = 2; used.contains(name.toLower()); ++n)
+            name = fileNameFor(title) + QStringLiteral(" (%1)").arg(n);
+        used.insert(name.toLower());
+        const QString path = QDir(folder).filePath(name + QStringLiteral(".pdf"));
+        ++pending;
+        renderer.render(preview.renderJob(preview.documentHTMLString(*document, preview.displayedItems(*document))),
+                        [&, path](Result<QByteArray> pdf) {
+                            Status s = pdf ? AtomicFile::write(path, pdf.value()) : Status(pdf.error());
+                            if (s)
+                                written << path;
+                            else if (failure.isEmpty())
+                                failure = s.error().fullText();
+                            if (--pending == 0)
+                                loop.quit();
+                        });
+    }
+    if (pending > 0)
+        loop.exec();
+    written.sort();
+    for (const QString& path : std::as_const(written))
+        c.out += path + QLatin1Char('\n');
+    if (!failure.isEmpty())
+        return c.fail(failure);
+    return ExitCode::Done;
+}
+
+int pdfCommand(CommandContext& c)
+{
+    QStringList args = c.args;
+    if (args.contains(QStringLiteral("--all"))) {
+        args.removeAll(QStringLiteral("--all"));
+        return pdfAll(c, args);
+    }
+    auto options = takeReminderOptions(c, args);
+    if (!options)
+        return ExitCode::Usage;
+    if (args.size() != 2)
+        return c.usage(tr("usage: pdf DOC OUT.pdf [--reminder ...] | pdf --all OUTDIR [--filter TAG]"));
+    ManagedObject* document = Cli::document(c, args[0]);
+    if (!document)
+        return ExitCode::Usage;
+
+    AppState& state = c.app.state();
+    PdfRenderer renderer;
+    PreviewController preview(state, renderer);
+    if (!hasDesign(c, preview))
+        return ExitCode::Failure;
+    present(preview, document, *options);
+
+    // As the export sheet does: render into the preview PDF, then save it
+    // where asked (never over an existing file) and mark the invoice sent.
+    ExportController exporter(state, preview);
+    Calculator calculator(state);
+    exporter.setRecalculation([&calculator](ManagedObject* d) { calculator.calculateInvoice(d); });
+    bool rendered = false;
+    QObject::connect(&exporter, &ExportController::exportPdfReady, [&rendered] { rendered = true; });
+    QEventLoop loop;
+    QObject::connect(&exporter, &ExportController::okEnabledChanged, &loop, [&loop](bool enabled) {
+        if (enabled)
+            loop.quit();
+    });
+    exporter.pdfInvoice(false);
+    if (!exporter.isOKEnabled())
+        loop.exec();
+    if (!rendered)
+        return c.fail(tr("The PDF could not be made."));
+    c.ui.clear();
+    c.ui.setPanelAnswer(QFileInfo(args[1]).absoluteFilePath());
+    exporter.exportCommand();
+    if (c.ui.errors().isEmpty())
+        c.out = QFileInfo(args[1]).absoluteFilePath() + QLatin1Char('\n');
+    return ExitCode::Done;
+}
+
+int designPreviewHtml(CommandContext& c)
+{
+    if (!c.args.isEmpty())
+        return c.usage(tr("usage: design preview-html"));
+    PdfRenderer renderer;
+    PreviewController preview(c.app.state(), renderer);
+    if (!hasDesign(c, preview))
+        return ExitCode::Failure;
+    DesignPreview sample(preview);
+    c.out = sample.invoiceHTMLString();
+    return ExitCode::Done;
+}
+
+} // namespace
+
+void registerOutputCommands(CommandRegistry& registry)
+{
+    registry.add({QStringLiteral("html"), QStringLiteral("DOC [--reminder [--title T] [--conditions C] [--footer F]]"),
+                  false, true, htmlCommand});
+    registry.add({QStringLiteral("pdf"),
+                  QStringLiteral("DOC OUT.pdf [--reminder ...] | pdf --all OUTDIR [--filter TAG]"), true, true,
+                  pdfCommand});
+    registry.add({QStringLiteral("design preview-html"), QString(), false, true, designPreviewHtml});
+}
+
+} // namespace vorn
