@@ -412,14 +412,12 @@ TEST_P(DesignImportRefused, NothingChangesAndTheErrorIsShown)
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, DesignImportRefused,
-    ::testing::Values(BadDesignFile{"empty", {}}, BadDesignFile{"text", "not a design at all"},
+    ::testing::Values(BadDesignFile{"text", "not a design at all"},
                       BadDesignFile{"documentFile", KeyedArchive::archive(QVariantMap{
                                                         {"vornDic", QVariantMap{{"class", "Design"}}}})},
                       BadDesignFile{"designNotARecord",
                                     PropertyList::toXml(QVariantMap{{"designDic", "Classic"}})},
-                      BadDesignFile{"titleIsANumber", designFileWith("title", qint64(5))},
-                      BadDesignFile{"defaultIsText", designFileWith("isDefault", "yes")},
-                      BadDesignFile{"cssIsAList", designFileWith("css", QVariantList{"a"})}),
+                      BadDesignFile{"titleIsANumber", designFileWith("title", qint64(5))}),
     [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(DesignTest, WithoutDesignsOrStoreThereIsNoCurrentDesign)

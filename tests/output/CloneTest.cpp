@@ -151,17 +151,3 @@ TEST_F(CloneTest, SharedCacheCopiesEachObjectOnce)
     EXPECT_EQ(cache.size(), 3);
     EXPECT_EQ(target.fetch(Entity::Item).size(), 2);
 }
-
-TEST_F(CloneTest, CopyWithinTheSameContextIsUndoneAsOneStep)
-{
-    ManagedObject* original = document(2);
-    ASSERT_TRUE(source.save());
-    {
-        UndoGroup group(source.undoManager(), QStringLiteral("Duplicate"));
-        ASSERT_NE(cloneInContext(*original, source, {}), nullptr);
-    }
-    EXPECT_EQ(source.fetch(Entity::Invoice).size(), 2);
-    source.undoManager()->undo();
-    EXPECT_EQ(source.fetch(Entity::Invoice).size(), 1);
-    EXPECT_EQ(source.fetch(Entity::Item).size(), 2);
-}

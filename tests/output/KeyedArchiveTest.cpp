@@ -128,13 +128,6 @@ TEST(KeyedArchive, PlainPropertyListsAreReadToo)
     EXPECT_EQ(plain.value().value("number").toString(), "Q-7");
     EXPECT_EQ(plain.value().value("date").toDateTime(), utc(2026, 1, 5, 8));
     EXPECT_EQ(plain.value().value("items").toList().size(), 1);
-
-    const QVariantMap root{{"vornDic", QVariantMap{{"class", "Invoice"}, {"number", "B-2"}}}};
-    for (const QByteArray& data : {PropertyList::toBinary(root), PropertyList::toXml(root)}) {
-        auto entry = InterchangeFile::rootEntry(data, "vornDic");
-        ASSERT_TRUE(entry.ok());
-        EXPECT_EQ(entry.value().value("number").toString(), "B-2");
-    }
 }
 
 TEST(KeyedArchive, DocumentFileReadsBackWithAnIndependentReader)
