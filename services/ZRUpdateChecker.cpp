@@ -113,20 +113,20 @@ void ZRUpdateChecker::checkForUpdates()
 void ZRUpdateChecker::checkForUpdatesAndNotify(bool notifyUpToDate)
 {
     // A check under way takes over the wish to hear an up-to-date answer.
-    if (m_reply) {
+    if (m_checking) {
         m_notifyUpToDate = m_notifyUpToDate || notifyUpToDate;
         return;
     }
     m_notifyUpToDate = notifyUpToDate;
+    m_checking = true;
     latestVersionsDictionary();
 }
 
 void ZRUpdateChecker::latestVersionsDictionary()
 {
     const QUrl url = ServiceUrls::url(m_settings, ServiceUrls::versionList);
-    m_reply = HttpRequest::get(
+    HttpRequest::get(
         m_network, HttpRequest::request(url, m_timeoutMs), this, [this](const HttpRequest::Answer& answer) {
-            m_reply = nullptr;
             CheckResult result;
             if (answer.isSuccess()) {
                 result = evaluate(answer.body, m_version);
@@ -180,7 +180,7 @@ void ZRUpdateChecker::notifyAboutUpdateToNewVersion(const CheckResult& result)
              {tr("OK")},
              UserInterface::AlertStyle::Warning,
              false});
-        Q_EMIT checkFinished(result);
+        finish(result);
         return;
     }
     if (result.isUpToDate) {
@@ -190,7 +190,7 @@ void ZRUpdateChecker::notifyAboutUpdateToNewVersion(const CheckResult& result)
                            {tr("OK")},
                            UserInterface::AlertStyle::Informational,
                            false});
-        Q_EMIT checkFinished(result);
+        finish(result);
         return;
     }
     // Fresh release notes: nothing cached from an earlier check may be shown.
@@ -215,6 +215,12 @@ void ZRUpdateChecker::offerUpdate(const CheckResult& result, const QString& note
                                       false});
     if (answer == 0)
         m_ui.openUrl(ServiceUrls::url(m_settings, ServiceUrls::download));
+    finish(result);
+}
+
+void ZRUpdateChecker::finish(const CheckResult& result)
+{
+    m_checking = false;
     Q_EMIT checkFinished(result);
 }
 

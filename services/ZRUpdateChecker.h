@@ -4,12 +4,9 @@
 
 #include <QNetworkAccessManager>
 #include <QObject>
-#include <QPointer>
 #include <QString>
 #include <QUrl>
 #include <QVariantMap>
-
-#include <QNetworkReply>
 
 namespace vorn {
 
@@ -59,7 +56,8 @@ public:
     void checkForUpdates();
     // Starts a check; an up-to-date result is reported only when asked.
     void checkForUpdatesAndNotify(bool notifyUpToDate);
-    bool isChecking() const { return m_reply != nullptr; }
+    // From the request for the list until the result was shown.
+    bool isChecking() const { return m_checking; }
 
     // The preference (a checkbox bound to it).
     bool checkAtStartup() const;
@@ -81,6 +79,7 @@ private:
     void notifyAboutUpdateToNewVersion(const CheckResult& result);
     void offerUpdate(const CheckResult& result, const QString& notes);
     void recordCheckDates();
+    void finish(const CheckResult& result);
     QDateTime lastCheck() const;
 
     Settings& m_settings;
@@ -89,7 +88,7 @@ private:
     QNetworkAccessManager m_network;
     QString m_version;
     int m_timeoutMs = 30000;
-    QPointer<QNetworkReply> m_reply;
+    bool m_checking = false;
     bool m_notifyUpToDate = false;
 };
 

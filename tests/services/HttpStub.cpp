@@ -31,6 +31,16 @@ HttpStub::HttpStub()
     });
 }
 
+HttpStub::~HttpStub()
+{
+    // Sockets still open (a request left unanswered) go first, without
+    // reporting back into members that are being destroyed.
+    for (QTcpSocket* socket : m_server.findChildren<QTcpSocket*>()) {
+        socket->disconnect(this);
+        delete socket;
+    }
+}
+
 QUrl HttpStub::url(const QString& path) const
 {
     return QUrl(QStringLiteral("http://127.0.0.1:%1%2").arg(m_server.serverPort()).arg(path));

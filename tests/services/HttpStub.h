@@ -37,6 +37,7 @@ public:
     };
 
     HttpStub();
+    ~HttpStub() override;
     QUrl url(const QString& path) const;
     void route(const QByteArray& path, Response response) { m_routes.insert(path, std::move(response)); }
     const QList<Request>& requests() const { return m_requests; }

@@ -361,6 +361,21 @@ TEST_F(UpdateCheckerTest, TheMenuCommandJoinsABackgroundCheckAndReportsIt)
     EXPECT_EQ(settings.dateValue(ZRUpdateChecker::lastCheckDateKey), clock.now());
 }
 
+TEST_F(UpdateCheckerTest, ACheckWaitingForItsReleaseNotesIsNotStartedTwice)
+{
+    stub.route("/macpad/list.plist", {200, xmlList(entry(QStringLiteral("2.0")))});
+    stub.route("/macpad/Vorn.txt", {200, {}, true});
+    ui.answerAlert(1);
+    checker.checkForUpdatesAndNotify(false);
+    ASSERT_TRUE(waitUntil([&] { return stub.count("/macpad/Vorn.txt") == 1; }));
+    EXPECT_TRUE(checker.isChecking());
+    checker.checkForUpdates();
+    ASSERT_TRUE(waitForResults(1));
+    EXPECT_FALSE(checker.isChecking());
+    EXPECT_EQ(stub.count("/macpad/list.plist"), 1);
+    EXPECT_EQ(ui.alertTitles(), QStringList{QStringLiteral("Update available!")});
+}
+
 TEST(UpdateCheckerDates, CountFromTheFirstOfJanuary2001)
 {
     EXPECT_DOUBLE_EQ(
