@@ -27,6 +27,7 @@ CliRunner::CliRunner()
     registerDocumentCommands(m_registry);
     registerDataCommands(m_registry);
     registerDesignCommands(m_registry);
+    registerInterchangeCommands(m_registry);
 }
 
 int CliRunner::run(QStringList args, QTextStream& out, QTextStream& err)

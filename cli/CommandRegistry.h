@@ -85,5 +85,6 @@ void registerOutputCommands(CommandRegistry& registry);
 void registerDocumentCommands(CommandRegistry& registry);
 void registerDataCommands(CommandRegistry& registry);
 void registerDesignCommands(CommandRegistry& registry);
+void registerInterchangeCommands(CommandRegistry& registry);
 
 } // namespace vorn
