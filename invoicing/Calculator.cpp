@@ -7,33 +7,53 @@
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
+#include <bit>
+#include <optional>
+
 namespace vorn {
 
 namespace {
 
+// Typed reads that take the stored value directly when it has the model's
+// type (it always does once written through setValue), and convert otherwise.
 float floatAt(const ManagedObject& o, int index)
 {
-    return o.value(index).toFloat();
+    const QVariant v = o.value(index);
+    return v.typeId() == QMetaType::Float ? *static_cast<const float*>(v.constData()) : v.toFloat();
 }
 
 bool boolAt(const ManagedObject& o, int index)
 {
-    return o.value(index).toBool();
+    const QVariant v = o.value(index);
+    return v.typeId() == QMetaType::Bool ? *static_cast<const bool*>(v.constData()) : v.toBool();
 }
 
 qint64 intAt(const ManagedObject& o, int index)
 {
-    return o.value(index).toLongLong();
+    const QVariant v = o.value(index);
+    return v.typeId() == QMetaType::LongLong ? *static_cast<const qint64*>(v.constData()) : v.toLongLong();
 }
 
+// Writes only what differs (bit for bit): an unchanged amount is no edit,
+// and the list totals touch every listed document after each edit.
 void setFloat(ManagedObject& o, int index, float value)
 {
+    const QVariant v = o.value(index);
+    if (v.typeId() == QMetaType::Float &&
+        std::bit_cast<quint32>(*static_cast<const float*>(v.constData())) == std::bit_cast<quint32>(value))
+        return;
     o.setValue(index, QVariant(value));
 }
 
-void setInt(ManagedObject& o, int index, qint64 value)
+// Milliseconds since the epoch, or nothing for an absent date.
+std::optional<qint64> msecsAt(const ManagedObject& o, int index)
 {
-    o.setValue(index, QVariant(value));
+    const QVariant v = o.value(index);
+    if (v.typeId() == QMetaType::QDateTime)
+        return static_cast<const QDateTime*>(v.constData())->toMSecsSinceEpoch();
+    if (!v.isValid())
+        return std::nullopt;
+    return v.toDateTime().toMSecsSinceEpoch();
 }
 
 } // namespace
@@ -196,8 +216,19 @@ void Calculator::calculateItem(const ManagedObject* item)
                                           .arg(item ? item->stringValue(key::uniqueID) : QStringLiteral("(null)"));
 }
 
+Calculator::TotalsBatch::~TotalsBatch()
+{
+    if (--m_calculator.m_batchDepth == 0 && m_calculator.m_totalsPending)
+        m_calculator.calculateDatabase();
+}
+
 void Calculator::calculateDatabase()
 {
+    if (m_batchDepth > 0) {
+        m_totalsPending = true;
+        return;
+    }
+    m_totalsPending = false;
     float totalAmount = 0.0f, paidAmount = 0.0f, dueAmount = 0.0f;
     quint64 invoiceCount = 0, invoiceCountForNumber = 0, quoteCount = 0;
 
@@ -215,42 +246,73 @@ void Calculator::calculateDatabase()
         if (status <= 0)
             continue;
 
+        // Each value is read once and the steps run on local copies; only
+        // what the steps set, and what then differs, is written back.
+        const float amount = floatAt(*doc, d.amount);
+        const QVariant paidBefore = doc->value(d.paidAmount);
+        const QVariant dueBefore = doc->value(d.dueAmount);
+        float paidValue = paidBefore.typeId() == QMetaType::Float ? *static_cast<const float*>(paidBefore.constData())
+                                                                  : paidBefore.toFloat();
+        float dueValue = dueBefore.typeId() == QMetaType::Float ? *static_cast<const float*>(dueBefore.constData())
+                                                                : dueBefore.toFloat();
+        bool paidSet = false, dueSet = false, stampPaid = false;
+        const qint64 storedStatus = status;
+
         if (status < 3) {
             // An invoice without a due date is never overdue.
-            const QVariant due = doc->value(d.due);
-            const bool overdue = due.isValid() && nowMs > due.toDateTime().toMSecsSinceEpoch();
-            if (overdue) {
+            const std::optional<qint64> due = msecsAt(*doc, d.due);
+            if (due && nowMs > *due) {
                 status = 2;
-                setInt(*doc, d.status, 2);
-                setFloat(*doc, d.dueAmount, floatAt(*doc, d.amount));
+                dueValue = amount;
             } else {
                 status = 1;
-                setInt(*doc, d.status, 1);
-                setFloat(*doc, d.dueAmount, 0.0f);
+                dueValue = 0.0f;
             }
+            dueSet = true;
         }
         if (status >= 3 && !boolAt(*doc, d.isPaid)) {
             // The payment date is stamped once, at the first run that sees
             // the invoice paid or partly paid.
-            if (status == 3)
-                setFloat(*doc, d.paidAmount, floatAt(*doc, d.amount));
+            if (status == 3) {
+                paidValue = amount;
+                paidSet = true;
+            }
+            stampPaid = true;
+        }
+        if (status == 2) {
+            dueValue = amount;
+            paidValue = 0.0f;
+            dueSet = paidSet = true;
+        }
+        if (status == 3) {
+            paidValue = amount;
+            dueValue = 0.0f;
+            dueSet = paidSet = true;
+        }
+        if (status == 4) {
+            dueValue = amount - paidValue;
+            dueSet = true;
+        }
+
+        if (status != storedStatus)
+            doc->setValue(d.status, QVariant(status));
+        auto changed = [](const QVariant& before, float value) {
+            return before.typeId() != QMetaType::Float ||
+                   std::bit_cast<quint32>(*static_cast<const float*>(before.constData())) !=
+                       std::bit_cast<quint32>(value);
+        };
+        if (dueSet && changed(dueBefore, dueValue))
+            doc->setValue(d.dueAmount, QVariant(dueValue));
+        if (paidSet && changed(paidBefore, paidValue))
+            doc->setValue(d.paidAmount, QVariant(paidValue));
+        if (stampPaid) {
             doc->setValue(d.paid, now);
             doc->setValue(d.isPaid, true);
         }
-        if (status == 2) {
-            setFloat(*doc, d.dueAmount, floatAt(*doc, d.amount));
-            setFloat(*doc, d.paidAmount, 0.0f);
-        }
-        if (status == 3) {
-            setFloat(*doc, d.paidAmount, floatAt(*doc, d.amount));
-            setFloat(*doc, d.dueAmount, 0.0f);
-        }
-        if (status == 4)
-            setFloat(*doc, d.dueAmount, floatAt(*doc, d.amount) - floatAt(*doc, d.paidAmount));
 
-        totalAmount += floatAt(*doc, d.amount);
-        paidAmount += floatAt(*doc, d.paidAmount);
-        dueAmount += floatAt(*doc, d.dueAmount);
+        totalAmount += amount;
+        paidAmount += paidValue;
+        dueAmount += dueValue;
         ++invoiceCount;
     }
 
@@ -265,6 +327,7 @@ void Calculator::calculateDatabase()
 
 void Calculator::clearTotals()
 {
+    m_totalsPending = false;
     m_state.totalAmount = 0.0f;
     m_state.paidAmount = 0.0f;
     m_state.dueAmount = 0.0f;

@@ -35,6 +35,20 @@ public:
     // All six totals to zero, without looking at any document (empty list).
     void clearTotals();
 
+    // Holds back the list totals while one action rearranges the list several
+    // times: asked for inside the batch, they are computed once when it ends.
+    class TotalsBatch
+    {
+    public:
+        explicit TotalsBatch(Calculator& calculator) : m_calculator(calculator) { ++m_calculator.m_batchDepth; }
+        ~TotalsBatch();
+        TotalsBatch(const TotalsBatch&) = delete;
+        TotalsBatch& operator=(const TotalsBatch&) = delete;
+
+    private:
+        Calculator& m_calculator;
+    };
+
 private:
     // Attribute indexes, resolved once per entity description: the list
     // totals run over every listed document after each edit.
@@ -59,6 +73,8 @@ private:
     const EntityDescription* m_itemEntity = nullptr;
     InvoiceKeys m_invoiceKeys{};
     ItemKeys m_itemKeys{};
+    int m_batchDepth = 0;
+    bool m_totalsPending = false;
 };
 
 } // namespace vorn

@@ -123,9 +123,12 @@ ManagedObject* DataController::addDocument(int kind)
 void DataController::showNewDocument(ManagedObject* doc)
 {
     ArrayController& list = m_state.invoicesController();
-    list.addObject(doc);
-    list.rearrangeObjects();
-    list.setSelectedObjects({doc});
+    {
+        Calculator::TotalsBatch batch(m_calculator);
+        list.addObject(doc);
+        list.rearrangeObjects();
+        list.setSelectedObjects({doc});
+    }
     // The user starts with the client's address.
     m_gui.selectMainTabIndex(0);
     m_state.ui().focus(QStringLiteral("addressView"));

@@ -9,10 +9,50 @@ namespace vorn {
 
 namespace {
 
+// Attribute indexes of the filtered entity, resolved on first use: the
+// predicates run over every document at each filter change.
+struct Columns
+{
+    const EntityDescription* entity = nullptr;
+    int kind = -1, status = -1, date = -1;
+
+    void resolve(const ManagedObject& o)
+    {
+        if (entity == &o.entity())
+            return;
+        entity = &o.entity();
+        kind = entity->attributeIndex(key::kind);
+        status = entity->attributeIndex(key::status);
+        date = entity->attributeIndex(key::date);
+    }
+};
+
+qint64 integerAt(const ManagedObject& o, int index)
+{
+    if (index < 0)
+        return 0;
+    const QVariant v = o.value(index);
+    return v.typeId() == QMetaType::LongLong ? *static_cast<const qint64*>(v.constData()) : v.toLongLong();
+}
+
 Predicate kindAndStatus(qint64 kind, qint64 status)
 {
-    return [kind, status](const ManagedObject& o) {
-        return o.intValue(key::kind) == kind && o.intValue(key::status) == status;
+    return [kind, status, c = Columns()](const ManagedObject& o) mutable {
+        c.resolve(o);
+        return integerAt(o, c.kind) == kind && integerAt(o, c.status) == status;
+    };
+}
+
+Predicate dateBetween(qint64 from, qint64 to)
+{
+    return [from, to, c = Columns()](const ManagedObject& o) mutable {
+        c.resolve(o);
+        // A document without a date matches no date range.
+        const QVariant date = c.date < 0 ? QVariant() : o.value(c.date);
+        if (date.typeId() != QMetaType::QDateTime)
+            return false;
+        const qint64 t = static_cast<const QDateTime*>(date.constData())->toMSecsSinceEpoch();
+        return t >= from && t <= to;
     };
 }
 
@@ -51,21 +91,16 @@ Predicate FilterController::predicateForTag(quint64 tag, const QDateTime& now)
     case Paid:
         return kindAndStatus(1, 3);
     case Quotes:
-        return [](const ManagedObject& o) { return o.intValue(key::kind) == 0; };
+        return [c = Columns()](const ManagedObject& o) mutable {
+            c.resolve(o);
+            return integerAt(o, c.kind) == 0;
+        };
     case Today:
     case Week:
     case Month:
     case Year: {
         const qint64 to = now.toMSecsSinceEpoch();
-        const qint64 from = to - unitsForTag(tag) * halfDaySeconds * 1000;
-        return [from, to](const ManagedObject& o) {
-            // A document without a date matches no date range.
-            const QVariant date = o.value(key::date);
-            if (!date.isValid())
-                return false;
-            const qint64 t = date.toDateTime().toMSecsSinceEpoch();
-            return t >= from && t <= to;
-        };
+        return dateBetween(to - unitsForTag(tag) * halfDaySeconds * 1000, to);
     }
     default:
         return kindAndStatus(1, 1);
@@ -86,9 +121,13 @@ void FilterController::selectFilter()
 
 void FilterController::setFilterPredicate()
 {
-    // Setting the predicate rearranges the list.
-    m_state.invoicesController().setFilterPredicate(predicateForTag(m_state.filterTag, m_state.clock().now()));
-    m_calculator.calculateDatabase();
+    {
+        // Setting the predicate rearranges the list, which asks for the
+        // totals too: they are computed once.
+        Calculator::TotalsBatch batch(m_calculator);
+        m_state.invoicesController().setFilterPredicate(predicateForTag(m_state.filterTag, m_state.clock().now()));
+        m_calculator.calculateDatabase();
+    }
     Q_EMIT filterChanged();
 }
 

@@ -128,11 +128,13 @@ ManagedObject* ItemController::addItem()
     items.rearrangeObjects();
     items.setSelectedObjects({item});
     m_calculator.calculateInvoice(doc);
-    saveLoggingFailure(context);
 
     closeItemPopover();
     scheduleDelayedScroll();
     rememberRecentItem();
+    // One save for the line and a newly remembered item: each save waits for
+    // the disk, and both belong to the same action.
+    saveLoggingFailure(context);
     return item;
 }
 
@@ -170,7 +172,6 @@ void ItemController::rememberRecentItem()
     r->setValue(key::misc5, m_state.clock().now());
     recent.addObject(r);
     recent.rearrangeObjects();
-    saveLoggingFailure(context);
 }
 
 void ItemController::addItemRecent()
