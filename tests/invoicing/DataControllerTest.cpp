@@ -395,3 +395,43 @@ TEST_F(DataControllerTest, EveryActionToleratesNoStoreAndNoSelection)
 }
 
 } // namespace
+
+namespace {
+
+// Without a store (it could not be opened) every action of every controller
+// does nothing and breaks nothing.
+TEST_F(DataControllerTest, EveryControllerToleratesAMissingStore)
+{
+    state.setContext(nullptr);
+    InvoicingControllers& c = *controllers;
+    c.calculator().calculateDatabase();
+    c.calculator().calculateInvoice(nullptr);
+    c.filter().selectFilterAction(7);
+    c.filter().showAllDocuments();
+    c.gui().delayedToolbarLabel();
+    EXPECT_FALSE(c.gui().validateUserInterfaceItem(GUIController::deleteInvoiceAction).enabled);
+    c.items().showItemPopover();
+    EXPECT_EQ(c.items().addItem(), nullptr);
+    c.items().addItemRecent();
+    c.items().deleteItem();
+    c.items().itemDeleteWarningSheetDidEnd(1);
+    c.items().openEditItemSheet();
+    c.items().editItem();
+    EXPECT_TRUE(c.items().moveItems({0}, 1).isEmpty());
+    c.shipping().showShippingPopover();
+    c.shipping().closeShippingPopover();
+    c.shipping().selectRecentShipping();
+    EXPECT_FALSE(c.shipping().switchShippingOff());
+    c.discount().showDiscountPopover();
+    c.discount().closeDiscountPopover();
+    EXPECT_FALSE(c.discount().switchDiscountOff());
+    c.addresses().showAddressPopover();
+    c.addresses().selectAddressRecord();
+    c.addresses().selectAddress();
+    c.addresses().selectRecentAdress();
+    c.addresses().generateClientNumber();
+    EXPECT_EQ(state.totalAmount, 0.0f);
+    EXPECT_TRUE(ui.alertTitles().isEmpty());
+}
+
+} // namespace

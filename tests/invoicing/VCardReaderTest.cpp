@@ -6,6 +6,8 @@
 #include <QFile>
 #include <QStringEncoder>
 
+#include <random>
+
 #include <gtest/gtest.h>
 
 using namespace vorn;
@@ -229,6 +231,48 @@ TEST(VCardReader, FoldersAreReadRecursivelyAndUnreadableFilesNoted)
     const bool root = QFile(home.filePath(QStringLiteral("contacts/locked.vcf"))).open(QIODevice::ReadOnly);
     EXPECT_EQ(names, root ? QStringList({"A0", "B0", "C1", "D0", "L0"}) : QStringList({"A0", "B0", "C1", "D0"}));
     EXPECT_EQ(result.notes.size(), root ? 1 : 2) << result.notes.join(QLatin1Char('\n')).toStdString();
+}
+
+} // namespace
+
+namespace {
+
+// Damaged cards of every kind: whatever the bytes, the reader answers
+// without crashing, and every contact it answers came from a card.
+TEST(VCardReader, MutatedInputNeverBreaksTheReader)
+{
+    const QByteArray seed =
+        "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=ISO-8859-1;ENCODING=QUOTED-PRINTABLE:M=FCller;J=FCrgen\r\n"
+        "ADR;HOME;PREF;ENCODING=QUOTED-PRINTABLE:;;Hauptstra=DFe 1=0D=0A=\r\nHinterhaus;Berlin;;10115;Germany\r\n"
+        "AGENT:\r\nBEGIN:VCARD\r\nN:A;B\r\nEND:VCARD\r\nEND:VCARD\r\n"
+        "BEGIN:VCARD\r\nVERSION:4.0\r\nN:Roe;Rick;;;\r\nADR;TYPE=\"home,work\";PREF=2:;;Second St;B;;2;\r\n"
+        "item1.EMAIL;type=INTERNET:a@x.org\r\nitem1.X-ABLabel:_$!<Home>!$_\r\nORG:Big\r\n Company\\;x\r\nEND:VCARD\r\n";
+    const char alphabet[] = "=:;,\\\r\n \"^BEGINVCARDEND\x80\xFF\x00";
+    std::mt19937 rng(7);
+    for (int round = 0; round < 3000; ++round) {
+        QByteArray data = seed;
+        const int edits = std::uniform_int_distribution<int>(1, 12)(rng);
+        for (int e = 0; e < edits; ++e) {
+            const int at = std::uniform_int_distribution<int>(0, int(data.size()))(rng);
+            const char c = alphabet[std::uniform_int_distribution<int>(0, int(sizeof alphabet) - 2)(rng)];
+            switch (std::uniform_int_distribution<int>(0, 2)(rng)) {
+            case 0:
+                data.insert(at, c);
+                break;
+            case 1:
+                if (at < data.size())
+                    data[at] = c;
+                break;
+            default:
+                data.remove(at, std::uniform_int_distribution<int>(1, 20)(rng));
+                break;
+            }
+        }
+        const VCardReadResult result = VCardReader::parse(data, QStringLiteral("m.vcf"));
+        ASSERT_LE(result.contacts.size(), data.count("BEGIN") + data.count("begin") + 2) << round;
+        for (const Contact& c : result.contacts)
+            ASSERT_LE(c.addresses.size(), 10) << round;
+    }
 }
 
 } // namespace
