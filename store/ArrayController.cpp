@@ -1,6 +1,9 @@
 #include "store/ArrayController.h"
 
 #include <algorithm>
+#include <limits>
+#include <numeric>
+#include <vector>
 
 namespace vorn {
 
@@ -8,6 +11,13 @@ namespace {
 
 int compareValues(const QVariant& a, const QVariant& b)
 {
+    // Sorting compares prepared keys: integers (and dates as their
+    // milliseconds) go straight to their numbers.
+    if (a.typeId() == QMetaType::LongLong && b.typeId() == QMetaType::LongLong) {
+        const qint64 x = *static_cast<const qint64*>(a.constData());
+        const qint64 y = *static_cast<const qint64*>(b.constData());
+        return x < y ? -1 : (x > y ? 1 : 0);
+    }
     if (!a.isValid() || !b.isValid())
         return int(a.isValid()) - int(b.isValid());
     switch (a.typeId()) {
@@ -91,26 +101,69 @@ void ArrayController::rearrangeObjects()
 
 void ArrayController::sort(QList<ManagedObject*>& objects, const QList<SortDescriptor>& descriptors)
 {
-    if (descriptors.isEmpty())
+    if (descriptors.isEmpty() || objects.size() < 2)
         return;
-    struct Key
-    {
-        int attribute;
-        bool storeOrder;
-        bool ascending;
-    };
-    std::stable_sort(objects.begin(), objects.end(), [&descriptors](ManagedObject* a, ManagedObject* b) {
-        for (const SortDescriptor& d : descriptors) {
-            int c;
-            if (d.key == SortDescriptor::storeOrder())
-                c = a->objectId() < b->objectId() ? -1 : (a->objectId() > b->objectId() ? 1 : 0);
-            else
-                c = compareValues(a->value(d.key), b->value(d.key));
-            if (c != 0)
-                return d.ascending ? c < 0 : c > 0;
+    // Each object's sort keys are read once, dates as their milliseconds:
+    // the comparisons then neither look up attributes nor build dates.
+    const size_t width = size_t(descriptors.size());
+    std::vector<bool> storeOrder(width);
+    for (size_t d = 0; d < width; ++d)
+        storeOrder[d] = descriptors[qsizetype(d)].key == SortDescriptor::storeOrder();
+    std::vector<QVariant> keys(size_t(objects.size()) * width);
+    const EntityDescription* entity = nullptr;
+    std::vector<int> attribute(width, -1);
+    for (qsizetype i = 0; i < objects.size(); ++i) {
+        const ManagedObject* object = objects[i];
+        if (&object->entity() != entity) {
+            entity = &object->entity();
+            for (size_t d = 0; d < width; ++d)
+                attribute[d] = entity->attributeIndex(descriptors[qsizetype(d)].key);
         }
-        return false;
+        for (size_t d = 0; d < width; ++d) {
+            QVariant& key = keys[size_t(i) * width + d];
+            if (storeOrder[d])
+                key = object->objectId();
+            else if (attribute[d] >= 0)
+                key = object->value(attribute[d]);
+            if (key.typeId() == QMetaType::QDateTime)
+                key = key.toDateTime().toMSecsSinceEpoch();
+        }
+    }
+    std::vector<size_t> order(size_t(objects.size()));
+    std::iota(order.begin(), order.end(), size_t(0));
+    // Keys that are all whole numbers (the document list: date, then store
+    // order) are compared as plain numbers, an absent one first.
+    const bool numeric = std::all_of(keys.cbegin(), keys.cend(), [](const QVariant& k) {
+        return !k.isValid() || k.typeId() == QMetaType::LongLong;
     });
+    if (numeric) {
+        std::vector<qint64> numbers(keys.size());
+        for (size_t k = 0; k < keys.size(); ++k)
+            numbers[k] = keys[k].isValid() ? *static_cast<const qint64*>(keys[k].constData())
+                                           : std::numeric_limits<qint64>::min();
+        std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) {
+            for (size_t d = 0; d < width; ++d) {
+                const qint64 x = numbers[a * width + d], y = numbers[b * width + d];
+                if (x != y)
+                    return descriptors[qsizetype(d)].ascending ? x < y : x > y;
+            }
+            return false;
+        });
+    } else {
+        std::stable_sort(order.begin(), order.end(), [&](size_t a, size_t b) {
+            for (size_t d = 0; d < width; ++d) {
+                const int c = compareValues(keys[a * width + d], keys[b * width + d]);
+                if (c != 0)
+                    return descriptors[qsizetype(d)].ascending ? c < 0 : c > 0;
+            }
+            return false;
+        });
+    }
+    QList<ManagedObject*> sorted;
+    sorted.reserve(objects.size());
+    for (size_t i : order)
+        sorted.append(objects[qsizetype(i)]);
+    objects = std::move(sorted);
 }
 
 void ArrayController::arrange(const QList<ManagedObject*>& keepSelected)

@@ -87,7 +87,9 @@ private:
     friend class ObjectContext;
     enum class State { Saved, Inserted, Deleted, Gone };
 
-    ManagedObject(const EntityDescription& entity, ObjectContext* context, qint64 id);
+    // Without values every attribute starts absent.
+    ManagedObject(const EntityDescription& entity, ObjectContext* context, qint64 id,
+                  std::vector<QVariant> values = {});
     static QVariant coerce(AttributeType type, const QVariant& value);
 
     const EntityDescription* m_entity;

@@ -181,9 +181,8 @@ ManagedObject* ObjectContext::materialize(const EntityDescription& entity, Sqlit
     auto found = eo.objects.find(row.id);
     if (found != eo.objects.end())
         return nullptr;
-    auto owned = std::unique_ptr<ManagedObject>(new ManagedObject(entity, this, row.id));
+    auto owned = std::unique_ptr<ManagedObject>(new ManagedObject(entity, this, row.id, std::move(row.values)));
     ManagedObject* object = owned.get();
-    object->m_values = std::move(row.values);
     object->m_savedOwnerId = row.ownerId;
     object->m_savedPosition = row.position;
     eo.objects.emplace_hint(eo.objects.end(), row.id, std::move(owned));

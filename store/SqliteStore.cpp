@@ -4,7 +4,6 @@
 
 #include <QFile>
 #include <QFileInfo>
-#include <QTimeZone>
 #include <QUrl>
 
 #include <sqlite3.h>
@@ -298,6 +297,7 @@ Status SqliteStore::loadRows(const EntityDescription& entity, sqlite3_stmt* stmt
     const bool owned = entity.ownerRelationship() != nullptr;
     const int first = owned ? 3 : 1;
     const auto& attributes = entity.attributes();
+    std::vector<QString> previousText(attributes.size());
     int rc;
     while ((rc = sqlite3_step(stmt)) == SQLITE_ROW) {
         Row row;
@@ -306,32 +306,42 @@ Status SqliteStore::loadRows(const EntityDescription& entity, sqlite3_stmt* stmt
             row.ownerId = sqlite3_column_int64(stmt, 1);
             row.position = sqlite3_column_int(stmt, 2);
         }
-        row.values.resize(attributes.size());
+        // Values are built in place: a document has some sixty of them.
+        row.values.reserve(attributes.size());
         for (size_t i = 0; i < attributes.size(); ++i) {
             const int column = first + int(i);
-            if (sqlite3_column_type(stmt, column) == SQLITE_NULL)
+            if (sqlite3_column_type(stmt, column) == SQLITE_NULL) {
+                row.values.emplace_back();
                 continue;
-            QVariant& v = row.values[i];
+            }
             switch (attributes[i].type) {
-            case AttributeType::String:
-                v = QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, column)),
-                                      sqlite3_column_bytes(stmt, column));
+            case AttributeType::String: {
+                // Texts repeat from row to row (conditions, footers and the
+                // currency are copied from the settings): equal neighbours
+                // share one string.
+                const QUtf8StringView text(reinterpret_cast<const char*>(sqlite3_column_text(stmt, column)),
+                                           sqlite3_column_bytes(stmt, column));
+                QString& previous = previousText[i];
+                if (previous.isNull() || !QAnyStringView::equal(previous, text))
+                    previous = text.toString();
+                row.values.emplace_back(previous);
                 break;
+            }
             case AttributeType::Integer:
-                v = qint64(sqlite3_column_int64(stmt, column));
+                row.values.emplace_back(qint64(sqlite3_column_int64(stmt, column)));
                 break;
             case AttributeType::Float:
-                v = float(sqlite3_column_double(stmt, column));
+                row.values.emplace_back(float(sqlite3_column_double(stmt, column)));
                 break;
             case AttributeType::Bool:
-                v = sqlite3_column_int64(stmt, column) != 0;
+                row.values.emplace_back(sqlite3_column_int64(stmt, column) != 0);
                 break;
             case AttributeType::Date:
-                v = QDateTime::fromMSecsSinceEpoch(sqlite3_column_int64(stmt, column), QTimeZone::utc());
+                row.values.emplace_back(QDateTime::fromMSecsSinceEpoch(sqlite3_column_int64(stmt, column), Qt::UTC));
                 break;
             case AttributeType::Data:
-                v = QByteArray(static_cast<const char*>(sqlite3_column_blob(stmt, column)),
-                               sqlite3_column_bytes(stmt, column));
+                row.values.emplace_back(QByteArray(static_cast<const char*>(sqlite3_column_blob(stmt, column)),
+                                                   sqlite3_column_bytes(stmt, column)));
                 break;
             }
         }

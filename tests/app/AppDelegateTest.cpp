@@ -33,7 +33,8 @@ void writeFile(const QString& path, const QByteArray& bytes)
 void executeOn(const QString& path, const char* sql)
 {
     sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READWRITE, nullptr), SQLITE_OK);
+    ASSERT_EQ(sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READWRITE, nullptr),
+              SQLITE_OK);
     char* message = nullptr;
     EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, &message), SQLITE_OK) << (message ? message : "");
     sqlite3_free(message);
@@ -146,7 +147,8 @@ TEST_F(AppDelegateTest, AFileWhereTheFolderShouldBe)
     EXPECT_EQ(errors[0].domain, QStringLiteral("YOUR_ERROR_DOMAIN"));
     EXPECT_EQ(errors[0].code, 101);
     EXPECT_EQ(errors[0].message,
-              QStringLiteral("Expected a folder to store application data, found a file (%1).").arg(l.filesDirectory));
+              QStringLiteral("Expected a folder to store application data, found a file (%1).")
+                  .arg(l.filesDirectory));
     EXPECT_EQ(errors[1].domain, QStringLiteral("YOUR_ERROR_DOMAIN"));
     EXPECT_EQ(errors[1].code, 9999);
     EXPECT_EQ(errors[1].message, QStringLiteral("Failed to initialize the store"));
@@ -174,7 +176,8 @@ struct BadStoreCase
 };
 
 const BadStoreCase badStoreCases[] = {
-    {"NotSqlite", [](const QString& path) { writeFile(path, QByteArray("%PDF-1.4 not a database\n").repeated(50)); },
+    {"NotSqlite",
+     [](const QString& path) { writeFile(path, QByteArray("%PDF-1.4 not a database\n").repeated(50)); },
      ErrorCode::StoreNotVorn},
     {"Truncated",
      [](const QString& path) {
@@ -185,7 +188,8 @@ const BadStoreCase badStoreCases[] = {
              ASSERT_TRUE(store.ok());
              ObjectContext ctx(std::move(store.value()), clock);
              for (int i = 0; i < 300; ++i)
-                 ctx.insertNewObject(Entity::Invoice)->setValue(QStringLiteral("notes"), QString(200, QLatin1Char('x')));
+                 ctx.insertNewObject(Entity::Invoice)
+                     ->setValue(QStringLiteral("notes"), QString(200, QLatin1Char('x')));
              ASSERT_TRUE(ctx.save());
          }
          const QByteArray bytes = fileBytes(path);
@@ -221,14 +225,21 @@ INSTANTIATE_TEST_SUITE_P(Files, BadStoreLaunchTest, ::testing::ValuesIn(badStore
 
 // ---------------------------------------------------------------- quit
 
-enum class Setup { NoStore, CommitFails, NoChanges, Changes, SaveFails };
+enum class Setup
+{
+    NoStore,
+    CommitFails,
+    NoChanges,
+    Changes,
+    SaveFails
+};
 
 struct QuitCase
 {
     const char* name;
     Setup setup;
-    int errorAnswer;  // -1: none scripted
-    int alertAnswer;  // -1: none scripted
+    int errorAnswer; // -1: none scripted
+    int alertAnswer; // -1: none scripted
     AppDelegate::TerminateReply reply;
     bool terminatedFine;
     bool alertShown;
@@ -269,8 +280,9 @@ TEST_P(QuitTest, QuitProtocol)
         if (c.setup == Setup::CommitFails)
             m_app->managedObjectContext()->registerEditor(&editor, [] { return false; });
         if (c.setup == Setup::SaveFails)
-            executeOn(storeFile, "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk "
-                                 "says no'); END");
+            executeOn(storeFile,
+                      "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk "
+                      "says no'); END");
     }
     // The opposite of what must be written, so that writing it shows.
     m_settings->setValue(QStringLiteral("isTerminatedFine"), !c.terminatedFine);
@@ -290,7 +302,8 @@ TEST_P(QuitTest, QuitProtocol)
         ASSERT_EQ(alerts.size(), 1);
         EXPECT_EQ(alerts[0].title, QStringLiteral("Could not save changes while quitting. Quit anyway?"));
         EXPECT_EQ(alerts[0].text,
-                  QStringLiteral("Quitting now will lose any changes you have made since the last successful save"));
+                  QStringLiteral(
+                      "Quitting now will lose any changes you have made since the last successful save"));
         EXPECT_EQ(alerts[0].buttons, (QStringList{"Quit anyway", "Cancel"}));
     } else {
         EXPECT_TRUE(alerts.isEmpty());
@@ -310,8 +323,9 @@ TEST_F(AppDelegateTest, SaveActionPresentsAFailure)
 {
     launch();
     addDocument(1);
-    executeOn(m_env.locations().storeFile(),
-              "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk says no'); END");
+    executeOn(
+        m_env.locations().storeFile(),
+        "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk says no'); END");
     QObject editor;
     m_app->managedObjectContext()->registerEditor(&editor, [] { return false; });
     m_app->saveAction();
@@ -331,8 +345,9 @@ TEST_F(AppDelegateTest, OpeningAFileFromOutsideOnlyExplains)
     ASSERT_EQ(alerts.size(), 1);
     EXPECT_EQ(alerts[0].title, QStringLiteral("Vorn, Vorn Documents, and the Vorn Database"));
     EXPECT_EQ(alerts[0].text,
-              QStringLiteral("In order to avoid duplicate entries, hiccups, and to keep the database intact - please "
-                             "use the 'File Menu' to open documents and to restore the Vorn database."));
+              QStringLiteral(
+                  "In order to avoid duplicate entries, hiccups, and to keep the database intact - please "
+                  "use the 'File Menu' to open documents and to restore the Vorn database."));
     EXPECT_EQ(alerts[0].buttons, QStringList{"OK"});
     EXPECT_TRUE(m_app->managedObjectContext()->fetch(Entity::Invoice).isEmpty());
     EXPECT_TRUE(m_app->applicationShouldHandleReopen());

@@ -19,37 +19,58 @@ struct RequiredKey
 };
 
 const RequiredKey requiredKeys[] = {
-    {"invHaveNumber", QMetaType::Bool},       {"invHaveDueDate", QMetaType::Bool},
-    {"invDefaultDueDate", QMetaType::LongLong}, {"invPattern", QMetaType::QString},
-    {"invCount", QMetaType::LongLong},         {"quotHaveNumber", QMetaType::Bool},
-    {"quotHaveValidity", QMetaType::Bool},     {"quotDefaultValidity", QMetaType::LongLong},
-    {"quotPattern", QMetaType::QString},       {"quotCount", QMetaType::LongLong},
-    {"clientPattern", QMetaType::QString},     {"clientCount", QMetaType::LongLong},
-    {"prefsAddressPattern", QMetaType::QString}, {"prefsCurrency", QMetaType::QString},
-    {"prefsDatePattern", QMetaType::QString},  {"tax1Enabled", QMetaType::Bool},
-    {"tax2Enabled", QMetaType::Bool},          {"tax3Enabled", QMetaType::Bool},
-    {"tax1Title", QMetaType::QString},         {"tax2Title", QMetaType::QString},
-    {"tax3Title", QMetaType::QString},         {"tax1Rate", QMetaType::Double},
-    {"tax2Rate", QMetaType::Double},           {"tax3Rate", QMetaType::Double},
-    {"tax2IsCompound", QMetaType::Bool},       {"tax3IsCompound", QMetaType::Bool},
-    {"showItemSubAmount", QMetaType::Bool},    {"tempUseSKU", QMetaType::Bool},
-    {"tempInvConditions", QMetaType::QString}, {"tempInvFooter", QMetaType::QString},
-    {"tempInvMisc", QMetaType::QString},       {"tempQuotConditions", QMetaType::QString},
-    {"tempQuotFooter", QMetaType::QString},    {"tempRemConditions", QMetaType::QString},
-    {"tempRemFooter", QMetaType::QString},     {"tempPaperSize", QMetaType::LongLong},
-    {"tempBorderFont", QMetaType::QString},    {"tempPrintDetails", QMetaType::Bool},
-    {"tempPrintNumbers", QMetaType::Bool},     {"printBorderless", QMetaType::Bool},
-    {"printBehavior", QMetaType::LongLong},    {"exportFormat", QMetaType::LongLong},
-    {"markInvoiceAsSent", QMetaType::Bool},    {"languageDefaults", QMetaType::LongLong},
+    {"invHaveNumber", QMetaType::Bool},
+    {"invHaveDueDate", QMetaType::Bool},
+    {"invDefaultDueDate", QMetaType::LongLong},
+    {"invPattern", QMetaType::QString},
+    {"invCount", QMetaType::LongLong},
+    {"quotHaveNumber", QMetaType::Bool},
+    {"quotHaveValidity", QMetaType::Bool},
+    {"quotDefaultValidity", QMetaType::LongLong},
+    {"quotPattern", QMetaType::QString},
+    {"quotCount", QMetaType::LongLong},
+    {"clientPattern", QMetaType::QString},
+    {"clientCount", QMetaType::LongLong},
+    {"prefsAddressPattern", QMetaType::QString},
+    {"prefsCurrency", QMetaType::QString},
+    {"prefsDatePattern", QMetaType::QString},
+    {"tax1Enabled", QMetaType::Bool},
+    {"tax2Enabled", QMetaType::Bool},
+    {"tax3Enabled", QMetaType::Bool},
+    {"tax1Title", QMetaType::QString},
+    {"tax2Title", QMetaType::QString},
+    {"tax3Title", QMetaType::QString},
+    {"tax1Rate", QMetaType::Double},
+    {"tax2Rate", QMetaType::Double},
+    {"tax3Rate", QMetaType::Double},
+    {"tax2IsCompound", QMetaType::Bool},
+    {"tax3IsCompound", QMetaType::Bool},
+    {"showItemSubAmount", QMetaType::Bool},
+    {"tempUseSKU", QMetaType::Bool},
+    {"tempInvConditions", QMetaType::QString},
+    {"tempInvFooter", QMetaType::QString},
+    {"tempInvMisc", QMetaType::QString},
+    {"tempQuotConditions", QMetaType::QString},
+    {"tempQuotFooter", QMetaType::QString},
+    {"tempRemConditions", QMetaType::QString},
+    {"tempRemFooter", QMetaType::QString},
+    {"tempPaperSize", QMetaType::LongLong},
+    {"tempBorderFont", QMetaType::QString},
+    {"tempPrintDetails", QMetaType::Bool},
+    {"tempPrintNumbers", QMetaType::Bool},
+    {"printBorderless", QMetaType::Bool},
+    {"printBehavior", QMetaType::LongLong},
+    {"exportFormat", QMetaType::LongLong},
+    {"markInvoiceAsSent", QMetaType::Bool},
+    {"languageDefaults", QMetaType::LongLong},
 };
 
-const char* const locKeys[] = {"locInvoice",      "locQuote",      "locReminder",  "locInvoiceNumber",
-                               "locQuoteNumber",  "locClientNumber", "locNumber",  "locDate",
-                               "locDue",          "locExpiration", "locOverdue",   "locDispatched",
-                               "locSubtotal",     "locTotal",      "locTaxes",     "locDiscount",
-                               "locShipping",     "locDescription", "locQuantity", "locUnit",
-                               "locUnitPrice",    "locNet",        "locNo",        "locSKUNumber",
-                               "locPageOf"};
+const char* const locKeys[] = {
+    "locInvoice",      "locQuote",      "locReminder",    "locInvoiceNumber", "locQuoteNumber",
+    "locClientNumber", "locNumber",     "locDate",        "locDue",           "locExpiration",
+    "locOverdue",      "locDispatched", "locSubtotal",    "locTotal",         "locTaxes",
+    "locDiscount",     "locShipping",   "locDescription", "locQuantity",      "locUnit",
+    "locUnitPrice",    "locNet",        "locNo",          "locSKUNumber",     "locPageOf"};
 
 QVariantMap list(const char* name)
 {
@@ -87,8 +108,11 @@ TEST_P(DefaultListTest, ParsesWithTheKeysAndTypesOfTheEnglishList)
         EXPECT_TRUE(r > -1 && r < 1) << rate << " = " << r;
     }
     for (const char* pattern : {"invPattern", "quotPattern", "clientPattern"})
-        EXPECT_TRUE(other.value(QLatin1String(pattern)).toString().contains(QLatin1String("%COUNT%"))) << pattern;
-    EXPECT_EQ(other.value(QStringLiteral("locPageOf")).toString().count(QRegularExpression(QStringLiteral("%ld"))), 2);
+        EXPECT_TRUE(other.value(QLatin1String(pattern)).toString().contains(QLatin1String("%COUNT%")))
+            << pattern;
+    EXPECT_EQ(
+        other.value(QStringLiteral("locPageOf")).toString().count(QRegularExpression(QStringLiteral("%ld"))),
+        2);
     const qint64 paper = other.value(QStringLiteral("tempPaperSize")).toLongLong();
     EXPECT_TRUE(paper >= 0 && paper <= 4);
 }

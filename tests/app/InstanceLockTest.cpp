@@ -58,7 +58,8 @@ TEST_F(InstanceLockTest, ALockLeftByADeadProcessDoesNotBlock)
     QDir().mkpath(QFileInfo(path()).absolutePath());
     QFile stale(path());
     ASSERT_TRUE(stale.open(QIODevice::WriteOnly));
-    stale.write(QByteArray::number(deadProcessId()) + "\nvorn\n" + QSysInfo::machineHostName().toUtf8() + "\n");
+    stale.write(QByteArray::number(deadProcessId()) + "\nvorn\n" + QSysInfo::machineHostName().toUtf8() +
+                "\n");
     stale.close();
 
     EXPECT_FALSE(InstanceLock::isHeldElsewhere(path()));

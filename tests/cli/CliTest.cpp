@@ -103,7 +103,8 @@ TEST_P(DefaultsLoadTest, SwitchesTheTexts)
     ASSERT_EQ(r.exitCode, 0) << qPrintable(r.err);
     EXPECT_TRUE(r.out.isEmpty());
     EXPECT_TRUE(r.err.isEmpty()) << qPrintable(r.err);
-    EXPECT_EQ(readAll().value(QStringLiteral("locInvoice")).toString(), QString::fromUtf8(GetParam().locInvoice));
+    EXPECT_EQ(readAll().value(QStringLiteral("locInvoice")).toString(),
+              QString::fromUtf8(GetParam().locInvoice));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DefaultsLoadTest,
@@ -121,7 +122,10 @@ struct WriteCase
 
 const WriteCase writeCases[] = {
     {"String", {"prefsCurrency", "€ (EUR)"}, 0, "\"€ (EUR)\""},
-    {"StringTyped", {"prefsName", "--type", "string", "Tom \"Q\" Weber\\Sons"}, 0, "\"Tom \\\"Q\\\" Weber\\\\Sons\""},
+    {"StringTyped",
+     {"prefsName", "--type", "string", "Tom \"Q\" Weber\\Sons"},
+     0,
+     "\"Tom \\\"Q\\\" Weber\\\\Sons\""},
     {"EmptyString", {"prefsSlogan", ""}, 0, "\"\""},
     {"BoolOne", {"tempUseSKU", "1", "--type", "bool"}, 0, "true"},
     {"BoolFalse", {"tempUseSKU", "false", "--type", "bool"}, 0, "false"},
@@ -137,12 +141,19 @@ const WriteCase writeCases[] = {
     {"FloatNotANumber", {"tax1Rate", "nan", "--type", "float"}, 2, nullptr},
     {"FloatInfinite", {"tax1Rate", "inf", "--type", "float"}, 2, nullptr},
     {"FloatTooLarge", {"tax1Rate", "1e400", "--type", "float"}, 2, nullptr},
-    {"Date", {"ZRUpdateChecker:LastCheckDate", "2026-11-21T09:52:00Z", "--type", "date"}, 0,
+    {"Date",
+     {"ZRUpdateChecker:LastCheckDate", "2026-11-21T09:52:00Z", "--type", "date"},
+     0,
      "\"2026-11-21T09:52:00.000Z\""},
-    {"DateWithOffset", {"ZRUpdateChecker:LastCheckDate", "2026-11-21T10:52:00+01:00", "--type", "date"}, 0,
+    {"DateWithOffset",
+     {"ZRUpdateChecker:LastCheckDate", "2026-11-21T10:52:00+01:00", "--type", "date"},
+     0,
      "\"2026-11-21T09:52:00.000Z\""},
     {"DateBad", {"ZRUpdateChecker:LastCheckDate", "next tuesday", "--type", "date"}, 2, nullptr},
-    {"DateImpossible", {"ZRUpdateChecker:LastCheckDate", "2026-02-30T10:00:00Z", "--type", "date"}, 2, nullptr},
+    {"DateImpossible",
+     {"ZRUpdateChecker:LastCheckDate", "2026-02-30T10:00:00Z", "--type", "date"},
+     2,
+     nullptr},
     {"DataMissingFile", {"prefsLogo", "/no/such/logo.png", "--type", "data"}, 3, nullptr},
     {"UnknownType", {"invCount", "1", "--type", "number"}, 2, nullptr},
     {"TypeWithoutName", {"invCount", "1", "--type"}, 2, nullptr},
@@ -183,7 +194,8 @@ TEST_F(CliTest, DefaultsWriteDataTakesAFile)
     f.close();
     ASSERT_EQ(run({"defaults", "write", "prefsLogo", logo, "--type", "data"}).exitCode, 0);
     EXPECT_EQ(read(QStringLiteral("prefsLogo")),
-              QStringLiteral("\"%1\"").arg(QString::fromLatin1(QByteArray("\x89PNG\r\n\x1a\n\0\0\xff", 11).toBase64())));
+              QStringLiteral("\"%1\"").arg(
+                  QString::fromLatin1(QByteArray("\x89PNG\r\n\x1a\n\0\0\xff", 11).toBase64())));
 }
 
 struct UsageCase

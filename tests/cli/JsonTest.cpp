@@ -1,5 +1,5 @@
-#include "cli/CommandRegistry.h"
 #include "cli/Json.h"
+#include "cli/CommandRegistry.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 
@@ -39,11 +39,13 @@ TEST_P(JsonFloatTest, ShortestTextOfTheSingle)
 
 INSTANTIATE_TEST_SUITE_P(Values, JsonFloatTest,
                          ::testing::Values(FloatCase{0.07f, "0.07"}, FloatCase{34.65f, "34.65"},
-                                           FloatCase{0.1f, "0.1"}, FloatCase{1.0f, "1"}, FloatCase{100.0f, "100"},
-                                           FloatCase{-2.5f, "-2.5"}, FloatCase{0.0f, "0"}, FloatCase{-0.0f, "0"},
-                                           FloatCase{1234567.0f, "1234567"}, FloatCase{16777216.0f, "16777216"},
-                                           FloatCase{1e-7f, "1e-07"}, FloatCase{3.4028235e38f, "3.4028235e+38"},
-                                           FloatCase{NAN, "null"}, FloatCase{INFINITY, "null"}));
+                                           FloatCase{0.1f, "0.1"}, FloatCase{1.0f, "1"},
+                                           FloatCase{100.0f, "100"}, FloatCase{-2.5f, "-2.5"},
+                                           FloatCase{0.0f, "0"}, FloatCase{-0.0f, "0"},
+                                           FloatCase{1234567.0f, "1234567"},
+                                           FloatCase{16777216.0f, "16777216"}, FloatCase{1e-7f, "1e-07"},
+                                           FloatCase{3.4028235e38f, "3.4028235e+38"}, FloatCase{NAN, "null"},
+                                           FloatCase{INFINITY, "null"}));
 
 TEST(JsonTest, EveryFloatTextReadsBackAsTheSameSingle)
 {
@@ -90,11 +92,14 @@ INSTANTIATE_TEST_SUITE_P(
     Dates, JsonDateTest,
     ::testing::Values(
         DateCase{QDateTime(QDate(2026, 11, 21), QTime(9, 52), QTimeZone::utc()), "2026-11-21T09:52:00.000Z"},
-        DateCase{QDateTime(QDate(2026, 11, 21), QTime(9, 52, 7, 5), QTimeZone::utc()), "2026-11-21T09:52:07.005Z"},
-        DateCase{QDateTime(QDate(2026, 7, 1), QTime(0, 30), QTimeZone("Europe/Berlin")), "2026-06-30T22:30:00.000Z"},
+        DateCase{QDateTime(QDate(2026, 11, 21), QTime(9, 52, 7, 5), QTimeZone::utc()),
+                 "2026-11-21T09:52:07.005Z"},
+        DateCase{QDateTime(QDate(2026, 7, 1), QTime(0, 30), QTimeZone("Europe/Berlin")),
+                 "2026-06-30T22:30:00.000Z"},
         DateCase{QDateTime(QDate(2026, 12, 31), QTime(23, 59, 59, 999), QTimeZone(-5 * 3600)),
                  "2027-01-01T04:59:59.999Z"},
-        DateCase{QDateTime(QDate(1969, 7, 20), QTime(20, 17, 40), QTimeZone::utc()), "1969-07-20T20:17:40.000Z"},
+        DateCase{QDateTime(QDate(1969, 7, 20), QTime(20, 17, 40), QTimeZone::utc()),
+                 "1969-07-20T20:17:40.000Z"},
         DateCase{QDateTime(QDate(999, 1, 2), QTime(3, 4, 5), QTimeZone::utc()), "0999-01-02T03:04:05.000Z"}));
 
 struct QuoteCase
@@ -129,11 +134,13 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(JsonTest, NestedValuesWithSortedKeys)
 {
-    const QVariantMap map{{QStringLiteral("b"), QVariantList{qint64(1), true, QVariant(), QStringLiteral("x")}},
-                          {QStringLiteral("a"), QByteArray("\x00\xff", 2)},
-                          {QStringLiteral("c"), QVariantMap{}},
-                          {QStringLiteral("d"), qint64(-9007199254740993)}};
-    EXPECT_EQ(Json::write(map), QStringLiteral("{\"a\":\"AP8=\",\"b\":[1,true,null,\"x\"],\"c\":{},\"d\":-9007199254740993}"));
+    const QVariantMap map{
+        {QStringLiteral("b"), QVariantList{qint64(1), true, QVariant(), QStringLiteral("x")}},
+        {QStringLiteral("a"), QByteArray("\x00\xff", 2)},
+        {QStringLiteral("c"), QVariantMap{}},
+        {QStringLiteral("d"), qint64(-9007199254740993)}};
+    EXPECT_EQ(Json::write(map),
+              QStringLiteral("{\"a\":\"AP8=\",\"b\":[1,true,null,\"x\"],\"c\":{},\"d\":-9007199254740993}"));
 }
 
 TEST(JsonTest, ObjectDictionaryHasClassAndOnlyPresentValues)
@@ -149,11 +156,13 @@ TEST(JsonTest, ObjectDictionaryHasClassAndOnlyPresentValues)
     item->setValue(QStringLiteral("unitCount"), 3.0f);
     doc->insertObject(QStringLiteral("items"), item);
 
-    const QJsonObject withItems = QJsonDocument::fromJson(Json::objectDictionary(*doc, true).toUtf8()).object();
+    const QJsonObject withItems =
+        QJsonDocument::fromJson(Json::objectDictionary(*doc, true).toUtf8()).object();
     EXPECT_EQ(withItems.value(QStringLiteral("class")).toString(), QStringLiteral("NSManagedObject"));
     EXPECT_EQ(withItems.value(QStringLiteral("title")).toString(QStringLiteral("absent")), QString());
     EXPECT_FALSE(withItems.contains(QStringLiteral("number")));
-    EXPECT_EQ(withItems.value(QStringLiteral("misc5")).toString(), QStringLiteral("2026-11-21T09:52:00.000Z"));
+    EXPECT_EQ(withItems.value(QStringLiteral("misc5")).toString(),
+              QStringLiteral("2026-11-21T09:52:00.000Z"));
     EXPECT_TRUE(Json::objectDictionary(*doc, true).contains(QLatin1String("\"amount\":34.65,")));
     const QJsonArray items = withItems.value(QStringLiteral("items")).toArray();
     ASSERT_EQ(items.size(), 1);
@@ -178,7 +187,8 @@ class TypedValueTest : public ::testing::TestWithParam<TypedCase>
 TEST_P(TypedValueTest, ConvertsByTheModel)
 {
     QString error;
-    const auto v = Cli::typedValue(Entity::Invoice, QLatin1String(GetParam().key), QLatin1String(GetParam().text), &error);
+    const auto v = Cli::typedValue(Entity::Invoice, QLatin1String(GetParam().key),
+                                   QLatin1String(GetParam().text), &error);
     if (!GetParam().expected.isValid()) {
         EXPECT_FALSE(v.has_value()) << GetParam().key << "=" << GetParam().text;
         EXPECT_FALSE(error.isEmpty());

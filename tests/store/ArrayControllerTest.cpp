@@ -41,6 +41,53 @@ TEST_F(ArrayControllerTest, SortsNewestDateFirstThenLastCreatedFirst)
     EXPECT_EQ(titles(m_list.arrangedObjects()), (QStringList{"e", "b", "f", "c", "a", "d", "g"}));
 }
 
+TEST_F(ArrayControllerTest, SortsByTextFlagsAndNumbersWithAbsentValuesFirst)
+{
+    struct
+    {
+        const char* title;
+        QVariant paid;
+        QVariant amount;
+    } const rows[] = {{"beta", true, 2.5f},
+                      {"Alpha", false, QVariant()},
+                      {"gamma", QVariant(), -1.0f},
+                      {"alpha", true, 2.5f},
+                      {"Beta", false, 10.0f}};
+    QList<ManagedObject*> objects;
+    for (const auto& r : rows) {
+        ManagedObject* o = doc(QLatin1String(r.title), utc(2026, 1, 1));
+        o->setValue(QStringLiteral("isPaid"), r.paid);
+        o->setValue(QStringLiteral("amount"), r.amount);
+        objects << o;
+    }
+    const struct
+    {
+        QList<SortDescriptor> by;
+        QStringList expected;
+    } cases[] = {
+        {{{QStringLiteral("amount"), true}, {SortDescriptor::storeOrder(), true}},
+         {"Alpha", "gamma", "beta", "alpha", "Beta"}},
+        {{{QStringLiteral("amount"), false}, {SortDescriptor::storeOrder(), false}},
+         {"Beta", "alpha", "beta", "gamma", "Alpha"}},
+        {{{QStringLiteral("isPaid"), false}, {QStringLiteral("amount"), true}},
+         {"beta", "alpha", "Alpha", "Beta", "gamma"}},
+        {{{QStringLiteral("noSuchKey"), true}, {SortDescriptor::storeOrder(), false}},
+         {"Beta", "alpha", "gamma", "Alpha", "beta"}},
+    };
+    for (const auto& c : cases) {
+        QList<ManagedObject*> sorted = objects;
+        ArrayController::sort(sorted, c.by);
+        EXPECT_EQ(titles(sorted), c.expected);
+    }
+    // Text follows the locale's collation.
+    QList<ManagedObject*> byTitle = objects;
+    ArrayController::sort(byTitle, {{QStringLiteral("title"), true}});
+    for (qsizetype i = 1; i < byTitle.size(); ++i)
+        EXPECT_LE(QString::localeAwareCompare(byTitle[i - 1]->stringValue(QStringLiteral("title")),
+                                              byTitle[i]->stringValue(QStringLiteral("title"))),
+                  0);
+}
+
 TEST_F(ArrayControllerTest, FilterAndSelectionSurviveRearranging)
 {
     doc("a", utc(2026, 1, 1), 1);
