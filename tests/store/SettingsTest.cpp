@@ -128,6 +128,22 @@ TEST_F(SettingsTest, RemovingAValueFallsBackAndIsWritten)
     EXPECT_FALSE(fileBytes(file()).contains("locInvoice"));
 }
 
+TEST_F(SettingsTest, AFailedWriteIsReportedAndTheValuesStay)
+{
+    // A file where the settings folder should be: nothing can be written.
+    QFile blocker(QFileInfo(file()).absolutePath());
+    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
+    blocker.close();
+    Settings settings(file());
+    ASSERT_TRUE(settings.load());
+    settings.setValue(QStringLiteral("locInvoice"), QStringLiteral("Invoice"));
+    const Status saved = settings.synchronize();
+    ASSERT_FALSE(saved.ok());
+    EXPECT_EQ(saved.error().code, ErrorCode::SettingsWriteFailed);
+    EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")), QStringLiteral("Invoice"));
+    EXPECT_TRUE(QFileInfo(QFileInfo(file()).absolutePath()).isFile());
+}
+
 QByteArray nested(int depth)
 {
     QByteArray xml =

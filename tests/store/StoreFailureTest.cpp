@@ -104,6 +104,12 @@ const BadStoreCase badStoreCases[] = {
          sqlite(path, "ALTER TABLE Item DROP COLUMN sku");
      },
      ErrorCode::StoreDamaged, "is damaged"},
+    {"StoreIsAFolder",
+     [](auto&, const QString& path) {
+         QDir().mkpath(path);
+         writeFile(path + QStringLiteral("/inside"), "kept");
+     },
+     ErrorCode::FileReadUnknown, "could not be read"},
     {"ReadOnlyFolder",
      [](auto&, const QString& path) {
          const QString folder = QFileInfo(path).absolutePath();
