@@ -1,14 +1,13 @@
 #include "app/AppDelegate.h"
 #include "cli/CliUserInterface.h"
 #include "cli/CommandRegistry.h"
-#include "invoicing/Calculator.h"
-#include "invoicing/FilterController.h"
+#include "cli/DocumentCommandSupport.h"
+#include "invoicing/InvoicingControllers.h"
 #include "output/DesignPreview.h"
 #include "output/ExportController.h"
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
 #include "store/AtomicFile.h"
-#include "store/Clock.h"
 #include "store/Settings.h"
 
 #include <QDir>
@@ -76,13 +75,11 @@ std::optional<ReminderOptions> takeReminderOptions(CommandContext& c, QStringLis
     return options;
 }
 
-// Shows the document as the main window would: selected, with its items,
+// The document as the main window shows it once selected (with its items),
 // as a reminder with the sheet's texts when asked.
-void present(PreviewController& preview, ManagedObject* document, const ReminderOptions& options)
+void present(PreviewController& preview, const ReminderOptions& options)
 {
     AppState& state = preview.state();
-    state.invoicesController().setSelectedObjects({document});
-    state.itemsController().setContent(document->items());
     state.isReminderAction = options.reminder;
     if (options.reminder) {
         ReminderTexts texts = preview.defaultReminderTexts();
@@ -110,14 +107,13 @@ int htmlCommand(CommandContext& c)
         return ExitCode::Usage;
     if (args.size() != 1)
         return c.usage(tr("usage: html DOC [--reminder [--title T] [--conditions C] [--footer F]]"));
-    ManagedObject* document = Cli::document(c, args[0]);
-    if (!document)
+    if (!DocumentCli::select(c, args[0]))
         return ExitCode::Usage;
     PdfRenderer renderer;
     PreviewController preview(c.app.state(), renderer);
     if (!hasDesign(c, preview))
         return ExitCode::Failure;
-    present(preview, document, *options);
+    present(preview, *options);
     c.out = preview.invoiceHTMLString();
     return ExitCode::Done;
 }
@@ -129,45 +125,31 @@ QString fileNameFor(QString title)
     title.remove(QChar(0));
     if (title.startsWith(QLatin1Char('.')))
         title.prepend(QLatin1Char('_'));
-    return title.trimmed().isEmpty() ? QStringLiteral("Document") : title;
-}
-
-std::optional<quint64> filterTag(const QString& text)
-{
-    static const QStringList names{QStringLiteral("all"),   QStringLiteral("sent"),  QStringLiteral("overdue"),
-                                   QStringLiteral("paid"),  QStringLiteral("quotes"), QStringLiteral("today"),
-                                   QStringLiteral("week"),  QStringLiteral("month"), QStringLiteral("year")};
-    bool ok = false;
-    const quint64 number = text.toULongLong(&ok);
-    if (ok && number < quint64(names.size()))
-        return number;
-    const qsizetype index = names.indexOf(text.toLower());
-    if (index >= 0)
-        return quint64(index);
-    return std::nullopt;
+    title = title.trimmed();
+    return title.isEmpty() ? QStringLiteral("Document") : title;
 }
 
 int pdfAll(CommandContext& c, QStringList args)
 {
-    std::optional<quint64> tag = 0;
-    const qsizetype f = args.indexOf(QStringLiteral("--filter"));
-    if (f >= 0) {
-        tag = f + 1 < args.size() ? filterTag(args[f + 1]) : std::nullopt;
-        if (!tag)
-            return c.usage(tr("unknown filter “%1”").arg(f + 1 < args.size() ? args[f + 1] : QString()));
-        args.remove(f, 2);
-    }
-    if (args.size() != 1)
+    bool missing = false;
+    const std::optional<QString> filter = DocumentCli::takeOption(args, QStringLiteral("--filter"), missing);
+    if (missing || args.size() != 1)
         return c.usage(tr("usage: pdf --all OUTDIR [--filter TAG]"));
+    quint64 tag = 0;
+    if (filter) {
+        bool ok = false;
+        tag = filter->trimmed().toULongLong(&ok);
+        if (!ok)
+            return c.usage(tr("the filter tag must be a whole number from 0 to 8, not “%1”").arg(*filter));
+    }
     const QString folder = QFileInfo(args[0]).absoluteFilePath();
     if (!QDir().mkpath(folder))
         return c.fail(tr("The folder “%1” could not be created.").arg(folder));
 
+    // The documents the list shows with that filter, in its order.
     AppState& state = c.app.state();
-    QList<ManagedObject*> documents = state.invoicesController().content();
-    ArrayController::sort(documents, state.invoicesController().sortDescriptors());
-    if (const Predicate predicate = FilterController::predicateForTag(*tag, state.clock().now()))
-        documents.removeIf([&predicate](ManagedObject* d) { return !predicate(*d); });
+    c.app.invoicing().filter().selectFilterAction(tag);
+    const QList<ManagedObject*> documents = state.invoicesController().arrangedObjects();
 
     PdfRenderer renderer;
     // The layout engine runs in its own processes: a page more than there
@@ -227,8 +209,7 @@ int pdfCommand(CommandContext& c)
         return ExitCode::Usage;
     if (args.size() != 2)
         return c.usage(tr("usage: pdf DOC OUT.pdf [--reminder ...] | pdf --all OUTDIR [--filter TAG]"));
-    ManagedObject* document = Cli::document(c, args[0]);
-    if (!document)
+    if (!DocumentCli::select(c, args[0]))
         return ExitCode::Usage;
 
     AppState& state = c.app.state();
@@ -236,12 +217,12 @@ int pdfCommand(CommandContext& c)
     PreviewController preview(state, renderer);
     if (!hasDesign(c, preview))
         return ExitCode::Failure;
-    present(preview, document, *options);
+    present(preview, *options);
 
     // As the export sheet does: render into the preview PDF, then save it
     // where asked (never over an existing file) and mark the invoice sent.
     ExportController exporter(state, preview);
-    Calculator calculator(state);
+    Calculator& calculator = c.app.invoicing().calculator();
     exporter.setRecalculation([&calculator](ManagedObject* d) { calculator.calculateInvoice(d); });
     bool rendered = false;
     QObject::connect(&exporter, &ExportController::exportPdfReady, [&rendered] { rendered = true; });

@@ -183,7 +183,7 @@ QtMessageHandler previousHandler = nullptr;
 void quietMessageHandler(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
     const bool ours = context.category && qstrncmp(context.category, "vorn.", 5) == 0;
-    if (!ours && type < QtCriticalMsg)
+    if (!ours && (type == QtDebugMsg || type == QtInfoMsg || type == QtWarningMsg))
         return;
     if (previousHandler)
         previousHandler(type, context, message);
