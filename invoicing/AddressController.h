@@ -2,7 +2,6 @@
 
 #include "invoicing/VCardReader.h"
 
-#include <QCoreApplication>
 #include <QList>
 #include <QObject>
 #include <QString>

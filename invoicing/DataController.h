@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QDateTime>
 #include <QObject>
 #include <QString>

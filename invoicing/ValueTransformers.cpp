@@ -54,12 +54,18 @@ bool invoiceSentToBool(const ManagedObject* document)
     return isQuote(*document) || document->intValue(key::status) == 0;
 }
 
+QString numberToSubAmountString(float amount, const Settings& settings, const Formatter& formatter)
+{
+    if (!settings.boolValue(key::showItemSubAmount))
+        return {};
+    return QStringLiteral("(%1)").arg(formatter.stringFromNumber(double(amount)));
+}
+
 QString numberToSubAmountString(float amount, const Settings& settings)
 {
     if (!settings.boolValue(key::showItemSubAmount))
         return {};
-    const Formatter formatter(settings);
-    return QStringLiteral("(%1)").arg(formatter.stringFromNumber(double(amount)));
+    return numberToSubAmountString(amount, settings, Formatter(settings));
 }
 
 } // namespace vorn::ValueTransformers

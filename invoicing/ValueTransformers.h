@@ -5,6 +5,7 @@
 
 namespace vorn {
 
+class Formatter;
 class ManagedObject;
 class Settings;
 
@@ -30,6 +31,8 @@ bool invoiceSentToBool(const ManagedObject* document);
 // "(1,234.50)" in the user's locale when item rows show net amounts
 // (showItemSubAmount), else empty.
 QString numberToSubAmountString(float amount, const Settings& settings);
+// The same with a formatter the caller keeps (a table drawing many rows).
+QString numberToSubAmountString(float amount, const Settings& settings, const Formatter& formatter);
 
 } // namespace ValueTransformers
 } // namespace vorn
