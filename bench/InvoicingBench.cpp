@@ -84,7 +84,8 @@ void generate(const QString& storePath)
     for (int start = 0; start < documentCount; start += batch) {
         auto store = SqliteStore::open(storePath, ObjectModel::vorn());
         if (!store) {
-            std::fprintf(stderr, "cannot create %s: %s\n", qPrintable(storePath), qPrintable(store.error().fullText()));
+            std::fprintf(stderr, "cannot create %s: %s\n", qPrintable(storePath),
+                         qPrintable(store.error().fullText()));
             std::exit(1);
         }
         ObjectContext ctx(std::move(store.value()), clock);
@@ -97,7 +98,8 @@ void generate(const QString& storePath)
             doc->setValue(key::status, random.bounded(5));
             doc->setValue(key::number, QStringLiteral("%1-%2").arg(invoice ? "INV" : "QT").arg(1000 + d));
             doc->setValue(key::title, invoice ? QStringLiteral("Invoice") : QStringLiteral("Quote"));
-            doc->setValue(key::address, QStringLiteral("Client %1\nMain Street %2").arg(d % 900).arg(d % 120));
+            doc->setValue(key::address,
+                          QStringLiteral("Client %1\nMain Street %2").arg(d % 900).arg(d % 120));
             for (const QString& k : {key::date, key::paid, key::sent, key::dispatched})
                 doc->setValue(k, date);
             doc->setValue(key::due, date.addDays(14));
@@ -117,10 +119,11 @@ void generate(const QString& storePath)
             doc->setValue(key::dueAmount, 0.0f);
 
             // The newest document is the big one.
-            const int items = d == documentCount - 1 ? bigDocumentItems
-                              : d == documentCount - 2
-                                  ? itemsLeft
-                                  : std::min(int(random.bounded(1, 9)), std::max(1, itemsLeft - (documentCount - d)));
+            const int items =
+                d == documentCount - 1 ? bigDocumentItems
+                : d == documentCount - 2
+                    ? itemsLeft
+                    : std::min(int(random.bounded(1, 9)), std::max(1, itemsLeft - (documentCount - d)));
             if (d != documentCount - 1)
                 itemsLeft -= items;
             for (int i = 0; i < items; ++i) {
@@ -226,14 +229,14 @@ int run()
     inv.calculator().calculateDatabase();
     ctx->undoManager()->removeAllActions();
 
-    report("calculateDatabase over 20,000 documents", measure(50, {}, [&] { inv.calculator().calculateDatabase(); }),
-           5);
+    report("calculateDatabase over 20,000 documents",
+           measure(50, {}, [&] { inv.calculator().calculateDatabase(); }), 5);
 
     quint64 tag = 0;
     const Figure filter = measure(45, {}, [&] { inv.filter().selectFilterAction(tag++ % 9); });
     report("filter change (predicate, rearrange, totals), tags 0-8", filter, 20);
-    const Figure all = measure(20, [&] { inv.filter().selectFilterAction(1); },
-                               [&] { inv.filter().selectFilterAction(0); });
+    const Figure all = measure(
+        20, [&] { inv.filter().selectFilterAction(1); }, [&] { inv.filter().selectFilterAction(0); });
     report("filter change back to all 20,000 documents", all, 20);
 
     inv.filter().selectFilterAction(0);
@@ -249,12 +252,13 @@ int run()
     QList<ManagedObject*> lines = big->items();
     int edit = 0;
     report("calculateInvoice: 1,000 items, one line edited",
-           measure(50,
-                   [&] {
-                       ++edit;
-                       lines[edit % lines.size()]->setValue(key::unitCount, float(edit % 7 + 1));
-                   },
-                   [&] { inv.calculator().calculateInvoiceAmounts(big); }),
+           measure(
+               50,
+               [&] {
+                   ++edit;
+                   lines[edit % lines.size()]->setValue(key::unitCount, float(edit % 7 + 1));
+               },
+               [&] { inv.calculator().calculateInvoiceAmounts(big); }),
            1);
     report("calculateInvoice: 1,000 items, unchanged",
            measure(50, {}, [&] { inv.calculator().calculateInvoiceAmounts(big); }), 1);

@@ -6,7 +6,6 @@
 #include "invoicing/InvoicingControllers.h"
 #include "invoicing/VCardReader.h"
 
-
 namespace vorn {
 
 namespace {
@@ -60,15 +59,17 @@ int address(CommandContext& c)
             bool ok = false;
             i = index->trimmed().toInt(&ok);
             if (!ok || i < 0)
-                return c.usage(CommandRegistry::tr("the contact index must be 0 or more, not “%1”").arg(*index));
+                return c.usage(
+                    CommandRegistry::tr("the contact index must be 0 or more, not “%1”").arg(*index));
         }
         if (i >= read.contacts.size()) {
-            QString message = read.contacts.isEmpty()
-                                  ? CommandRegistry::tr("no contact could be read from “%1”").arg(*file)
-                                  : CommandRegistry::tr("“%1” holds %2 readable contacts; there is no contact %3")
-                                        .arg(*file)
-                                        .arg(read.contacts.size())
-                                        .arg(i);
+            QString message =
+                read.contacts.isEmpty()
+                    ? CommandRegistry::tr("no contact could be read from “%1”").arg(*file)
+                    : CommandRegistry::tr("“%1” holds %2 readable contacts; there is no contact %3")
+                          .arg(*file)
+                          .arg(read.contacts.size())
+                          .arg(i);
             if (!read.notes.isEmpty())
                 message += QStringLiteral(" (") + read.notes.join(QStringLiteral("; ")) + QLatin1Char(')');
             return c.fail(message, ExitCode::Failure);
@@ -107,8 +108,9 @@ int addressList(CommandContext& c)
 void registerAddressCommands(CommandRegistry& registry)
 {
     registry.add({QStringLiteral("address"),
-                  QStringLiteral("DOC --text TEXT [--email E] [--client-number C] | DOC --contact FILE.vcf [--index I] "
-                                 "| DOC --recent N"),
+                  QStringLiteral(
+                      "DOC --text TEXT [--email E] [--client-number C] | DOC --contact FILE.vcf [--index I] "
+                      "| DOC --recent N"),
                   true, true, address});
     registry.add({QStringLiteral("address list"), QString(), false, true, addressList});
 }

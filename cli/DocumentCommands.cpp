@@ -133,11 +133,12 @@ int show(CommandContext& c)
 bool lockedWhenSent(const QString& k)
 {
     static const QStringList locked{
-        key::isShippingEnabled,   key::shippingTitle,         key::shippingSubtitle,      key::hasShippingSubtitle,
-        key::shippingAmount,      key::isShippingTax1Enabled, key::isShippingTax2Enabled, key::isShippingTax3Enabled,
-        key::isDiscountEnabled,   key::discountTitle,         key::discountSubtitle,      key::hasDiscountSubtitle,
-        key::discountKind,        key::discountPercent,       key::discountAmount,        key::tax1Percent,
-        key::tax2Percent,         key::tax3Percent};
+        key::isShippingEnabled,     key::shippingTitle,         key::shippingSubtitle,
+        key::hasShippingSubtitle,   key::shippingAmount,        key::isShippingTax1Enabled,
+        key::isShippingTax2Enabled, key::isShippingTax3Enabled, key::isDiscountEnabled,
+        key::discountTitle,         key::discountSubtitle,      key::hasDiscountSubtitle,
+        key::discountKind,          key::discountPercent,       key::discountAmount,
+        key::tax1Percent,           key::tax2Percent,           key::tax3Percent};
     return locked.contains(k);
 }
 
@@ -253,7 +254,8 @@ void registerDocumentCommands(CommandRegistry& registry)
     registry.add({QStringLiteral("convert"), QStringLiteral("DOC"), true, true, convert});
     registry.add({QStringLiteral("delete"), QStringLiteral("DOC"), true, true, deleteDocument});
     registry.add({QStringLiteral("dispatched"), QStringLiteral("DOC"), true, true, dispatched});
-    registry.add({QStringLiteral("next-number"), QStringLiteral("invoice|quote|client"), false, true, nextNumber});
+    registry.add(
+        {QStringLiteral("next-number"), QStringLiteral("invoice|quote|client"), false, true, nextNumber});
     registerItemCommands(registry);
     registerAddressCommands(registry);
 }

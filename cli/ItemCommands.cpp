@@ -47,9 +47,10 @@ int itemAdd(CommandContext& c)
                 return c.usage(CommandRegistry::tr("“%1” is not a valid value for %2").arg(value, k));
             (k.endsWith(QLatin1Char('1')) ? p.tax1 : k.endsWith(QLatin1Char('2')) ? p.tax2 : p.tax3) = *on;
         } else {
-            return c.usage(CommandRegistry::tr("unknown field “%1”; the fields are title subtitle unit sku note "
-                                               "baseAmount unitCount tax1 tax2 tax3")
-                               .arg(k));
+            return c.usage(
+                CommandRegistry::tr("unknown field “%1”; the fields are title subtitle unit sku note "
+                                    "baseAmount unitCount tax1 tax2 tax3")
+                    .arg(k));
         }
     }
     if (!items.addItem())
@@ -82,7 +83,8 @@ int itemEdit(CommandContext& c)
     ArrayController& list = c.app.state().itemsController();
     const std::optional<int> index = parseIndex(c.args[1], list.count());
     if (!index)
-        return c.usage(CommandRegistry::tr("no item %1 in a document of %2 items").arg(c.args[1]).arg(list.count()));
+        return c.usage(
+            CommandRegistry::tr("no item %1 in a document of %2 items").arg(c.args[1]).arg(list.count()));
     list.setSelectionIndexes({*index});
     ItemController& items = controllers(c).items();
     items.openEditItemSheet();
@@ -106,7 +108,8 @@ int itemDelete(CommandContext& c)
     ArrayController& list = c.app.state().itemsController();
     const std::optional<int> index = parseIndex(c.args[1], list.count());
     if (!index)
-        return c.usage(CommandRegistry::tr("no item %1 in a document of %2 items").arg(c.args[1]).arg(list.count()));
+        return c.usage(
+            CommandRegistry::tr("no item %1 in a document of %2 items").arg(c.args[1]).arg(list.count()));
     list.setSelectionIndexes({*index});
     controllers(c).items().deleteItem();
     printDocument(c, *doc);
@@ -131,7 +134,8 @@ int itemMove(CommandContext& c)
     bool ok = false;
     const int to = c.args[2].trimmed().toInt(&ok);
     if (!ok || to < 0 || to > count)
-        return c.usage(CommandRegistry::tr("the target row must be from 0 to %1, not “%2”").arg(count).arg(c.args[2]));
+        return c.usage(
+            CommandRegistry::tr("the target row must be from 0 to %1, not “%2”").arg(count).arg(c.args[2]));
     controllers(c).items().moveItems(rows, to);
     printDocument(c, *doc);
     return ExitCode::Done;
@@ -220,9 +224,10 @@ int shipping(CommandContext& c)
         else if (k == QLatin1String("tax3"))
             ok = flag(key::isShippingTax3Enabled);
         else
-            return c.usage(CommandRegistry::tr("unknown field “%1”; the fields are title subtitle hasSubtitle note "
-                                               "amount tax1 tax2 tax3")
-                               .arg(k));
+            return c.usage(
+                CommandRegistry::tr("unknown field “%1”; the fields are title subtitle hasSubtitle note "
+                                    "amount tax1 tax2 tax3")
+                    .arg(k));
         if (!ok)
             return c.usage(CommandRegistry::tr("“%1” is not a valid value for %2").arg(value, k));
     }
@@ -234,7 +239,8 @@ int shipping(CommandContext& c)
 
 int discount(CommandContext& c)
 {
-    const QString usage = CommandRegistry::tr("usage: discount DOC fixed|percent VALUE [title=T] [subtitle=S] | DOC --off");
+    const QString usage =
+        CommandRegistry::tr("usage: discount DOC fixed|percent VALUE [title=T] [subtitle=S] | DOC --off");
     QStringList args = c.args;
     if (args.size() < 2)
         return c.usage(usage);
@@ -299,20 +305,25 @@ int discount(CommandContext& c)
 
 void registerItemCommands(CommandRegistry& registry)
 {
-    registry.add({QStringLiteral("item add"),
-                  QStringLiteral("DOC [title= subtitle= unit= sku= note= baseAmount= unitCount= tax1= tax2= tax3=]"),
-                  true, true, itemAdd});
-    registry.add({QStringLiteral("item edit"), QStringLiteral("DOC INDEX KEY=VALUE..."), true, true, itemEdit});
+    registry.add(
+        {QStringLiteral("item add"),
+         QStringLiteral("DOC [title= subtitle= unit= sku= note= baseAmount= unitCount= tax1= tax2= tax3=]"),
+         true, true, itemAdd});
+    registry.add(
+        {QStringLiteral("item edit"), QStringLiteral("DOC INDEX KEY=VALUE..."), true, true, itemEdit});
     registry.add({QStringLiteral("item delete"), QStringLiteral("DOC INDEX"), true, true, itemDelete});
-    registry.add({QStringLiteral("item move"), QStringLiteral("DOC INDEX[,INDEX...] TO"), true, true, itemMove});
+    registry.add(
+        {QStringLiteral("item move"), QStringLiteral("DOC INDEX[,INDEX...] TO"), true, true, itemMove});
     registry.add({QStringLiteral("item recent"), QString(), false, true, itemRecent});
     registry.add({QStringLiteral("shipping"),
-                  QStringLiteral("DOC [title= subtitle= hasSubtitle= note= amount= tax1= tax2= tax3=] | DOC --recent N "
-                                 "| DOC --off"),
+                  QStringLiteral(
+                      "DOC [title= subtitle= hasSubtitle= note= amount= tax1= tax2= tax3=] | DOC --recent N "
+                      "| DOC --off"),
                   true, true, shipping});
-    registry.add({QStringLiteral("discount"),
-                  QStringLiteral("DOC fixed|percent VALUE [title=T] [subtitle=S] | DOC --off  (percent: 0.1 or 10%)"),
-                  true, true, discount});
+    registry.add(
+        {QStringLiteral("discount"),
+         QStringLiteral("DOC fixed|percent VALUE [title=T] [subtitle=S] | DOC --off  (percent: 0.1 or 10%)"),
+         true, true, discount});
 }
 
 } // namespace vorn

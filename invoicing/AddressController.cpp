@@ -41,10 +41,14 @@ QString AddressController::addressFromPattern(const Contact& contact, const QStr
         street = a.poBox;
 
     const std::pair<QString, QString> replacements[] = {
-        {QStringLiteral("%FIRSTNAME%"), contact.firstName}, {QStringLiteral("%LASTNAME%"), contact.lastName},
-        {QStringLiteral("%COMPANY%"), contact.organization}, {QStringLiteral("%STREET%"), street},
-        {QStringLiteral("%CITY%"), a.city},                   {QStringLiteral("%ZIP%"), a.postalCode},
-        {QStringLiteral("%STATE%"), a.region},               {QStringLiteral("%COUNTRY%"), a.country},
+        {QStringLiteral("%FIRSTNAME%"), contact.firstName},
+        {QStringLiteral("%LASTNAME%"), contact.lastName},
+        {QStringLiteral("%COMPANY%"), contact.organization},
+        {QStringLiteral("%STREET%"), street},
+        {QStringLiteral("%CITY%"), a.city},
+        {QStringLiteral("%ZIP%"), a.postalCode},
+        {QStringLiteral("%STATE%"), a.region},
+        {QStringLiteral("%COUNTRY%"), a.country},
     };
     // Empty values keep their line breaks and separators: the pattern decides.
     QString text = pattern;
@@ -106,8 +110,10 @@ void AddressController::reloadContacts()
 {
     VCardReadResult result = VCardReader::readPaths(contactsFolders());
     std::stable_sort(result.contacts.begin(), result.contacts.end(), [](const Contact& a, const Contact& b) {
-        const QString x = a.lastName.isEmpty() ? a.displayName() : a.lastName + QLatin1Char(' ') + a.firstName;
-        const QString y = b.lastName.isEmpty() ? b.displayName() : b.lastName + QLatin1Char(' ') + b.firstName;
+        const QString x =
+            a.lastName.isEmpty() ? a.displayName() : a.lastName + QLatin1Char(' ') + a.firstName;
+        const QString y =
+            b.lastName.isEmpty() ? b.displayName() : b.lastName + QLatin1Char(' ') + b.firstName;
         return QString::localeAwareCompare(x, y) < 0;
     });
     m_contacts = std::move(result.contacts);
@@ -167,9 +173,9 @@ void AddressController::selectAddressRecord()
 void AddressController::fillFromContact(const Contact& contact)
 {
     const QVariant pattern = m_state.settings().value(key::prefsAddressPattern);
-    m_popover.address =
-        addressFromPattern(contact, pattern.isValid() ? m_state.settings().stringValue(key::prefsAddressPattern)
-                                                      : missingPatternText());
+    m_popover.address = addressFromPattern(
+        contact,
+        pattern.isValid() ? m_state.settings().stringValue(key::prefsAddressPattern) : missingPatternText());
     m_popover.emailAddress = chooseEmail(contact);
     Q_EMIT popoverChanged();
 }

@@ -98,9 +98,10 @@ const Calculator::ItemKeys& Calculator::itemKeys(const EntityDescription& e)
     if (m_itemEntity != &e) {
         m_itemEntity = &e;
         auto i = [&e](const QString& k) { return e.attributeIndex(k); };
-        m_itemKeys = {i(key::tax1Percent),   i(key::tax2Percent),    i(key::tax3Percent),    i(key::baseAmount),
-                      i(key::unitCount),     i(key::subAmount),      i(key::amount),         i(key::isTax1Applied),
-                      i(key::isTax2Applied), i(key::isTax3Applied),  i(key::isTax2Compound), i(key::isTax3Compound),
+        m_itemKeys = {i(key::tax1Percent),   i(key::tax2Percent),    i(key::tax3Percent),
+                      i(key::baseAmount),    i(key::unitCount),      i(key::subAmount),
+                      i(key::amount),        i(key::isTax1Applied),  i(key::isTax2Applied),
+                      i(key::isTax3Applied), i(key::isTax2Compound), i(key::isTax3Compound),
                       i(key::tax1Amount),    i(key::tax2Amount),     i(key::tax3Amount)};
     }
     return m_itemKeys;
@@ -212,8 +213,8 @@ void Calculator::calculateInvoiceAmounts(ManagedObject* invoice)
 
 void Calculator::calculateItem(const ManagedObject* item)
 {
-    qCInfo(lcInvoicing).noquote() << QStringLiteral("item: %1")
-                                          .arg(item ? item->stringValue(key::uniqueID) : QStringLiteral("(null)"));
+    qCInfo(lcInvoicing).noquote()
+        << QStringLiteral("item: %1").arg(item ? item->stringValue(key::uniqueID) : QStringLiteral("(null)"));
 }
 
 Calculator::TotalsBatch::~TotalsBatch()
@@ -251,10 +252,12 @@ void Calculator::calculateDatabase()
         const float amount = floatAt(*doc, d.amount);
         const QVariant paidBefore = doc->value(d.paidAmount);
         const QVariant dueBefore = doc->value(d.dueAmount);
-        float paidValue = paidBefore.typeId() == QMetaType::Float ? *static_cast<const float*>(paidBefore.constData())
-                                                                  : paidBefore.toFloat();
-        float dueValue = dueBefore.typeId() == QMetaType::Float ? *static_cast<const float*>(dueBefore.constData())
-                                                                : dueBefore.toFloat();
+        float paidValue = paidBefore.typeId() == QMetaType::Float
+                              ? *static_cast<const float*>(paidBefore.constData())
+                              : paidBefore.toFloat();
+        float dueValue = dueBefore.typeId() == QMetaType::Float
+                             ? *static_cast<const float*>(dueBefore.constData())
+                             : dueBefore.toFloat();
         bool paidSet = false, dueSet = false, stampPaid = false;
         const qint64 storedStatus = status;
 

@@ -40,7 +40,10 @@ public:
     class TotalsBatch
     {
     public:
-        explicit TotalsBatch(Calculator& calculator) : m_calculator(calculator) { ++m_calculator.m_batchDepth; }
+        explicit TotalsBatch(Calculator& calculator) : m_calculator(calculator)
+        {
+            ++m_calculator.m_batchDepth;
+        }
         ~TotalsBatch();
         TotalsBatch(const TotalsBatch&) = delete;
         TotalsBatch& operator=(const TotalsBatch&) = delete;
@@ -56,7 +59,8 @@ private:
     {
         int kind, status, due, paid, isPaid, amount, subAmount, paidAmount, dueAmount;
         int tax1Amount, tax2Amount, tax3Amount, tax1Percent, tax2Percent, tax3Percent;
-        int isShippingEnabled, shippingAmount, isShippingTax1Enabled, isShippingTax2Enabled, isShippingTax3Enabled;
+        int isShippingEnabled, shippingAmount, isShippingTax1Enabled, isShippingTax2Enabled,
+            isShippingTax3Enabled;
         int isDiscountEnabled, discountKind, discountPercent, discountAmount;
     };
     struct ItemKeys

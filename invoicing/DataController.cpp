@@ -17,7 +17,8 @@ namespace vorn {
 
 DataController::DataController(AppState& state, Calculator& calculator, NumberingController& numbering,
                                FilterController& filter, GUIController& gui, QObject* parent)
-    : QObject(parent), m_state(state), m_calculator(calculator), m_numbering(numbering), m_filter(filter), m_gui(gui)
+    : QObject(parent), m_state(state), m_calculator(calculator), m_numbering(numbering), m_filter(filter),
+      m_gui(gui)
 {
     connect(&m_state.invoicesController(), &ArrayController::arrangedObjectsChanged, this,
             &DataController::invoicesArrangementChanged);
@@ -70,16 +71,18 @@ ManagedObject* DataController::addDocument(int kind)
     ManagedObject* doc = context->insertNewObject(Entity::Invoice);
     doc->setValue(key::uniqueID, globallyUniqueString());
     if (invoice)
-        doc->setValue(key::number, s.boolValue(key::invHaveNumber) ? m_numbering.invoiceNumberString() : QString());
+        doc->setValue(key::number,
+                      s.boolValue(key::invHaveNumber) ? m_numbering.invoiceNumberString() : QString());
     else
-        doc->setValue(key::number, s.boolValue(key::quotHaveNumber) ? m_numbering.quoteNumberString() : QString());
+        doc->setValue(key::number,
+                      s.boolValue(key::quotHaveNumber) ? m_numbering.quoteNumberString() : QString());
     doc->setValue(key::address, QString());
     doc->setValue(key::title, s.stringValue(invoice ? key::locInvoice : key::locQuote));
     doc->setValue(key::subject, QString());
     doc->setValue(key::conditions, s.stringValue(invoice ? key::tempInvConditions : key::tempQuotConditions));
     doc->setValue(key::footer, s.stringValue(invoice ? key::tempInvFooter : key::tempQuotFooter));
-    for (const QString& k : {key::discountSubtitle, key::discountTitle, key::shippingSubtitle, key::shippingTitle,
-                             key::clientNumber, key::dispatchNumber, key::notes})
+    for (const QString& k : {key::discountSubtitle, key::discountTitle, key::shippingSubtitle,
+                             key::shippingTitle, key::clientNumber, key::dispatchNumber, key::notes})
         doc->setValue(k, QString());
     doc->setValue(key::currency, s.stringValue(key::prefsCurrency));
     if (invoice) {
@@ -104,8 +107,9 @@ ManagedObject* DataController::addDocument(int kind)
     doc->setValue(key::tax2Kind, qint64(0));
     doc->setValue(key::tax3Kind, qint64(0));
     doc->setValue(key::isDispatched, false);
-    for (const QString& k : {key::amount, key::subAmount, key::paidAmount, key::dueAmount, key::shippingAmount,
-                             key::discountAmount, key::tax1Amount, key::tax2Amount, key::tax3Amount})
+    for (const QString& k :
+         {key::amount, key::subAmount, key::paidAmount, key::dueAmount, key::shippingAmount,
+          key::discountAmount, key::tax1Amount, key::tax2Amount, key::tax3Amount})
         doc->setValue(k, 0.0f);
     doc->setValue(key::tax1Percent, s.floatValue(key::tax1Rate));
     doc->setValue(key::tax2Percent, s.floatValue(key::tax2Rate));
@@ -143,9 +147,9 @@ ManagedObject* DataController::duplicateInvoice()
         return nullptr;
     UndoGroup group(context->undoManager(), tr("Duplicate"));
     // What is left out takes the model's defaults, as on any new object.
-    static const QStringList identityAndState{key::number,     key::dispatchNumber, key::uniqueID, key::status,
-                                              key::isDispatched, key::date,         key::due,      key::paid,
-                                              key::sent,       key::dispatched,     key::paidAmount, key::dueAmount};
+    static const QStringList identityAndState{
+        key::number, key::dispatchNumber, key::uniqueID, key::status,     key::isDispatched, key::date,
+        key::due,    key::paid,           key::sent,     key::dispatched, key::paidAmount,   key::dueAmount};
     ManagedObject* copy = cloneInContext(*source, *context, {}, identityAndState);
     if (!copy)
         return nullptr;
@@ -160,21 +164,25 @@ void DataController::convertQuoteToInvoice()
         return;
     UserInterface& ui = m_state.ui();
     if (doc->intValue(key::kind) == 1) {
-        ui.runAlert({tr("Sorry!"), tr("You can't convert an invoice into a quote."), {tr("OK")},
-                     UserInterface::AlertStyle::Warning, false});
-        return;
-    }
-    const int answer =
-        ui.runAlert({tr("Convert Into Invoice"),
-                     tr("Do you really want to convert the selected quote into an invoice? This will also change the "
-                        "title, the counter for your invoice numbering and you can't undo this action."),
-                     {tr("Convert"), tr("Cancel")},
+        ui.runAlert({tr("Sorry!"),
+                     tr("You can't convert an invoice into a quote."),
+                     {tr("OK")},
                      UserInterface::AlertStyle::Warning,
                      false});
+        return;
+    }
+    const int answer = ui.runAlert(
+        {tr("Convert Into Invoice"),
+         tr("Do you really want to convert the selected quote into an invoice? This will also change the "
+            "title, the counter for your invoice numbering and you can't undo this action."),
+         {tr("Convert"), tr("Cancel")},
+         UserInterface::AlertStyle::Warning,
+         false});
     if (answer != 0)
         return;
 
-    UndoGroup group(m_state.context() ? m_state.context()->undoManager() : nullptr, tr("Convert Into Invoice"));
+    UndoGroup group(m_state.context() ? m_state.context()->undoManager() : nullptr,
+                    tr("Convert Into Invoice"));
     m_filter.showAllDocuments();
     doc->setValue(key::kind, qint64(1));
     // Counted among the invoices before it takes its number.
@@ -197,28 +205,31 @@ void DataController::deleteInvoice()
     UserInterface& ui = m_state.ui();
     const bool invoice = doc->intValue(key::kind) == 1;
     if (invoice && doc->intValue(key::status) >= 1) {
-        ui.runAlert({tr("Error!"),
-                     tr("The selected invoice is marked as already sent. If you really need to delete it, please set "
-                        "its status back to 'Created' first."),
-                     {tr("OK")},
-                     UserInterface::AlertStyle::Warning,
-                     false});
+        ui.runAlert(
+            {tr("Error!"),
+             tr("The selected invoice is marked as already sent. If you really need to delete it, please set "
+                "its status back to 'Created' first."),
+             {tr("OK")},
+             UserInterface::AlertStyle::Warning,
+             false});
         return;
     }
     // Quotes are never protected by their status.
     const UserInterface::Alert sheet =
-        invoice ? UserInterface::Alert{tr("Delete Invoice"),
-                                       tr("Deleting invoices is permanent and cannot be undone. Do you really want "
-                                          "to delete the selected invoice?"),
-                                       {tr("Delete"), tr("Cancel")},
-                                       UserInterface::AlertStyle::Warning,
-                                       true}
-                : UserInterface::Alert{tr("Delete Quote"),
-                                       tr("Deleting quotes is permanent and cannot be undone. Do you really want to "
-                                          "delete the selected quote?"),
-                                       {tr("Delete"), tr("Cancel")},
-                                       UserInterface::AlertStyle::Warning,
-                                       true};
+        invoice ? UserInterface::
+                      Alert{tr("Delete Invoice"),
+                            tr("Deleting invoices is permanent and cannot be undone. Do you really want "
+                               "to delete the selected invoice?"),
+                            {tr("Delete"), tr("Cancel")},
+                            UserInterface::AlertStyle::Warning,
+                            true}
+                : UserInterface::Alert{
+                      tr("Delete Quote"),
+                      tr("Deleting quotes is permanent and cannot be undone. Do you really want to "
+                         "delete the selected quote?"),
+                      {tr("Delete"), tr("Cancel")},
+                      UserInterface::AlertStyle::Warning,
+                      true};
     invoiceDeleteWarningSheetDidEnd(ui.runAlert(sheet) == 0 ? 1 : 0);
 }
 

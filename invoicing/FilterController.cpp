@@ -125,7 +125,8 @@ void FilterController::setFilterPredicate()
         // Setting the predicate rearranges the list, which asks for the
         // totals too: they are computed once.
         Calculator::TotalsBatch batch(m_calculator);
-        m_state.invoicesController().setFilterPredicate(predicateForTag(m_state.filterTag, m_state.clock().now()));
+        m_state.invoicesController().setFilterPredicate(
+            predicateForTag(m_state.filterTag, m_state.clock().now()));
         m_calculator.calculateDatabase();
     }
     Q_EMIT filterChanged();

@@ -17,7 +17,18 @@ class FilterController : public QObject
 {
     Q_OBJECT
 public:
-    enum Tag : quint64 { All = 0, Sent = 1, Overdue = 2, Paid = 3, Quotes = 4, Today = 5, Week = 6, Month = 7, Year = 8 };
+    enum Tag : quint64
+    {
+        All = 0,
+        Sent = 1,
+        Overdue = 2,
+        Paid = 3,
+        Quotes = 4,
+        Today = 5,
+        Week = 6,
+        Month = 7,
+        Year = 8
+    };
 
     // The date filters reach back this many units of half a day: 12 hours,
     // 3.5, 15.5 and 182.5 days. The span is deliberate.

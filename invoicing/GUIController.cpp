@@ -91,7 +91,8 @@ void GUIController::selectInfoView()
     setSelectedToolbarItem(m_state.settings().intValue(key::mainTabIndex));
 }
 
-std::pair<QRect, QRect> GUIController::resizeSubviews(const QSize& newSize, int listWidth, int dividerThickness)
+std::pair<QRect, QRect> GUIController::resizeSubviews(const QSize& newSize, int listWidth,
+                                                      int dividerThickness)
 {
     const QRect list(0, 0, listWidth, newSize.height());
     const int detailX = listWidth + dividerThickness;

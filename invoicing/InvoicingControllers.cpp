@@ -5,7 +5,8 @@
 namespace vorn {
 
 InvoicingControllers::InvoicingControllers(AppState& state)
-    : m_calculator(std::make_unique<Calculator>(state)), m_numbering(std::make_unique<NumberingController>(state)),
+    : m_calculator(std::make_unique<Calculator>(state)),
+      m_numbering(std::make_unique<NumberingController>(state)),
       m_filter(std::make_unique<FilterController>(state, *m_calculator)),
       m_gui(std::make_unique<GUIController>(state)),
       m_data(std::make_unique<DataController>(state, *m_calculator, *m_numbering, *m_filter, *m_gui)),

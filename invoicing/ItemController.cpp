@@ -38,11 +38,11 @@ void ItemController::watchContext()
     if (ObjectContext* context = m_state.context()) {
         // Lines come and go also through undo and deletion: follow the
         // current document's list.
-        m_contextConnection =
-            connect(context, &ObjectContext::objectChanged, this, [this](ManagedObject* object, const QString& k) {
-                if (k == key::items && object == m_state.currentInvoice())
-                    refreshItems();
-            });
+        m_contextConnection = connect(context, &ObjectContext::objectChanged, this,
+                                      [this](ManagedObject* object, const QString& k) {
+                                          if (k == key::items && object == m_state.currentInvoice())
+                                              refreshItems();
+                                      });
     }
     refreshItems();
 }
@@ -146,7 +146,8 @@ void ItemController::rememberRecentItem()
     const float price = floatValueOfText(m_popover.baseAmount);
     ArrayController& recent = m_state.recentItemsController();
     for (const ManagedObject* r : recent.arrangedObjects()) {
-        const bool sameLine = r->stringValue(key::title) == m_popover.title && r->floatValue(key::baseAmount) == price;
+        const bool sameLine =
+            r->stringValue(key::title) == m_popover.title && r->floatValue(key::baseAmount) == price;
         const bool sameSku = !m_popover.sku.isEmpty() && r->stringValue(key::sku) == m_popover.sku;
         if (sameLine || sameSku)
             return;
@@ -200,12 +201,12 @@ void ItemController::deleteItem()
         return;
     if (!m_state.currentInvoice() || !m_state.itemsController().selectedObject())
         return;
-    const int answer = m_state.ui().runAlert(
-        {tr("Delete Item"),
-         tr("Deleting items is permanent and cannot be undone. Do you really want to delete the selected item?"),
-         {tr("Delete"), tr("Cancel")},
-         UserInterface::AlertStyle::Warning,
-         true});
+    const int answer = m_state.ui().runAlert({tr("Delete Item"),
+                                              tr("Deleting items is permanent and cannot be undone. Do you "
+                                                 "really want to delete the selected item?"),
+                                              {tr("Delete"), tr("Cancel")},
+                                              UserInterface::AlertStyle::Warning,
+                                              true});
     itemDeleteWarningSheetDidEnd(answer == 0 ? 1 : 0);
 }
 

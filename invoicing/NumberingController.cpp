@@ -17,7 +17,9 @@ void replaceWhileFound(QString& text, const QString& placeholder, const QString&
 
 } // namespace
 
-NumberingController::NumberingController(AppState& state, QObject* parent) : QObject(parent), m_state(state) {}
+NumberingController::NumberingController(AppState& state, QObject* parent) : QObject(parent), m_state(state)
+{
+}
 
 QString NumberingController::expandPattern(const QString& pattern, qint64 count, const QDate& date)
 {
@@ -38,7 +40,8 @@ QString NumberingController::expand(const QString& patternKey, qint64 count) con
 
 QString NumberingController::invoiceNumberString() const
 {
-    const qint64 count = m_state.settings().intValue(key::invCount) + qint64(m_state.invoiceCountForNumber) + 1;
+    const qint64 count =
+        m_state.settings().intValue(key::invCount) + qint64(m_state.invoiceCountForNumber) + 1;
     return expand(key::invPattern, count);
 }
 

@@ -71,9 +71,8 @@ QVDragAndDropArrayController::Pasteboard QVDragAndDropArrayController::writeRows
     return pb;
 }
 
-QVDragAndDropArrayController::DropProposal QVDragAndDropArrayController::validateDrop(bool fromThisTable,
-                                                                                      bool optionHeld,
-                                                                                      int proposedRow) const
+QVDragAndDropArrayController::DropProposal
+QVDragAndDropArrayController::validateDrop(bool fromThisTable, bool optionHeld, int proposedRow) const
 {
     DropProposal proposal;
     proposal.row = std::max(proposedRow, 0);
@@ -84,8 +83,8 @@ QVDragAndDropArrayController::DropProposal QVDragAndDropArrayController::validat
     return proposal;
 }
 
-bool QVDragAndDropArrayController::acceptDrop(const Pasteboard& pasteboard, bool fromThisTable, bool optionHeld,
-                                              int row)
+bool QVDragAndDropArrayController::acceptDrop(const Pasteboard& pasteboard, bool fromThisTable,
+                                              bool optionHeld, int row)
 {
     if (mayDrop && !mayDrop())
         return false;

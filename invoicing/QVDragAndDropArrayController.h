@@ -27,19 +27,28 @@ public:
     static inline const QString urlType = QStringLiteral("public.url");
     static inline const QString stringType = QStringLiteral("public.utf8-plain-text");
 
-    enum Operation : unsigned { None = 0, Copy = 1, Link = 2, Move = 16 };
+    enum Operation : unsigned
+    {
+        None = 0,
+        Copy = 1,
+        Link = 2,
+        Move = 16
+    };
     // The operations offered to other applications: first Link is set, then
     // Copy plus Move, which is what stays in force.
     static constexpr unsigned draggingSourceOperationMaskForNonLocal = Copy | Move;
     // The types the table accepts, in order of registration.
-    static QStringList registeredDraggedTypes() { return {copiedRowsType, movedRowsType, urlType, stringType}; }
+    static QStringList registeredDraggedTypes()
+    {
+        return {copiedRowsType, movedRowsType, urlType, stringType};
+    }
     static constexpr bool allowsMultipleSelection = false;
 
     // What one drag carries.
     struct Pasteboard
     {
         QStringList types;
-        QByteArray movedRows;                  // the archived row indexes
+        QByteArray movedRows;                   // the archived row indexes
         std::optional<QVariantList> copiedRows; // rows as property lists (never written by this table)
         std::optional<QString> url;
         QString string;

@@ -10,8 +10,8 @@ void saveLoggingFailure(ObjectContext* context)
     if (!context)
         return;
     if (Status s = context->save(); !s)
-        qCWarning(lcInvoicing).noquote() << QStringLiteral("Unresolved error %1, %2").arg(s.error().message,
-                                                                                          s.error().reason);
+        qCWarning(lcInvoicing).noquote()
+            << QStringLiteral("Unresolved error %1, %2").arg(s.error().message, s.error().reason);
 }
 
 } // namespace vorn

@@ -12,8 +12,9 @@ QString SentLock::title()
 
 QString SentLock::message()
 {
-    return tr("The selected invoice is marked as already sent. If you really need to make changes, please set its "
-              "status back to 'Created' first. Then you will also be able to resend the modified invoice.");
+    return tr(
+        "The selected invoice is marked as already sent. If you really need to make changes, please set its "
+        "status back to 'Created' first. Then you will also be able to resend the modified invoice.");
 }
 
 bool SentLock::refuse(AppState& state)

@@ -63,7 +63,8 @@ struct Property
 
 bool isEncodingWord(const QByteArray& upper)
 {
-    return upper == "QUOTED-PRINTABLE" || upper == "BASE64" || upper == "B" || upper == "8BIT" || upper == "7BIT";
+    return upper == "QUOTED-PRINTABLE" || upper == "BASE64" || upper == "B" || upper == "8BIT" ||
+           upper == "7BIT";
 }
 
 // RFC 6868: ^n, ^^ and ^' inside parameter values.
@@ -301,7 +302,8 @@ std::optional<QString> Parser::text(const Property& p, QByteArray* unknownCharse
             encoding = param.values.first().toUpper();
         else if (param.name == "CHARSET" && !param.values.isEmpty())
             charset = param.values.first();
-        else if (param.name.isEmpty() && !param.values.isEmpty() && isEncodingWord(param.values.first().toUpper()))
+        else if (param.name.isEmpty() && !param.values.isEmpty() &&
+                 isEncodingWord(param.values.first().toUpper()))
             encoding = param.values.first().toUpper();
     }
     if (encoding == "QUOTED-PRINTABLE")
@@ -390,7 +392,8 @@ VCardReadResult Parser::run()
 
     if (m_card) {
         if (m_truncated) {
-            note(VCardReader::tr("the card beginning on line %1 was cut off by the size limit and was not read.")
+            note(VCardReader::tr(
+                     "the card beginning on line %1 was cut off by the size limit and was not read.")
                      .arg(m_card->firstLine));
             m_card.reset();
         } else {
@@ -457,7 +460,9 @@ void Parser::handleLine(const QByteArray& line, int lineNumber, bool overlong)
     if (m_nested > 0)
         return;
     if (!p) {
-        note(VCardReader::tr("card %1: line %2 is not a property and was skipped.").arg(m_cardCount).arg(lineNumber));
+        note(VCardReader::tr("card %1: line %2 is not a property and was skipped.")
+                 .arg(m_cardCount)
+                 .arg(lineNumber));
         return;
     }
     if (m_card->properties.size() >= VCardReader::maximumPropertiesPerCard) {
@@ -496,7 +501,8 @@ void Parser::finishCard()
     contact.sourceFile = m_source;
     contact.indexInFile = int(m_result.contacts.size());
     for (const Property& p : std::as_const(card.properties)) {
-        const bool wanted = p.name == "N" || p.name == "FN" || p.name == "ORG" || p.name == "ADR" || p.name == "EMAIL";
+        const bool wanted =
+            p.name == "N" || p.name == "FN" || p.name == "ORG" || p.name == "ADR" || p.name == "EMAIL";
         if (!wanted)
             continue;
         QByteArray charset;
@@ -595,8 +601,8 @@ VCardReadResult parseData(const QByteArray& raw, const QString& source, bool tru
 
 void collectFiles(const QString& folder, int depth, QStringList& files, bool& tooMany)
 {
-    const QFileInfoList entries =
-        QDir(folder).entryInfoList(QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable, QDir::Name);
+    const QFileInfoList entries = QDir(folder).entryInfoList(
+        QDir::Files | QDir::Dirs | QDir::NoDotAndDotDot | QDir::Readable, QDir::Name);
     for (const QFileInfo& info : entries) {
         if (files.size() >= VCardReader::maximumFiles) {
             tooMany = true;
@@ -658,7 +664,8 @@ VCardReadResult VCardReader::readPaths(const QStringList& paths)
             files << info.filePath();
     }
     if (tooMany)
-        result.notes << tr("More than %1 contact files were found; only the first %1 were read.").arg(maximumFiles);
+        result.notes
+            << tr("More than %1 contact files were found; only the first %1 were read.").arg(maximumFiles);
     for (const QString& file : std::as_const(files)) {
         VCardReadResult one = readFile(file);
         result.contacts += one.contacts;

@@ -56,7 +56,8 @@ protected:
     }
     void setting(const QString& key, const QString& value, const QString& type = QStringLiteral("string"))
     {
-        ASSERT_EQ(run({QStringLiteral("defaults"), QStringLiteral("write"), key, value, QStringLiteral("--type"), type})
+        ASSERT_EQ(run({QStringLiteral("defaults"), QStringLiteral("write"), key, value,
+                       QStringLiteral("--type"), type})
                       .code,
                   0);
     }
@@ -109,9 +110,10 @@ TEST_F(DocumentCommandsTest, TheSentLockRefusesWithTheAlertText)
     ok({"item", "add", id, "title=A", "baseAmount=10"});
     ok({"set", id, "status=1"});
 
-    const QString locked = QStringLiteral(
-        "The selected invoice is marked as already sent. If you really need to make changes, please set its status "
-        "back to 'Created' first. Then you will also be able to resend the modified invoice.");
+    const QString locked =
+        QStringLiteral("The selected invoice is marked as already sent. If you really need to make changes, "
+                       "please set its status "
+                       "back to 'Created' first. Then you will also be able to resend the modified invoice.");
     const QList<QStringList> refused = {
         {"shipping", id, "title=Post", "amount=5"},
         {"shipping", id, "--off"},
@@ -164,8 +166,9 @@ TEST_F(DocumentCommandsTest, ListFiltersAndTotals)
         double total, paid, due;
         int invoices, quotes, forNumber;
     };
-    const Case cases[] = {{"0", 3, 140, 100, 40, 2, 1, 2},  {"2", 1, 40, 0, 40, 1, 0, 1}, {"3", 1, 100, 100, 0, 1, 0, 1},
-                          {"4", 1, 0, 0, 0, 0, 1, 0},       {"1", 0, 0, 0, 0, 0, 0, 0},   {"5", 3, 140, 100, 40, 2, 1, 2},
+    const Case cases[] = {{"0", 3, 140, 100, 40, 2, 1, 2}, {"2", 1, 40, 0, 40, 1, 0, 1},
+                          {"3", 1, 100, 100, 0, 1, 0, 1},  {"4", 1, 0, 0, 0, 0, 1, 0},
+                          {"1", 0, 0, 0, 0, 0, 0, 0},      {"5", 3, 140, 100, 40, 2, 1, 2},
                           {"12", 0, 0, 0, 0, 0, 0, 0}};
     for (const Case& c : cases) {
         const QJsonObject list = ok({"list", "--filter", c.tag});
@@ -224,7 +227,8 @@ TEST_F(DocumentCommandsTest, AddressesFromTextContactsAndMemory)
 {
     setting("prefsAddressPattern", "%FIRSTNAME% %LASTNAME%\n%STREET%\n%ZIP% %CITY%");
     const QString id = ok({"new", "invoice"}).value("uniqueID").toString();
-    QJsonObject doc = ok({"address", id, "--text", "Ada\nLondon", "--email", "ada@x.org", "--client-number", "C-1"});
+    QJsonObject doc =
+        ok({"address", id, "--text", "Ada\nLondon", "--email", "ada@x.org", "--client-number", "C-1"});
     EXPECT_EQ(doc.value("address").toString(), "Ada\nLondon");
     EXPECT_EQ(doc.value("emailAddress").toString(), "ada@x.org");
     EXPECT_EQ(doc.value("clientNumber").toString(), "C-1");
@@ -233,7 +237,8 @@ TEST_F(DocumentCommandsTest, AddressesFromTextContactsAndMemory)
     QFile f(vcf);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("BEGIN:VCARD\r\nVERSION:3.0\r\nN:One;Only\r\nEND:VCARD\r\n"
-            "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=ISO-8859-1:M\xFCller;J\xFCrgen\r\nADR;HOME:;;Hauptstr. 5;Berlin;;"
+            "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=ISO-8859-1:M\xFCller;J\xFCrgen\r\nADR;HOME:;;Hauptstr. "
+            "5;Berlin;;"
             "10115;\r\nEMAIL;WORK:j@w.de\r\nEMAIL;HOME:j@h.de\r\nEND:VCARD\r\n");
     f.close();
     doc = ok({"address", id, "--contact", vcf, "--index", "1"});
@@ -285,7 +290,8 @@ TEST_F(DocumentCommandsTest, LifecycleCommandsAndNumbers)
     ok({"set", "RE-101", "status=3", "dispatchNumber=D-9"});
     const QJsonObject copy = ok({"duplicate", "RE-101"});
     EXPECT_NE(copy.value("uniqueID").toString(), invoice.value("uniqueID").toString());
-    for (const char* k : {"number", "status", "date", "due", "paid", "paidAmount", "dueAmount", "dispatchNumber"})
+    for (const char* k :
+         {"number", "status", "date", "due", "paid", "paidAmount", "dueAmount", "dispatchNumber"})
         EXPECT_FALSE(copy.contains(k)) << k;
     EXPECT_EQ(copy.value("title").toString(), "Invoice");
 

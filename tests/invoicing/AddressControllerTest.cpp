@@ -10,8 +10,8 @@ using namespace vorn::test;
 
 namespace {
 
-Contact contact(const char* first, const char* last, const char* company, const char* street, const char* city,
-                const char* zip, const char* state, const char* country)
+Contact contact(const char* first, const char* last, const char* company, const char* street,
+                const char* city, const char* zip, const char* state, const char* country)
 {
     Contact c;
     c.firstName = QString::fromUtf8(first);
@@ -43,9 +43,12 @@ const PatternCase patternCases[] = {
     {"noCompanyLeavesEmptyLine", contact("Bo", "Li", "", "Main St", "Austin", "78701", "TX", "USA"),
      "%FIRSTNAME% %LASTNAME%\n%COMPANY%\n%STREET%\n%CITY%, %STATE% %ZIP%\n%COUNTRY%",
      "Bo Li\n\nMain St\nAustin, TX 78701\nUSA"},
-    {"everyOccurrence", contact("Al", "", "", "", "", "", "", ""), "%FIRSTNAME%/%FIRSTNAME%%FIRSTNAME%", "Al/AlAl"},
-    {"lowercaseIsText", contact("Al", "Bo", "", "", "", "", "", ""), "%firstname% %LASTNAME%", "%firstname% Bo"},
-    {"valueSpellingALaterPlaceholder", contact("%LASTNAME%", "Bo", "", "", "", "", "", ""), "%FIRSTNAME%", "Bo"},
+    {"everyOccurrence", contact("Al", "", "", "", "", "", "", ""), "%FIRSTNAME%/%FIRSTNAME%%FIRSTNAME%",
+     "Al/AlAl"},
+    {"lowercaseIsText", contact("Al", "Bo", "", "", "", "", "", ""), "%firstname% %LASTNAME%",
+     "%firstname% Bo"},
+    {"valueSpellingALaterPlaceholder", contact("%LASTNAME%", "Bo", "", "", "", "", "", ""), "%FIRSTNAME%",
+     "Bo"},
     {"valueSpellingAnEarlierPlaceholder", contact("Al", "%FIRSTNAME%", "", "", "", "", "", ""), "%LASTNAME%",
      "%FIRSTNAME%"},
     {"noPlaceholders", contact("Al", "Bo", "", "", "", "", "", ""), "Fixed text", "Fixed text"},
@@ -78,7 +81,9 @@ const EmailCase emailCases[] = {
     {"oneUnlabelled", {{"u@x.org", {}}}, "u@x.org"},
     {"workAndHome", {{"w@x.org", {"work"}}, {"h@x.org", {"internet", "HOME"}}}, "h@x.org"},
     {"twoWork", {{"w1@x.org", {"work"}}, {"w2@x.org", {"work"}}}, ""},
-    {"twoHomeTakesTheLast", {{"h1@x.org", {"home"}}, {"w@x.org", {"work"}}, {"h2@x.org", {"home"}}}, "h2@x.org"},
+    {"twoHomeTakesTheLast",
+     {{"h1@x.org", {"home"}}, {"w@x.org", {"work"}}, {"h2@x.org", {"home"}}},
+     "h2@x.org"},
     {"preferredDoesNotCount", {{"p@x.org", {"work"}}, {"o@x.org", {"other"}}}, ""},
 };
 
@@ -175,13 +180,15 @@ TEST_F(AddressControllerTest, ContactsFromTheFolderThroughThePattern)
     home.mkpath(QStringLiteral(".local/share/contacts/personal"));
     QFile f(home.filePath(QStringLiteral(".local/share/contacts/personal/people.vcf")));
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("BEGIN:VCARD\r\nVERSION:3.0\r\nN:Zed;Zoe\r\nADR:;;;Zurich;;;\r\nEMAIL;TYPE=work:z@z.org\r\nEND:VCARD\r\n"
+    f.write("BEGIN:VCARD\r\nVERSION:3.0\r\nN:Zed;Zoe\r\nADR:;;;Zurich;;;\r\nEMAIL;TYPE=work:z@z.org\r\nEND:"
+            "VCARD\r\n"
             "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Abel;Ann\r\nADR:;;;Aachen;;;\r\nEMAIL;TYPE=work:a@w.org\r\n"
             "EMAIL;TYPE=home:a@h.org\r\nEND:VCARD\r\n"
             "BEGIN:VCARD\r\nN;CHARSET=NOPE:x;y\r\nEND:VCARD\r\n");
     f.close();
     settings.removeValue(key::prefsContactsFolders);
-    EXPECT_EQ(addresses().contactsFolders(), QStringList{home.filePath(QStringLiteral(".local/share/contacts"))});
+    EXPECT_EQ(addresses().contactsFolders(),
+              QStringList{home.filePath(QStringLiteral(".local/share/contacts"))});
 
     addresses().showAddressPopover();
     ASSERT_EQ(addresses().contacts().size(), 2);

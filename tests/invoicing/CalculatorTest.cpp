@@ -24,11 +24,13 @@ constexpr float kOld = 99.0f; // a stale tax amount that must survive when the t
 
 const LineCase lineCases[] = {
     {"simpleAndCompound", 10, 3, 0.1f, 0.05f, 0, true, true, false, true, false, 30, 3, 1.65f, kOld, 34.65f},
-    {"compoundWithoutTax1", 10, 3, 0.1f, 0.05f, 0, false, true, false, true, false, 30, kOld, 1.65f, kOld, 31.65f},
-    {"tax3OnBothEarlierRates", 100, 1, 0.1f, 0.1f, 0.1f, false, false, true, false, true, 100, kOld, kOld, 12.1f,
-     112.1f},
+    {"compoundWithoutTax1", 10, 3, 0.1f, 0.05f, 0, false, true, false, true, false, 30, kOld, 1.65f, kOld,
+     31.65f},
+    {"tax3OnBothEarlierRates", 100, 1, 0.1f, 0.1f, 0.1f, false, false, true, false, true, 100, kOld, kOld,
+     12.1f, 112.1f},
     {"plainTax3", 100, 1, 0.1f, 0.1f, 0.1f, false, false, true, false, false, 100, kOld, kOld, 10, 110},
-    {"plainTax2IgnoresTax1", 200, 0.5f, 0.19f, 0.07f, 0, true, true, false, false, false, 100, 19, 7, kOld, 126},
+    {"plainTax2IgnoresTax1", 200, 0.5f, 0.19f, 0.07f, 0, true, true, false, false, false, 100, 19, 7, kOld,
+     126},
     {"noTaxes", 12.5f, 4, 0.19f, 0.07f, 0.02f, false, false, false, true, true, 50, kOld, kOld, kOld, 50},
     {"negativeCredit", -20, 2, 0.2f, 0, 0, true, false, false, false, false, -40, -8, kOld, kOld, -48},
     {"zeroQuantity", 99.99f, 0, 0.19f, 0.1f, 0.1f, true, true, true, true, true, 0, 0, 0, 0, 0},
@@ -87,21 +89,26 @@ struct DocumentCase
 };
 
 const DocumentCase documentCases[] = {
-    {"shippingTax2CompoundByPreference", true, 10, false, true, false, 0.2f, 0.1f, 0, true, false, false, 0, 0, 0, 0,
-     1.2f, 0, 111.2f},
-    {"shippingTax2Plain", true, 10, false, true, false, 0.2f, 0.1f, 0, false, false, false, 0, 0, 0, 0, 1, 0, 111},
-    {"shippingAllTaxesCompound", true, 100, true, true, true, 0.1f, 0.1f, 0.1f, true, true, false, 0, 0, 0, 10, 11,
-     12.1f, 233.1f},
-    {"shippingOffIgnoresEverything", false, 10, true, true, true, 0.2f, 0.1f, 0.1f, true, true, false, 0, 0, 0, 0, 0,
-     0, 100},
-    {"shippingUntaxed", true, 7.5f, false, false, false, 0.2f, 0.1f, 0.1f, true, true, false, 0, 0, 0, 0, 0, 0,
-     107.5f},
-    {"rateDiscountOnGross", true, 100, false, false, false, 0, 0, 0, false, false, true, 1, 0.1f, 0, 0, 0, 0, 180},
-    {"fixedDiscountBelowZero", true, 100, false, false, false, 0, 0, 0, false, false, true, 0, 0.5f, 250, 0, 0, 0,
-     -50},
-    {"anyNonZeroKindIsRate", false, 0, false, false, false, 0, 0, 0, false, false, true, 7, 0.25f, 1, 0, 0, 0, 75},
-    {"discountOffIgnored", false, 0, false, false, false, 0, 0, 0, false, false, false, 1, 0.5f, 30, 0, 0, 0, 100},
-    {"discountKeepsTaxes", true, 100, true, false, false, 0.2f, 0, 0, false, false, true, 1, 0.5f, 0, 20, 0, 0, 110},
+    {"shippingTax2CompoundByPreference", true, 10, false, true, false, 0.2f, 0.1f, 0, true, false, false, 0,
+     0, 0, 0, 1.2f, 0, 111.2f},
+    {"shippingTax2Plain", true, 10, false, true, false, 0.2f, 0.1f, 0, false, false, false, 0, 0, 0, 0, 1, 0,
+     111},
+    {"shippingAllTaxesCompound", true, 100, true, true, true, 0.1f, 0.1f, 0.1f, true, true, false, 0, 0, 0,
+     10, 11, 12.1f, 233.1f},
+    {"shippingOffIgnoresEverything", false, 10, true, true, true, 0.2f, 0.1f, 0.1f, true, true, false, 0, 0,
+     0, 0, 0, 0, 100},
+    {"shippingUntaxed", true, 7.5f, false, false, false, 0.2f, 0.1f, 0.1f, true, true, false, 0, 0, 0, 0, 0,
+     0, 107.5f},
+    {"rateDiscountOnGross", true, 100, false, false, false, 0, 0, 0, false, false, true, 1, 0.1f, 0, 0, 0, 0,
+     180},
+    {"fixedDiscountBelowZero", true, 100, false, false, false, 0, 0, 0, false, false, true, 0, 0.5f, 250, 0,
+     0, 0, -50},
+    {"anyNonZeroKindIsRate", false, 0, false, false, false, 0, 0, 0, false, false, true, 7, 0.25f, 1, 0, 0, 0,
+     75},
+    {"discountOffIgnored", false, 0, false, false, false, 0, 0, 0, false, false, false, 1, 0.5f, 30, 0, 0, 0,
+     100},
+    {"discountKeepsTaxes", true, 100, true, false, false, 0.2f, 0, 0, false, false, true, 1, 0.5f, 0, 20, 0,
+     0, 110},
 };
 
 class DocumentArithmetic : public InvoicingFixture, public ::testing::WithParamInterface<DocumentCase>
@@ -507,7 +514,8 @@ TEST_F(CalculatorTest, RandomDocumentsAgreeBitForBitWithStepByStepEvaluation)
         for (size_t i = 0; i < ref.lines.size(); ++i) {
             const RefLine& l = ref.lines[i];
             const ManagedObject& it = *stored[qsizetype(i)];
-            ASSERT_TRUE(sameBits("net", l.net, it.floatValue(key::subAmount))) << "document " << n << " line " << i;
+            ASSERT_TRUE(sameBits("net", l.net, it.floatValue(key::subAmount)))
+                << "document " << n << " line " << i;
             ASSERT_TRUE(sameBits("tax1", l.tax[0], it.floatValue(key::tax1Amount))) << n << "/" << i;
             ASSERT_TRUE(sameBits("tax2", l.tax[1], it.floatValue(key::tax2Amount))) << n << "/" << i;
             ASSERT_TRUE(sameBits("tax3", l.tax[2], it.floatValue(key::tax3Amount))) << n << "/" << i;

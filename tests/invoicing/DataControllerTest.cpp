@@ -70,23 +70,27 @@ TEST_P(NewDocuments, DefaultsFromSettings)
     // Terms are days on the local calendar (this one crosses the start of summer time).
     EXPECT_EQ(doc->dateValue(key::due), c.dueDays < 0 ? now : now.toLocalTime().addDays(c.dueDays).toUTC());
     EXPECT_EQ(doc->stringValue(key::title), c.quote ? QStringLiteral("Quote") : QStringLiteral("Invoice"));
-    EXPECT_EQ(doc->stringValue(key::conditions), c.quote ? QStringLiteral("Valid a while") : QStringLiteral("Pay soon"));
-    EXPECT_EQ(doc->stringValue(key::footer), c.quote ? QStringLiteral("Hope to hear") : QStringLiteral("Thanks"));
+    EXPECT_EQ(doc->stringValue(key::conditions),
+              c.quote ? QStringLiteral("Valid a while") : QStringLiteral("Pay soon"));
+    EXPECT_EQ(doc->stringValue(key::footer),
+              c.quote ? QStringLiteral("Hope to hear") : QStringLiteral("Thanks"));
     EXPECT_EQ(doc->stringValue(key::currency), QStringLiteral("€"));
     for (const QString& k : {key::date, key::paid, key::sent, key::dispatched, key::misc5})
         EXPECT_EQ(doc->dateValue(k), now) << k.toStdString();
-    for (const QString& k : {key::address, key::subject, key::discountSubtitle, key::discountTitle,
-                             key::shippingSubtitle, key::shippingTitle, key::clientNumber, key::dispatchNumber,
-                             key::notes, key::misc1}) {
+    for (const QString& k :
+         {key::address, key::subject, key::discountSubtitle, key::discountTitle, key::shippingSubtitle,
+          key::shippingTitle, key::clientNumber, key::dispatchNumber, key::notes, key::misc1}) {
         EXPECT_TRUE(doc->hasValue(k)) << k.toStdString();
         EXPECT_EQ(doc->stringValue(k), QString()) << k.toStdString();
     }
-    for (const QString& k : {key::status, key::discountKind, key::tax1Kind, key::tax2Kind, key::tax3Kind, key::misc2}) {
+    for (const QString& k :
+         {key::status, key::discountKind, key::tax1Kind, key::tax2Kind, key::tax3Kind, key::misc2}) {
         EXPECT_TRUE(doc->hasValue(k)) << k.toStdString();
         EXPECT_EQ(doc->intValue(k), 0) << k.toStdString();
     }
-    for (const QString& k : {key::amount, key::subAmount, key::paidAmount, key::dueAmount, key::shippingAmount,
-                             key::discountAmount, key::tax1Amount, key::tax2Amount, key::tax3Amount, key::misc3}) {
+    for (const QString& k :
+         {key::amount, key::subAmount, key::paidAmount, key::dueAmount, key::shippingAmount,
+          key::discountAmount, key::tax1Amount, key::tax2Amount, key::tax3Amount, key::misc3}) {
         EXPECT_TRUE(doc->hasValue(k)) << k.toStdString();
         EXPECT_EQ(doc->floatValue(k), 0.0f) << k.toStdString();
     }
@@ -159,7 +163,8 @@ TEST_F(DataControllerTest, ConvertingAnInvoiceIsRefused)
     data().convertQuoteToInvoice();
     ASSERT_EQ(ui.calls(QStringLiteral("alert")).size(), 1);
     EXPECT_EQ(ui.calls(QStringLiteral("alert"))[0].title, QStringLiteral("Sorry!"));
-    EXPECT_EQ(ui.calls(QStringLiteral("alert"))[0].text, QStringLiteral("You can't convert an invoice into a quote."));
+    EXPECT_EQ(ui.calls(QStringLiteral("alert"))[0].text,
+              QStringLiteral("You can't convert an invoice into a quote."));
     EXPECT_EQ(doc->stringValue(key::number), QStringLiteral("X"));
 }
 
@@ -269,9 +274,10 @@ TEST_P(Deleting, AsksOrRefuses)
     EXPECT_FALSE(keep->isDeleted());
     EXPECT_FALSE(context.hasChanges()); // deleted and saved, or nothing changed
     if (std::string(c.alert) == "Error!") {
-        EXPECT_EQ(ui.calls(QStringLiteral("alert"))[0].text,
-                  QStringLiteral("The selected invoice is marked as already sent. If you really need to delete it, "
-                                 "please set its status back to 'Created' first."));
+        EXPECT_EQ(
+            ui.calls(QStringLiteral("alert"))[0].text,
+            QStringLiteral("The selected invoice is marked as already sent. If you really need to delete it, "
+                           "please set its status back to 'Created' first."));
     }
 }
 
@@ -337,8 +343,9 @@ TEST_F(DataControllerTest, DuplicateOfAPaidInvoiceStartsFresh)
     ASSERT_NE(copy, nullptr);
     ASSERT_NE(copy, doc);
 
-    for (const QString& k : {key::number, key::dispatchNumber, key::status, key::isDispatched, key::date, key::due,
-                             key::paid, key::sent, key::dispatched, key::paidAmount, key::dueAmount})
+    for (const QString& k :
+         {key::number, key::dispatchNumber, key::status, key::isDispatched, key::date, key::due, key::paid,
+          key::sent, key::dispatched, key::paidAmount, key::dueAmount})
         EXPECT_FALSE(copy->hasValue(k)) << k.toStdString();
     EXPECT_FALSE(copy->stringValue(key::uniqueID).isEmpty());
     EXPECT_NE(copy->stringValue(key::uniqueID), doc->stringValue(key::uniqueID));

@@ -16,7 +16,7 @@ struct CountCase
 };
 
 const CountCase countCases[] = {
-    {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1}, {{0, 4}, 1, 3, 0}, {{0, 4}, 4, 1, 1},
+    {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1},    {{0, 4}, 1, 3, 0},    {{0, 4}, 4, 1, 1},
     {{3}, 0, 3, 0},    {{}, 0, 10, 0},    {{0, 1, 2}, 0, 0, 0}, {{5, 6, 9}, 6, 4, 2},
 };
 
@@ -154,8 +154,9 @@ TEST_F(DragAndDropTest, OptionDropWithinTheTableFindsNothingToCopy)
 TEST_F(DragAndDropTest, CopiedRowsAndUrlsInsertNewLines)
 {
     DnD::Pasteboard rows;
-    rows.copiedRows = QVariantList{QVariantMap{{key::title, QStringLiteral("x")}, {key::baseAmount, 2.0}},
-                                   QVariantMap{{key::title, QStringLiteral("y")}, {QStringLiteral("bogus"), 1}}};
+    rows.copiedRows =
+        QVariantList{QVariantMap{{key::title, QStringLiteral("x")}, {key::baseAmount, 2.0}},
+                     QVariantMap{{key::title, QStringLiteral("y")}, {QStringLiteral("bogus"), 1}}};
     EXPECT_TRUE(dnd().acceptDrop(rows, false, false, 1));
     EXPECT_EQ(order(), QStringLiteral("0xy1234"));
     EXPECT_EQ(state.itemsController().selectionIndexes(), (QList<int>{1, 2}));

@@ -54,9 +54,9 @@ const FilterCase filterCases[] = {
     {2, {"overdue"}},
     {3, {"paid"}},
     {4, {"quote"}},
-    {5, {"created", "quote"}},                                  // 12 hours back
-    {6, {"created", "overdue", "quote", "sent"}},               // 3.5 days
-    {7, {"created", "overdue", "paid", "partly", "quote", "sent"}}, // 15.5 days
+    {5, {"created", "quote"}},                                             // 12 hours back
+    {6, {"created", "overdue", "quote", "sent"}},                          // 3.5 days
+    {7, {"created", "overdue", "paid", "partly", "quote", "sent"}},        // 15.5 days
     {8, {"created", "old", "overdue", "paid", "partly", "quote", "sent"}}, // 182.5 days
     {9, {"ancient", "future", "old", "sent"}},
     {1000, {"ancient", "future", "old", "sent"}},
@@ -176,7 +176,8 @@ TEST_F(WindowTest, SelectionChangesRelabelTheToolbarShortlyAfter)
     select(quote);
     QElapsedTimer timer;
     timer.start();
-    while (controllers->gui().deleteToolbarLabel() != QStringLiteral("Delete Quote") && timer.elapsed() < 2000)
+    while (controllers->gui().deleteToolbarLabel() != QStringLiteral("Delete Quote") &&
+           timer.elapsed() < 2000)
         QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
     EXPECT_EQ(controllers->gui().deleteToolbarLabel(), QStringLiteral("Delete Quote"));
     EXPECT_GE(timer.elapsed(), 25);
@@ -184,8 +185,8 @@ TEST_F(WindowTest, SelectionChangesRelabelTheToolbarShortlyAfter)
 
 TEST_F(WindowTest, TabsFollowTheToolbarTags)
 {
-    const std::pair<qint64, const char*> tags[] = {{0, "addressItem"}, {1, "itemsItem"}, {2, "infoItem"},
-                                                   {7, "addressItem"}, {-1, "addressItem"}};
+    const std::pair<qint64, const char*> tags[] = {
+        {0, "addressItem"}, {1, "itemsItem"}, {2, "infoItem"}, {7, "addressItem"}, {-1, "addressItem"}};
     for (const auto& [tag, item] : tags) {
         ui.clear();
         controllers->gui().selectMainTabIndex(tag);

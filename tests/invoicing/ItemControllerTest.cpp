@@ -19,9 +19,10 @@ struct TextCase
 };
 
 const TextCase textCases[] = {
-    {"12.5", 12.5f}, {"12.5 kg", 12.5f}, {"1,5", 1.0f},   {"", 0.0f},     {"abc", 0.0f},   {"  -3", -3.0f},
-    {".5", 0.5f},    {"5.", 5.0f},       {"1e3", 1000.0f}, {"1e", 1.0f},   {"2E-1x", 0.2f}, {"+2", 2.0f},
-    {"--2", 0.0f},   {"-", 0.0f},        {"0x10", 0.0f},   {"19.99", 19.99f}, {"\t7\n", 7.0f}, {"€5", 0.0f},
+    {"12.5", 12.5f},   {"12.5 kg", 12.5f}, {"1,5", 1.0f}, {"", 0.0f},       {"abc", 0.0f},
+    {"  -3", -3.0f},   {".5", 0.5f},       {"5.", 5.0f},  {"1e3", 1000.0f}, {"1e", 1.0f},
+    {"2E-1x", 0.2f},   {"+2", 2.0f},       {"--2", 0.0f}, {"-", 0.0f},      {"0x10", 0.0f},
+    {"19.99", 19.99f}, {"\t7\n", 7.0f},    {"€5", 0.0f},
 };
 
 class TextValues : public ::testing::TestWithParam<TextCase>
@@ -69,7 +70,8 @@ protected:
     }
     ItemController& items() { return controllers->items(); }
 
-    ManagedObject* add(const QString& title, const QString& price, const QString& sku = {}, float quantity = 1)
+    ManagedObject* add(const QString& title, const QString& price, const QString& sku = {},
+                       float quantity = 1)
     {
         items().showItemPopover();
         auto& p = items().popover();

@@ -69,7 +69,8 @@ TEST_F(NumberingTest, CountsComeFromTheListedDocuments)
     EXPECT_EQ(settings.intValue(key::invCount), 100);
 
     // A filter that hides every invoice leaves only the offset.
-    state.invoicesController().setFilterPredicate([](const ManagedObject& o) { return o.intValue(key::kind) == 0; });
+    state.invoicesController().setFilterPredicate(
+        [](const ManagedObject& o) { return o.intValue(key::kind) == 0; });
     calculator().calculateDatabase();
     EXPECT_EQ(n.invoiceNumberString(), QStringLiteral("RE-2025-101"));
 }

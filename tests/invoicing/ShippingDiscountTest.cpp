@@ -33,7 +33,8 @@ protected:
     {
         QStringList list;
         for (const ManagedObject* r : state.recentShippingArrayController().arrangedObjects())
-            list << r->stringValue(key::title) + QLatin1Char('/') + QString::number(r->floatValue(key::amount));
+            list << r->stringValue(key::title) + QLatin1Char('/') +
+                        QString::number(r->floatValue(key::amount));
         return list;
     }
 
@@ -127,8 +128,8 @@ TEST_F(ShippingDiscountTest, AcceptingRecalculatesAndRemembersEachChargeOnce)
     acceptShipping(QStringLiteral("Express"), 10);
     acceptShipping(QStringLiteral("Express"), 12.5f);
     acceptShipping(QStringLiteral("Post"), 10);
-    EXPECT_EQ(remembered(),
-              (QStringList{QStringLiteral("Express/10"), QStringLiteral("Express/12.5"), QStringLiteral("Post/10")}));
+    EXPECT_EQ(remembered(), (QStringList{QStringLiteral("Express/10"), QStringLiteral("Express/12.5"),
+                                         QStringLiteral("Post/10")}));
 
     const ManagedObject* first = state.recentShippingArrayController().arrangedObjects().first();
     EXPECT_EQ(first->stringValue(key::note), QStringLiteral("by courier"));

@@ -22,11 +22,14 @@ QString summary(const Contact& c)
     const ContactAddress& p = a ? *a : none;
     QStringList emails;
     for (const ContactEmail& e : c.emails)
-        emails << e.address + (e.types.isEmpty() ? QString() : QLatin1Char('(') + e.types.join(QLatin1Char(',')) + QLatin1Char(')'));
+        emails << e.address + (e.types.isEmpty()
+                                   ? QString()
+                                   : QLatin1Char('(') + e.types.join(QLatin1Char(',')) + QLatin1Char(')'));
     QString street = p.street;
     street.replace(QLatin1Char('\n'), QLatin1String("\\n"));
-    return QStringList{c.firstName, c.lastName, c.organization, street,      p.city,
-                       p.postalCode, p.region,  p.country,      emails.join(QLatin1Char(' '))}
+    return QStringList{c.firstName, c.lastName, c.organization,
+                       street,      p.city,     p.postalCode,
+                       p.region,    p.country,  emails.join(QLatin1Char(' '))}
         .join(QLatin1Char('|'));
 }
 
@@ -43,13 +46,15 @@ const QByteArray crlf = "\r\n";
 const CardCase cardCases[] = {
     {"v3FoldedAndEscaped",
      "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Doe;Jane;;;\r\nFN:Jane Doe\r\nORG:Acme\\, Inc.;Sales\r\n"
-     "ADR;TYPE=WORK:;;1 Main St\\nSuite 5;Spring\r\n field;IL;62701;USA\r\nEMAIL;TYPE=INTERNET,WORK:jane@acme.com\r\n"
+     "ADR;TYPE=WORK:;;1 Main St\\nSuite 5;Spring\r\n "
+     "field;IL;62701;USA\r\nEMAIL;TYPE=INTERNET,WORK:jane@acme.com\r\n"
      "END:VCARD\r\n",
      {"Jane|Doe|Acme, Inc.|1 Main St\\nSuite 5|Springfield|62701|IL|USA|jane@acme.com(internet,work)"},
      0},
     {"v21QuotedPrintableLatin1",
      "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=ISO-8859-1;ENCODING=QUOTED-PRINTABLE:M=FCller;J=FCrgen\r\n"
-     "ADR;HOME;PREF;ENCODING=QUOTED-PRINTABLE;CHARSET=ISO-8859-1:;;Hauptstra=DFe 1=0D=0A=\r\nHinterhaus;Berlin;;10115;"
+     "ADR;HOME;PREF;ENCODING=QUOTED-PRINTABLE;CHARSET=ISO-8859-1:;;Hauptstra=DFe "
+     "1=0D=0A=\r\nHinterhaus;Berlin;;10115;"
      "Germany\r\nEMAIL;HOME;INTERNET:j@m.de\r\nEND:VCARD\r\n",
      {"Jürgen|Müller||Hauptstraße 1\\nHinterhaus|Berlin|10115||Germany|j@m.de(home,internet)"},
      0},
@@ -57,58 +62,79 @@ const CardCase cardCases[] = {
      "BEGIN:VCARD\nVERSION:2.1\nN;QUOTED-PRINTABLE;CHARSET=UTF-8:=C3=85ngstr=C3=B6m;=C3=85sa\nEND:VCARD\n",
      {"Åsa|Ångström|||||||"},
      0},
-    {"v21FoldingKeepsTheSpace", "BEGIN:VCARD\r\nVERSION:2.1\r\nN:Doe;Jane\r\nORG:Big\r\n Company\r\nEND:VCARD\r\n",
-     {"Jane|Doe|Big Company||||||"}, 0},
-    {"v3FoldingDropsOneSpace", "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Doe;Jane\r\nORG:Big\r\n Company\r\nEND:VCARD\r\n",
-     {"Jane|Doe|BigCompany||||||"}, 0},
+    {"v21FoldingKeepsTheSpace",
+     "BEGIN:VCARD\r\nVERSION:2.1\r\nN:Doe;Jane\r\nORG:Big\r\n Company\r\nEND:VCARD\r\n",
+     {"Jane|Doe|Big Company||||||"},
+     0},
+    {"v3FoldingDropsOneSpace",
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Doe;Jane\r\nORG:Big\r\n Company\r\nEND:VCARD\r\n",
+     {"Jane|Doe|BigCompany||||||"},
+     0},
     {"v4PrefParameterPicksPrimary",
      "BEGIN:VCARD\r\nVERSION:4.0\r\nN:Roe;Rick;;;\r\nADR;TYPE=\"home,work\";PREF=2:;;Second St;B;;2;\r\n"
      "ADR;TYPE=work:;;Other St;C;;3;\r\nADR;PREF=1;LABEL=\"x:y\":;;First St;A;;1;\r\nEND:VCARD\r\n",
      {"Rick|Roe||First St|A|1|||"},
      0},
     {"v3PrefTypeInList",
-     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Poe;Pia\r\nADR;TYPE=home:;;Home St;H;;1;\r\nADR;TYPE=work,pref:;;Work St;W;;2;\r\n"
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Poe;Pia\r\nADR;TYPE=home:;;Home St;H;;1;\r\nADR;TYPE=work,pref:;;Work "
+     "St;W;;2;\r\n"
      "END:VCARD\r\n",
      {"Pia|Poe||Work St|W|2|||"},
      0},
     {"v3RepeatedTypeParameters",
-     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Poe;Pia\r\nADR;type=home:;;Home St;H;;1;\r\nADR;type=WORK;type=PREF:;;Work St;W;;2;\r\n"
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Poe;Pia\r\nADR;type=home:;;Home "
+     "St;H;;1;\r\nADR;type=WORK;type=PREF:;;Work St;W;;2;\r\n"
      "END:VCARD\r\n",
      {"Pia|Poe||Work St|W|2|||"},
      0},
     {"noPreferenceTakesTheFirst",
-     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Poe;Pia\r\nADR:;;One;;;;\r\nADR:;;Two;;;;\r\nEND:VCARD\r\n", {"Pia|Poe||One|||||"}, 0},
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Poe;Pia\r\nADR:;;One;;;;\r\nADR:;;Two;;;;\r\nEND:VCARD\r\n",
+     {"Pia|Poe||One|||||"},
+     0},
     {"extendedAddressAndPoBox",
      "BEGIN:VCARD\r\nVERSION:3.0\r\nN:X;Y\r\nADR:PO Box 7;Apt 4;12 Elm;Town;;9;\r\nEND:VCARD\r\n",
      {"Y|X||12 Elm|Town|9|||"},
      0},
     {"appleGroupLabels",
-     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Lee;Ann;;;\r\nitem1.EMAIL;type=INTERNET:a@x.org\r\nitem1.X-ABLabel:_$!<Home>!$_\r\n"
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Lee;Ann;;;\r\nitem1.EMAIL;type=INTERNET:a@x.org\r\nitem1.X-ABLabel:_$!<"
+     "Home>!$_\r\n"
      "item2.EMAIL;type=INTERNET:b@x.org\r\nitem2.X-ABLabel:Club\r\nEND:VCARD\r\n",
      {"Ann|Lee|||||||a@x.org(internet,home) b@x.org(internet,club)"},
      0},
     {"unknownCharsetSkipsOnlyThatCard",
-     "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=X-NO-SUCH-SET:A;B\r\nEND:VCARD\r\nBEGIN:VCARD\r\nVERSION:2.1\r\nN:C;D\r\n"
+     "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=X-NO-SUCH-SET:A;B\r\nEND:VCARD\r\nBEGIN:VCARD\r\nVERSION:2."
+     "1\r\nN:C;D\r\n"
      "END:VCARD\r\n",
      {"D|C|||||||"},
      1},
-    {"windows1252Charset", "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=windows-1252:Caf\xE9;\x80uro\r\nEND:VCARD\r\n",
-     {"€uro|Café|||||||"}, 0},
-    {"koi8Charset", "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=KOI8-R:\xE9\xD7\xC1\xCE\xCF\xD7;\xE9\xD7\xC1\xCE\r\nEND:VCARD\r\n",
-     {"Иван|Иванов|||||||"}, 0},
-    {"unlabelled8BitFallsBackToLatin1", "BEGIN:VCARD\r\nVERSION:2.1\r\nN:M\xFCller;Hans\r\nEND:VCARD\r\n",
-     {"Hans|Müller|||||||"}, 0},
-    {"missingEndAtTheEnd", "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Open;Olga\r\nEMAIL:o@o.org\r\n",
-     {"Olga|Open|||||||o@o.org"}, 1},
+    {"windows1252Charset",
+     "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=windows-1252:Caf\xE9;\x80uro\r\nEND:VCARD\r\n",
+     {"€uro|Café|||||||"},
+     0},
+    {"koi8Charset",
+     "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=KOI8-R:\xE9\xD7\xC1\xCE\xCF\xD7;\xE9\xD7\xC1\xCE\r\nEND:"
+     "VCARD\r\n",
+     {"Иван|Иванов|||||||"},
+     0},
+    {"unlabelled8BitFallsBackToLatin1",
+     "BEGIN:VCARD\r\nVERSION:2.1\r\nN:M\xFCller;Hans\r\nEND:VCARD\r\n",
+     {"Hans|Müller|||||||"},
+     0},
+    {"missingEndAtTheEnd",
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Open;Olga\r\nEMAIL:o@o.org\r\n",
+     {"Olga|Open|||||||o@o.org"},
+     1},
     {"missingEndBeforeTheNextCard",
      "BEGIN:VCARD\r\nVERSION:3.0\r\nN:One;A\r\nBEGIN:VCARD\r\nVERSION:3.0\r\nN:Two;B\r\nEND:VCARD\r\n",
      {"A|One|||||||", "B|Two|||||||"},
      1},
     {"brokenLineInsideACard",
-     "BEGIN:VCARD\r\nVERSION:3.0\r\nthis line has no colon\r\nN:Ok;Kay\r\n:novalue\r\nEND:VCARD\r\n", {"Kay|Ok|||||||"},
+     "BEGIN:VCARD\r\nVERSION:3.0\r\nthis line has no colon\r\nN:Ok;Kay\r\n:novalue\r\nEND:VCARD\r\n",
+     {"Kay|Ok|||||||"},
      2},
     {"agentCardIsNotAContact",
-     "BEGIN:VCARD\r\nVERSION:2.1\r\nN:Boss;Bea\r\nAGENT:\r\nBEGIN:VCARD\r\nVERSION:2.1\r\nN:Helper;Hal\r\nEND:VCARD\r\n"
+     "BEGIN:VCARD\r\nVERSION:2.1\r\nN:Boss;Bea\r\nAGENT:\r\nBEGIN:VCARD\r\nVERSION:2.1\r\nN:Helper;"
+     "Hal\r\nEND:VCARD\r\n"
      "EMAIL:bea@b.org\r\nEND:VCARD\r\n",
      {"Bea|Boss|||||||bea@b.org"},
      0},
@@ -118,11 +144,14 @@ const CardCase cardCases[] = {
      {"P|Q|A=ZZB=4||||||"},
      0},
     {"rfc6868CaretsAndBackslashes",
-     "BEGIN:VCARD\r\nVERSION:4.0\r\nN:Back\\\\slash;Semi\\;colon\r\nEMAIL;TYPE=\"ho^'me\":c@c.org\r\nEND:VCARD\r\n",
+     "BEGIN:VCARD\r\nVERSION:4.0\r\nN:Back\\\\slash;Semi\\;colon\r\nEMAIL;TYPE=\"ho^'me\":c@c.org\r\nEND:"
+     "VCARD\r\n",
      {"Semi;colon|Back\\slash|||||||c@c.org(ho\"me)"},
      0},
-    {"strayTextAndEndOutsideCards", "hello\r\nEND:VCARD\r\nBEGIN:VCARD\r\nN:In;Side\r\nEND:VCARD\r\n",
-     {"Side|In|||||||"}, 1},
+    {"strayTextAndEndOutsideCards",
+     "hello\r\nEND:VCARD\r\nBEGIN:VCARD\r\nN:In;Side\r\nEND:VCARD\r\n",
+     {"Side|In|||||||"},
+     1},
     {"notAVCardAtAll", "just some text\nwith lines\n", {}, 2},
     {"empty", "", {}, 0},
 };
@@ -158,7 +187,9 @@ TEST(VCardReader, Utf16WithByteOrderMark)
         EXPECT_EQ(result.contacts[0].lastName, QStringLiteral("Zoë"));
         EXPECT_EQ(result.contacts[0].firstName, QStringLiteral("Chloé"));
     }
-    const VCardReadResult bom = VCardReader::parse("\xEF\xBB\xBF" "BEGIN:VCARD\nN:B;O\nEND:VCARD\n", QStringLiteral("x"));
+    const VCardReadResult bom = VCardReader::parse("\xEF\xBB\xBF"
+                                                   "BEGIN:VCARD\nN:B;O\nEND:VCARD\n",
+                                                   QStringLiteral("x"));
     ASSERT_EQ(bom.contacts.size(), 1);
     EXPECT_EQ(bom.contacts[0].lastName, QStringLiteral("B"));
 }
@@ -194,8 +225,8 @@ TEST(VCardReader, OverlongLinesAndTooManyPropertiesAreCutWithNotes)
 
 TEST(VCardReader, HugeInputKeepsTheCompleteCardsBeforeTheLimit)
 {
-    const QByteArray card = "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Many;Max\r\nNOTE:" + QByteArray(4000, 'n') +
-                            "\r\nEND:VCARD\r\n";
+    const QByteArray card =
+        "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Many;Max\r\nNOTE:" + QByteArray(4000, 'n') + "\r\nEND:VCARD\r\n";
     QByteArray data;
     data.reserve(VCardReader::maximumFileSize + 2 * card.size());
     while (data.size() <= VCardReader::maximumFileSize + card.size())
@@ -216,7 +247,8 @@ TEST(VCardReader, FoldersAreReadRecursivelyAndUnreadableFilesNoted)
         f.write(data);
     };
     write(QStringLiteral("contacts/a.vcf"), "BEGIN:VCARD\nN:A;A\nEND:VCARD\n");
-    write(QStringLiteral("contacts/work/b.VCF"), "BEGIN:VCARD\nN:B;B\nEND:VCARD\nBEGIN:VCARD\nN:C;C\nEND:VCARD\n");
+    write(QStringLiteral("contacts/work/b.VCF"),
+          "BEGIN:VCARD\nN:B;B\nEND:VCARD\nBEGIN:VCARD\nN:C;C\nEND:VCARD\n");
     write(QStringLiteral("contacts/work/deeper/d.vcard"), "BEGIN:VCARD\nN:D;D\nEND:VCARD\n");
     write(QStringLiteral("contacts/notes.txt"), "BEGIN:VCARD\nN:X;X\nEND:VCARD\n");
     write(QStringLiteral("contacts/locked.vcf"), "BEGIN:VCARD\nN:L;L\nEND:VCARD\n");
@@ -229,7 +261,8 @@ TEST(VCardReader, FoldersAreReadRecursivelyAndUnreadableFilesNoted)
         names << c.lastName + QString::number(c.indexInFile);
     names.sort();
     const bool root = QFile(home.filePath(QStringLiteral("contacts/locked.vcf"))).open(QIODevice::ReadOnly);
-    EXPECT_EQ(names, root ? QStringList({"A0", "B0", "C1", "D0", "L0"}) : QStringList({"A0", "B0", "C1", "D0"}));
+    EXPECT_EQ(names,
+              root ? QStringList({"A0", "B0", "C1", "D0", "L0"}) : QStringList({"A0", "B0", "C1", "D0"}));
     EXPECT_EQ(result.notes.size(), root ? 1 : 2) << result.notes.join(QLatin1Char('\n')).toStdString();
 }
 
@@ -243,10 +276,12 @@ TEST(VCardReader, MutatedInputNeverBreaksTheReader)
 {
     const QByteArray seed =
         "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=ISO-8859-1;ENCODING=QUOTED-PRINTABLE:M=FCller;J=FCrgen\r\n"
-        "ADR;HOME;PREF;ENCODING=QUOTED-PRINTABLE:;;Hauptstra=DFe 1=0D=0A=\r\nHinterhaus;Berlin;;10115;Germany\r\n"
+        "ADR;HOME;PREF;ENCODING=QUOTED-PRINTABLE:;;Hauptstra=DFe "
+        "1=0D=0A=\r\nHinterhaus;Berlin;;10115;Germany\r\n"
         "AGENT:\r\nBEGIN:VCARD\r\nN:A;B\r\nEND:VCARD\r\nEND:VCARD\r\n"
         "BEGIN:VCARD\r\nVERSION:4.0\r\nN:Roe;Rick;;;\r\nADR;TYPE=\"home,work\";PREF=2:;;Second St;B;;2;\r\n"
-        "item1.EMAIL;type=INTERNET:a@x.org\r\nitem1.X-ABLabel:_$!<Home>!$_\r\nORG:Big\r\n Company\\;x\r\nEND:VCARD\r\n";
+        "item1.EMAIL;type=INTERNET:a@x.org\r\nitem1.X-ABLabel:_$!<Home>!$_\r\nORG:Big\r\n "
+        "Company\\;x\r\nEND:VCARD\r\n";
     const char alphabet[] = "=:;,\\\r\n \"^BEGINVCARDEND\x80\xFF\x00";
     std::mt19937 rng(7);
     for (int round = 0; round < 3000; ++round) {

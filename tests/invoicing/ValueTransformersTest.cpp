@@ -37,7 +37,8 @@ TEST_P(Stamps, PerKindAndStatus)
 {
     const StampCase& c = GetParam();
     ManagedObject* doc = c.kind < 0 ? nullptr : document(c.kind, c.status);
-    const QList<ManagedObject*> selection = doc ? QList<ManagedObject*>{doc, document(1, 3)} : QList<ManagedObject*>{};
+    const QList<ManagedObject*> selection =
+        doc ? QList<ManagedObject*>{doc, document(1, 3)} : QList<ManagedObject*>{};
     EXPECT_EQ(ValueTransformers::entityToImage(selection), QString::fromUtf8(c.large));
     EXPECT_EQ(ValueTransformers::entityToImageTable(doc), QString::fromUtf8(c.small));
     EXPECT_EQ(ValueTransformers::invoiceSentToBool(doc), c.editable);
@@ -48,7 +49,7 @@ INSTANTIATE_TEST_SUITE_P(Transformers, Stamps, ::testing::ValuesIn(stampCases));
 TEST(StatusFlags, DateAndAmountFields)
 {
     const std::tuple<qint64, bool, bool> cases[] = {{0, true, true},  {1, true, true},   {2, true, true},
-                                                   {3, false, true}, {4, false, false}, {9, false, false}};
+                                                    {3, false, true}, {4, false, false}, {9, false, false}};
     for (const auto& [status, date, amount] : cases) {
         EXPECT_EQ(ValueTransformers::intToDateBool(status), date) << status;
         EXPECT_EQ(ValueTransformers::intToAmountBool(status), amount) << status;
