@@ -1,5 +1,7 @@
 #include "store/ArrayController.h"
 
+#include "store/ListCompare.h"
+
 #include <algorithm>
 #include <limits>
 #include <numeric>
@@ -182,7 +184,7 @@ void ArrayController::arrange(const QList<ManagedObject*>& keepSelected)
             selection.append(i);
     }
     std::sort(selection.begin(), selection.end());
-    const bool selectionMoved = selection != m_selection || keepSelected.size() != selection.size();
+    const bool selectionMoved = !sameList(selection, m_selection) || keepSelected.size() != selection.size();
     m_selection = selection;
     fixSelection();
     Q_EMIT arrangedObjectsChanged();
@@ -201,7 +203,7 @@ void ArrayController::setSelectionIndexes(QList<int> indexes)
     std::sort(indexes.begin(), indexes.end());
     indexes.erase(std::unique(indexes.begin(), indexes.end()), indexes.end());
     indexes.removeIf([this](int i) { return i < 0 || i >= m_arranged.size(); });
-    if (indexes == m_selection)
+    if (sameList(indexes, m_selection))
         return;
     m_selection = indexes;
     fixSelection();
@@ -260,7 +262,7 @@ void ArrayController::insertObject(ManagedObject* object, int arrangedIndex)
         for (ManagedObject* o : selected)
             m_selection.append(int(m_arranged.indexOf(o)));
         Q_EMIT arrangedObjectsChanged();
-        if (m_selection != before)
+        if (!sameList(m_selection, before))
             Q_EMIT selectionChanged();
     }
 }

@@ -1,6 +1,7 @@
 #include "store/ObjectContext.h"
 
 #include "store/Clock.h"
+#include "store/ListCompare.h"
 #include "store/StoreLog.h"
 
 #include <algorithm>
@@ -146,7 +147,7 @@ void ObjectContext::changeValue(ManagedObject* object, int index, QVariant value
 void ObjectContext::changeList(ManagedObject* object, int ri, const QList<ManagedObject*>& list)
 {
     QList<ManagedObject*>& current = object->m_lists[size_t(ri)];
-    if (current == list)
+    if (sameList(current, list))
         return;
     const QList<ManagedObject*> old = current;
     if (object->m_state != ManagedObject::State::Inserted && !object->m_originalLists)
