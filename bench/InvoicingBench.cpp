@@ -7,6 +7,7 @@
 // Targets: 5 ms, 20 ms, 1 ms, 10 ms. The generated store is kept between runs
 // (VORN_BENCH_CACHE names the folder).
 
+#include "bench/BenchSupport.h"
 #include "app/AppDelegate.h"
 #include "invoicing/InvoicingControllers.h"
 #include "invoicing/Keys.h"
@@ -36,38 +37,10 @@ constexpr int documentCount = 20000;
 constexpr int itemCount = 100000;
 constexpr int bigDocumentItems = 1000;
 
-class QuietUserInterface : public UserInterface
-{
-public:
-    int runAlert(const Alert&) override { return 0; }
-    std::optional<QString> runOpenPanel(const FilePanel&) override { return std::nullopt; }
-    std::optional<QString> runSavePanel(const FilePanel&) override { return std::nullopt; }
-    bool presentError(const Error& error) override
-    {
-        std::fprintf(stderr, "error: %s\n", qPrintable(error.fullText()));
-        return false;
-    }
-    void beep() override {}
-    void centerMainWindow() override {}
-    void selectToolbarItem(const QString&) override {}
-    void focus(const QString&) override {}
-    void showPreferencesWindow() override {}
-    bool openUrl(const QUrl&) override { return false; }
-    bool openApplication(const QString&) override { return false; }
-};
-
 QString cacheDirectory()
 {
     const QString configured = qEnvironmentVariable("VORN_BENCH_CACHE");
     return (configured.isEmpty() ? QDir::tempPath() : configured) + QStringLiteral("/vorn-invoicing-bench");
-}
-
-void useHome(const QString& home)
-{
-    qputenv("HOME", QFile::encodeName(home));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home + QStringLiteral("/data")));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home + QStringLiteral("/config")));
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(home + QStringLiteral("/cache")));
 }
 
 // Documents of both kinds and every status over six years, with items taxed

@@ -6,6 +6,7 @@
 //   (c) the resident memory after loading.
 // The generated store is kept between runs (see cacheDirectory()).
 
+#include "bench/BenchSupport.h"
 #include "app/AppDelegate.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
@@ -34,27 +35,6 @@ namespace {
 constexpr int documentCount = 20000;
 constexpr int itemCount = 100000;
 constexpr int generationVersion = 2;
-
-// Answers nothing and shows nothing: the bench only loads and saves.
-class QuietUserInterface : public UserInterface
-{
-public:
-    int runAlert(const Alert&) override { return 0; }
-    std::optional<QString> runOpenPanel(const FilePanel&) override { return std::nullopt; }
-    std::optional<QString> runSavePanel(const FilePanel&) override { return std::nullopt; }
-    bool presentError(const Error& error) override
-    {
-        std::fprintf(stderr, "error: %s\n", qPrintable(error.fullText()));
-        return false;
-    }
-    void beep() override {}
-    void centerMainWindow() override {}
-    void selectToolbarItem(const QString&) override {}
-    void focus(const QString&) override {}
-    void showPreferencesWindow() override {}
-    bool openUrl(const QUrl&) override { return false; }
-    bool openApplication(const QString&) override { return false; }
-};
 
 qint64 monotonicNs()
 {
@@ -89,14 +69,6 @@ QString cacheDirectory()
 }
 
 // A home folder laid out as the application expects it.
-void useHome(const QString& home)
-{
-    qputenv("HOME", QFile::encodeName(home));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(home + QStringLiteral("/data")));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(home + QStringLiteral("/config")));
-    qputenv("XDG_CACHE_HOME", QFile::encodeName(home + QStringLiteral("/cache")));
-}
-
 const char* const itemTitles[] = {
     "Web design",  "Consulting",   "Logo draft",   "Hosting (monthly)", "Copy editing",
     "Photography", "Travel costs", "Workshop day", "Server migration",  "Support (per hour)"};
