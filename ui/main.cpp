@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/InstanceLock.h"
+#include "services/ZRUpdateChecker.h"
 #include "store/Clock.h"
 #include "store/FileLocations.h"
 #include "store/Settings.h"
@@ -10,6 +11,7 @@
 
 #include <QCommandLineParser>
 #include <QMessageBox>
+#include <QTimer>
 
 using namespace vorn;
 
@@ -65,6 +67,11 @@ int main(int argc, char** argv)
     window.show();
     app.fadeViewIn();
     settings.setAutoSynchronize(true);
+
+    // The update check belongs to the window's start, once it is on screen;
+    // its question and results come through the same dialogs as the rest.
+    ZRUpdateChecker updateChecker(settings, ui, Clock::system());
+    QTimer::singleShot(0, &updateChecker, [&updateChecker] { updateChecker.awakeFromNib(); });
 
     // Dropped or double-clicked files are never opened directly: the
     // application explains how to import them.
