@@ -13,8 +13,12 @@
 #include <QDir>
 #include <QEventLoop>
 #include <QFileInfo>
+#include <QMutex>
 #include <QSet>
 #include <QThread>
+#include <QThreadPool>
+
+#include <functional>
 
 namespace vorn {
 
@@ -162,10 +166,7 @@ int pdfAll(CommandContext& c, QStringList args)
 
     const QString company = state.settings().stringValue(QStringLiteral("prefsName"));
     QSet<QString> used;
-    QStringList written;
-    QString failure;
-    int pending = 0;
-    QEventLoop loop;
+    QStringList paths;
     for (ManagedObject* document : std::as_const(documents)) {
         const QString title = QStringLiteral("%1 | %2 | %3")
                                   .arg(company, document->stringValue(QStringLiteral("title")),
@@ -174,21 +175,51 @@ int pdfAll(CommandContext& c, QStringList args)
         for (int n = 2; used.contains(name.toLower()); ++n)
             name = fileNameFor(title) + QStringLiteral(" (%1)").arg(n);
         used.insert(name.toLower());
-        const QString path = QDir(folder).filePath(name + QStringLiteral(".pdf"));
-        ++pending;
-        renderer.render(preview.renderJob(preview.documentHTMLString(*document, preview.displayedItems(*document))),
-                        [&, path](Result<QByteArray> pdf) {
-                            Status s = pdf ? AtomicFile::write(path, pdf.value()) : Status(pdf.error());
-                            if (s)
-                                written << path;
-                            else if (failure.isEmpty())
-                                failure = s.error().fullText();
-                            if (--pending == 0)
-                                loop.quit();
-                        });
+        paths << QDir(folder).filePath(name + QStringLiteral(".pdf"));
     }
+
+    // Every page of the renderer is kept busy: the next document's HTML is
+    // made when a page frees up, and the files are written on worker threads
+    // so the pages are never kept waiting for the disk.
+    QMutex mutex;
+    QStringList written;
+    QString failure;
+    auto record = [&](const QString& path, const Status& s) {
+        QMutexLocker lock(&mutex);
+        if (s)
+            written << path;
+        else if (failure.isEmpty())
+            failure = s.error().fullText();
+    };
+    QThreadPool writers;
+    qsizetype next = 0;
+    int pending = 0;
+    QEventLoop loop;
+    std::function<void()> feed = [&] {
+        while (next < documents.size() && pending < renderer.parallelPages()) {
+            ManagedObject* document = documents[next];
+            const QString path = paths[next++];
+            ++pending;
+            renderer.render(preview.renderJob(preview.documentHTMLString(*document, preview.displayedItems(*document))),
+                            [&, path](Result<QByteArray> pdf) {
+                                --pending;
+                                if (pdf) {
+                                    writers.start([&record, path, data = std::move(pdf.value())] {
+                                        record(path, AtomicFile::write(path, data));
+                                    });
+                                } else {
+                                    record(path, pdf.error());
+                                }
+                                feed();
+                                if (pending == 0 && next >= documents.size())
+                                    loop.quit();
+                            });
+        }
+    };
+    feed();
     if (pending > 0)
         loop.exec();
+    writers.waitForDone();
     written.sort();
     for (const QString& path : std::as_const(written))
         c.out += path + QLatin1Char('\n');

@@ -103,6 +103,8 @@ const QString securityPolicy = QStringLiteral(
     "style-src 'unsafe-inline' data:; font-src data:; object-src 'none'; frame-src 'none'; media-src 'none'; "
     "script-src 'none'; form-action 'none'; base-uri 'none'\">");
 
+const QString printOnly = QStringLiteral("<style>@media screen { html { display: none } }</style>");
+
 Error renderError(const QString& reason)
 {
     return Error::make(ErrorCode::FileWriteUnknown, QCoreApplication::translate("PdfRenderer", "The PDF could not be made."),
@@ -167,13 +169,20 @@ QPageLayout PdfRenderer::pageLayout(qint64 paperSize)
 QString PdfRenderer::withSecurityPolicy(const QString& html)
 {
     // After a doctype, so that the document keeps its standards mode; the
-    // parser files the element into the head either way.
+    // parser files the elements into the head either way.
     static const QRegularExpression doctype(QStringLiteral("^\\s*(<!--.*?-->\\s*)*<!doctype[^>]*>"),
                                             QRegularExpression::CaseInsensitiveOption |
                                                 QRegularExpression::DotMatchesEverythingOption);
     const QRegularExpressionMatch match = doctype.match(html);
     const qsizetype at = match.hasMatch() ? match.capturedEnd() : 0;
-    return html.left(at) + securityPolicy + html.mid(at);
+    // The page is laid out for print in any case; a layout for the screen
+    // first is wasted work. A document whose styles load fonts or images
+    // keeps it, since those load only for what is laid out and must have
+    // arrived before printing begins.
+    const bool loadsFromStyles = html.contains(QLatin1String("url("), Qt::CaseInsensitive) ||
+                                 html.contains(QLatin1String("@font-face"), Qt::CaseInsensitive) ||
+                                 html.contains(QLatin1String("@import"), Qt::CaseInsensitive);
+    return html.left(at) + securityPolicy + (loadsFromStyles ? QString() : printOnly) + html.mid(at);
 }
 
 namespace {
@@ -388,6 +397,7 @@ void PdfRenderer::loadFinished(Slot& slot, bool ok)
         [self, s, job](const QByteArray& pdf) {
             if (!self || !s->busy || s->job != job)
                 return;
+            qCDebug(lcOutput) << "Printed, job" << job << pdf.size() << "bytes";
             if (pdf.isEmpty())
                 self->finish(*s, renderError(tr("The layout engine did not print the document.")));
             else

@@ -68,8 +68,9 @@ public:
     // file rather than handed over in memory, which has a size limit.
     static constexpr qsizetype inlineHtmlLimit = 1500 * 1000;
 
-    // The document with a security policy that refuses every load but
-    // local and inline images, inline styles and inline fonts.
+    // The document as it is printed: with a security policy that refuses
+    // every load but local and inline images, inline styles and inline
+    // fonts, and, when its styles load nothing, kept from a screen layout.
     static QString withSecurityPolicy(const QString& html);
 
     // Whether rendering can work in this process (it needs a GUI application

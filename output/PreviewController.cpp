@@ -2,7 +2,6 @@
 
 #include "output/OutputLog.h"
 #include "store/AppState.h"
-#include "store/AtomicFile.h"
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
@@ -24,6 +23,30 @@ QString messagePage(const QString& title, const QString& text)
                           "p{font-size:11pt;line-height:1.5}</style></head>"
                           "<body><h1>%1</h1><p>%2</p></body></html>\n")
         .arg(title.toHtmlEscaped(), text.toHtmlEscaped());
+}
+
+// The preview PDF is a scratch file: written whole under another name and
+// renamed into place, so a reader never sees half a file, but not forced to
+// disk, which would only add to the wait.
+Status writeScratch(const QString& path, const QByteArray& data)
+{
+    const QString part = path + QStringLiteral(".part");
+    QFile file(part);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(data) != data.size()) {
+        const QString reason = file.errorString();
+        file.close();
+        QFile::remove(part);
+        return Error::make(ErrorCode::FileWriteUnknown,
+                           PreviewController::tr("The PDF “%1” could not be written.").arg(path), reason);
+    }
+    file.close();
+    QFile::remove(path);
+    if (!QFile::rename(part, path)) {
+        QFile::remove(part);
+        return Error::make(ErrorCode::FileWriteUnknown,
+                           PreviewController::tr("The PDF “%1” could not be written.").arg(path));
+    }
+    return {};
 }
 
 } // namespace
@@ -173,7 +196,7 @@ bool PreviewController::createPDF(const Result<QByteArray>& pdf)
     QDir().mkpath(QFileInfo(path).absolutePath());
     if (QFile::exists(path))
         QFile::remove(path);
-    Status written = pdf ? AtomicFile::write(path, pdf.value()) : Status(pdf.error());
+    Status written = pdf ? writeScratch(path, pdf.value()) : Status(pdf.error());
     setGenerating(false);
     if (!written) {
         qCWarning(lcOutput) << "The preview PDF failed:" << written.error().fullText();

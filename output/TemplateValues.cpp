@@ -8,6 +8,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QImage>
 
@@ -313,18 +314,33 @@ QString Logo::element(const Settings& settings, const QString& logoPath)
     const QByteArray data = settings.dataValue(QStringLiteral("prefsLogo"));
     if (data.isEmpty())
         return notice();
-    const QImage image = QImage::fromData(data);
-    if (image.isNull()) {
+    // Decoding and encoding is done once per logo, not once per document.
+    static QByteArray lastData;
+    static QByteArray lastPng;
+    if (data != lastData) {
+        const QImage image = QImage::fromData(data);
+        lastData = data;
+        lastPng.clear();
+        if (!image.isNull()) {
+            QBuffer buffer(&lastPng);
+            buffer.open(QIODevice::WriteOnly);
+            image.save(&buffer, "PNG");
+        }
+    }
+    if (lastPng.isEmpty()) {
         qCWarning(lcOutput) << "The logo image of the preferences cannot be read; the page shows the notice instead";
         return notice();
     }
-    QByteArray png;
-    QBuffer buffer(&png);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, "PNG");
-    QDir().mkpath(QFileInfo(logoPath).absolutePath());
-    if (Status s = AtomicFile::write(logoPath, png); !s)
-        qCWarning(lcOutput) << "The logo could not be written:" << s.error().fullText();
+    // The file always holds the current logo; one that already does is left alone.
+    QFile existing(logoPath);
+    const bool current = existing.size() == lastPng.size() && existing.open(QIODevice::ReadOnly) &&
+                         existing.readAll() == lastPng;
+    existing.close();
+    if (!current) {
+        QDir().mkpath(QFileInfo(logoPath).absolutePath());
+        if (Status s = AtomicFile::write(logoPath, lastPng); !s)
+            qCWarning(lcOutput) << "The logo could not be written:" << s.error().fullText();
+    }
     return QStringLiteral("<img src=\"file://%1\" alt=\"logo\">").arg(logoPath);
 }
 

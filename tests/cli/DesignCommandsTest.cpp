@@ -14,7 +14,7 @@ namespace {
 
 const QString dataDir = QStringLiteral(VORN_TEST_DATA_DIR);
 const QStringList builtInTitles{"Classic",    "Modern", "Minimal",        "Elegant",   "Compact",
-                                "Letterhead", "Bold",   "Detailed Taxes", "Monochrome"};
+                                "Letterhead", "Bold",   "Detailed Taxes", "Playful"};
 
 struct CliRun
 {

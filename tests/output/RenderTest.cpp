@@ -153,28 +153,6 @@ TEST_F(Rendering, NothingOfADocumentReachesTheNetwork)
     EXPECT_FALSE(pdf.allText().contains(QStringLiteral("SCRIPT-RAN")));
 }
 
-TEST(SecurityPolicy, GoesIntoTheHeadWithoutLeavingStandardsMode)
-{
-    const QString meta = PdfRenderer::withSecurityPolicy(QString()).trimmed();
-    ASSERT_TRUE(meta.startsWith(QStringLiteral("<meta http-equiv=\"Content-Security-Policy\"")));
-    struct Case
-    {
-        const char* html;
-        const char* expected; // "@" stands for the policy element
-    } cases[] = {
-        {"<!DOCTYPE html><html><head>", "<!DOCTYPE html>@<html><head>"},
-        {"  <!doctype HTML>\n<html>", "  <!doctype HTML>@\n<html>"},
-        {"<!-- Vorn --><!DOCTYPE html><p>", "<!-- Vorn --><!DOCTYPE html>@<p>"},
-        {"<html><p>x</p>", "@<html><p>x</p>"},
-        {"<p>no doctype here <!DOCTYPE html></p>", "@<p>no doctype here <!DOCTYPE html></p>"},
-    };
-    for (const Case& c : cases) {
-        QString expected = QString::fromUtf8(c.expected);
-        expected.replace(QLatin1Char('@'), meta);
-        EXPECT_EQ(PdfRenderer::withSecurityPolicy(QString::fromUtf8(c.html)), expected) << c.html;
-    }
-}
-
 int countPixels(const QImage& image, QRgb colour)
 {
     int n = 0;
@@ -184,6 +162,50 @@ int countPixels(const QImage& image, QRgb colour)
                   qAbs(qGreen(image.pixel(x, y)) - qGreen(colour)) < 30 &&
                   qAbs(qBlue(image.pixel(x, y)) - qBlue(colour)) < 30);
     return n;
+}
+
+TEST(SecurityPolicy, GoesIntoTheHeadWithoutLeavingStandardsMode)
+{
+    // What goes in front of a page that loads nothing from its styles, and
+    // the policy alone, for one that does.
+    const QString both = PdfRenderer::withSecurityPolicy(QString());
+    const QString policy = PdfRenderer::withSecurityPolicy(QStringLiteral("url(")).chopped(4);
+    ASSERT_TRUE(policy.startsWith(QStringLiteral("<meta http-equiv=\"Content-Security-Policy\"")));
+    ASSERT_TRUE(both.startsWith(policy) && both.size() > policy.size());
+    struct Case
+    {
+        const char* html;
+        const char* expected; // "^" stands for what is put in
+        bool loadsFromStyles;
+    } cases[] = {
+        {"<!DOCTYPE html><html><head>", "<!DOCTYPE html>^<html><head>", false},
+        {"  <!doctype HTML>\n<html>", "  <!doctype HTML>^\n<html>", false},
+        {"<!-- Vorn --><!DOCTYPE html><p>", "<!-- Vorn --><!DOCTYPE html>^<p>", false},
+        {"<html><p>x</p>", "^<html><p>x</p>", false},
+        {"<p>no doctype here <!DOCTYPE html></p>", "^<p>no doctype here <!DOCTYPE html></p>", false},
+        {"<style>body{background:URL(data:x)}</style>", "^<style>body{background:URL(data:x)}</style>", true},
+        {"<style>@font-face{}</style>", "^<style>@font-face{}</style>", true},
+    };
+    for (const Case& c : cases) {
+        QString expected = QString::fromUtf8(c.expected);
+        expected.replace(QLatin1Char('^'), c.loadsFromStyles ? policy : both);
+        EXPECT_EQ(PdfRenderer::withSecurityPolicy(QString::fromUtf8(c.html)), expected) << c.html;
+    }
+}
+
+TEST_F(Rendering, ImagesOfStylesArePrinted)
+{
+    // A page whose style sheet brings an image: it must be there in the PDF.
+    QImage square(4, 4, QImage::Format_RGB32);
+    square.fill(QColor(30, 160, 60));
+    QByteArray png;
+    QBuffer buffer(&png);
+    buffer.open(QIODevice::WriteOnly);
+    square.save(&buffer, "PNG");
+    PdfInspector pdf(render(QStringLiteral("<html><head><style>div{width:200px;height:200px;background:url("
+                                           "data:image/png;base64,%1)}</style></head><body><div></div></body></html>")
+                                .arg(QString::fromLatin1(png.toBase64()))));
+    EXPECT_GT(countPixels(pdf.image(0), qRgb(30, 160, 60)), 1000);
 }
 
 TEST_F(Rendering, OnlyTheLogoFileLoads)

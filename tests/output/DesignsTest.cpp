@@ -1,0 +1,332 @@
+#include "store/PropertyList.h"
+#include "tests/output/OutputFixture.h"
+#include "tests/output/PdfSupport.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QRegularExpression>
+
+#include <functional>
+
+// The nine built-in designs, each filled with documents of every shape and
+// printed on A4 and US Letter: no token is left over, every row is printed
+// once, item headers repeat on every page with rows, and the totals stand on
+// the page of the last rows. With VORN_DESIGN_GALLERY set to a folder the
+// PDFs are kept there to be looked at.
+namespace vorn::test {
+namespace {
+
+QString readText(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
+}
+
+struct Design
+{
+    QString folder;
+    QString title;
+    QString page;
+    QString item;
+    QString css;
+};
+
+Design builtIn(int n)
+{
+    const QString folder = QStringLiteral(VORN_DESIGNS_DIR "/Temp00%1").arg(n);
+    return {folder, readText(folder + QStringLiteral("/title.txt")).trimmed(),
+            readText(folder + QStringLiteral("/invoice.html")), readText(folder + QStringLiteral("/item.html")),
+            readText(folder + QStringLiteral("/style.css"))};
+}
+
+struct Variant
+{
+    const char* name;
+    int kind = 1;
+    int items = 3;
+    bool reminder = false;
+    bool allTaxes = false;
+    bool noTaxes = false;
+    bool shipping = false;
+    int discountKind = -1; // -1 none, 0 fixed, 1 percent
+    bool subtitles = false;
+    bool logo = false;
+    bool longTexts = false;
+    bool skus = false;
+};
+
+const Variant variants[] = {
+    {"short"},
+    {"full", 1, 6, false, true, false, true, 0, true, true, false, true},
+    {"long", 1, 45, false, false, false, true, 1, false, true},
+    {"quote", 0, 4, false, false, true, false, -1, false, true},
+    {"reminder", 1, 2, true},
+    {"empty", 1, 0, false, false, false, true, 0},
+    {"texts", 1, 5, false, false, false, true, 0, true, false, true, true},
+};
+
+class Designs : public OutputFixture
+{
+public:
+    Designs()
+    {
+        auto english = PropertyList::read(readText(QStringLiteral(VORN_DEFAULTS_DIR "/defaultPrefsEnglish.plist")).toUtf8());
+        if (english.ok())
+            settings.setValuesForKeys(english.value().toMap());
+        settings.setValue(QStringLiteral("prefsName"), QStringLiteral("Tandrelo Studio"));
+        settings.setValue(QStringLiteral("prefsSlogan"), QStringLiteral("Brand, type and print design"));
+        settings.setValue(QStringLiteral("prefsContact"),
+                          QStringLiteral("Mara Lindqvist\n12 Harbour Road\nPortsmouth PO1 3AX\n+44 23 9200 1234\n"
+                                         "hello@tandrelo.example"));
+        settings.setValue(QStringLiteral("prefsLetterbox"),
+                          QStringLiteral("Tandrelo Studio · 12 Harbour Road · Portsmouth PO1 3AX"));
+        settings.setValue(QStringLiteral("prefsCurrency"), QStringLiteral("$"));
+        settings.setValue(QStringLiteral("tax2Title"), QStringLiteral("County Tax"));
+        settings.setValue(QStringLiteral("tax3Title"), QStringLiteral("Levy"));
+    }
+
+    void use(const Design& design)
+    {
+        for (ManagedObject* d : context.fetch(Entity::Design))
+            d->setValue(QStringLiteral("isDefault"), false);
+        addDesign(design.page, design.item, design.css);
+    }
+
+    ManagedObject* make(const Variant& v)
+    {
+        settings.setValue(QStringLiteral("tax1Enabled"), !v.noTaxes);
+        settings.setValue(QStringLiteral("tax2Enabled"), v.allTaxes);
+        settings.setValue(QStringLiteral("tax3Enabled"), v.allTaxes);
+        settings.setValue(QStringLiteral("tempUseSKU"), v.skus);
+        settings.setValue(QStringLiteral("prefsLogo"), v.logo ? logoData() : QByteArray());
+        const QString longText = QStringLiteral("Redesign of the visual identity, including research, three directions, "
+                                                "two rounds of revisions and the final artwork in every format");
+        ManagedObject* d = addDocument(
+            v.kind, {{QStringLiteral("title"), v.kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
+                     {QStringLiteral("number"), v.kind ? QStringLiteral("INV-2025-0042") : QStringLiteral("Q-2025-0017")},
+                     {QStringLiteral("currency"), QStringLiteral("$")},
+                     {QStringLiteral("address"), v.longTexts ? QStringLiteral("Department of Visual Communication and "
+                                                                              "Brand Strategy\nHolloway, Erin\nQuarry & "
+                                                                              "Sons International Ltd.\n7 Quarry Lane, "
+                                                                              "Suite 400\nFernwood CA 93024\nUnited States")
+                                                             : QStringLiteral("Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry "
+                                                                              "Lane\nFernwood CA 93024")},
+                     {QStringLiteral("clientNumber"), QStringLiteral("C-1047")},
+                     {QStringLiteral("dispatchNumber"), v.shipping ? QStringLiteral("UPS 1Z 999 AA1") : QString()},
+                     {QStringLiteral("subject"), v.longTexts ? longText : QStringLiteral("Spring campaign")},
+                     {QStringLiteral("conditions"), settings.stringValue(QStringLiteral("tempInvConditions"))},
+                     {QStringLiteral("footer"), QStringLiteral("Harbour Bank · IBAN GB00 HARB 1234 5678 9012 34 · "
+                                                               "BIC HARBGB2L\nThank you for your business!")}});
+        float sub = 0;
+        float tax[3] = {0, 0, 0};
+        for (int i = 1; i <= v.items; ++i) {
+            const float count = float(i % 4 + 1);
+            const float price = 45.0f + float(i * 7 % 90);
+            const float net = count * price;
+            sub += net;
+            QVariantMap item{{QStringLiteral("title"), QStringLiteral("Item-%1 %2").arg(i, 2, 10, QLatin1Char('0'))
+                                                          .arg(v.longTexts && i == 2 ? longText : QStringLiteral("Design work"))},
+                             {QStringLiteral("unitCount"), count},
+                             {QStringLiteral("unit"), QStringLiteral("h")},
+                             {QStringLiteral("baseAmount"), price},
+                             {QStringLiteral("subAmount"), net},
+                             {QStringLiteral("sku"), QStringLiteral("DW-%1").arg(100 + i)}};
+            if (v.subtitles || v.longTexts)
+                item.insert(QStringLiteral("subtitle"), QStringLiteral("Concepts and layout, %1 pages").arg(i + 2));
+            float amount = net;
+            const float rates[3] = {0.07f, 0.02f, 0.01f};
+            for (int t = 0; t < 3; ++t) {
+                const bool applied = t == 0 ? !v.noTaxes : v.allTaxes;
+                const QString n = QString::number(t + 1);
+                item.insert(QStringLiteral("isTax%1Applied").arg(n), applied);
+                item.insert(QStringLiteral("tax%1Title").arg(n), settings.stringValue(QStringLiteral("tax%1Title").arg(n)));
+                item.insert(QStringLiteral("tax%1Percent").arg(n), rates[t]);
+                if (applied) {
+                    item.insert(QStringLiteral("tax%1Amount").arg(n), net * rates[t]);
+                    tax[t] += net * rates[t];
+                    amount += net * rates[t];
+                }
+            }
+            item.insert(QStringLiteral("amount"), amount);
+            addItem(d, item);
+        }
+        float total = sub + tax[0] + tax[1] + tax[2];
+        QVariantMap values{{QStringLiteral("subAmount"), sub},
+                           {QStringLiteral("tax1Amount"), tax[0]},
+                           {QStringLiteral("tax2Amount"), tax[1]},
+                           {QStringLiteral("tax3Amount"), tax[2]},
+                           {QStringLiteral("tax1Percent"), 0.07f},
+                           {QStringLiteral("tax2Percent"), 0.02f},
+                           {QStringLiteral("tax3Percent"), 0.01f},
+                           {QStringLiteral("isShippingEnabled"), v.shipping},
+                           {QStringLiteral("isDiscountEnabled"), v.discountKind >= 0}};
+        if (v.shipping) {
+            values.insert(QStringLiteral("shippingTitle"), QStringLiteral("Courier"));
+            values.insert(QStringLiteral("shippingAmount"), 18.5f);
+            values.insert(QStringLiteral("hasShippingSubtitle"), v.subtitles);
+            values.insert(QStringLiteral("shippingSubtitle"), QStringLiteral("Printed proofs, next day"));
+            total += 18.5f;
+        }
+        if (v.discountKind >= 0) {
+            values.insert(QStringLiteral("discountKind"), v.discountKind);
+            values.insert(QStringLiteral("discountAmount"), 50.0f);
+            values.insert(QStringLiteral("discountPercent"), 0.1f);
+            values.insert(QStringLiteral("hasDiscountSubtitle"), v.subtitles);
+            values.insert(QStringLiteral("discountTitle"), QStringLiteral("Loyalty discount"));
+            values.insert(QStringLiteral("discountSubtitle"), QStringLiteral("Thank you for five years"));
+            total = v.discountKind ? total - total * 0.1f : total - 50.0f;
+        }
+        values.insert(QStringLiteral("amount"), total);
+        setValues(d, values);
+        select(d);
+        state.isReminderAction = v.reminder;
+        if (v.reminder)
+            preview.setReminderTexts(preview.defaultReminderTexts());
+        return d;
+    }
+
+    static QByteArray logoData()
+    {
+        // A simple mark: a dark square with a coloured bar.
+        QImage image(240, 120, QImage::Format_ARGB32);
+        image.fill(Qt::transparent);
+        for (int y = 10; y < 110; ++y)
+            for (int x = 10; x < 110; ++x)
+                image.setPixel(x, y, qRgb(40, 44, 52));
+        for (int y = 70; y < 90; ++y)
+            for (int x = 120; x < 230; ++x)
+                image.setPixel(x, y, qRgb(220, 90, 60));
+        QByteArray data;
+        QBuffer buffer(&data);
+        buffer.open(QIODevice::WriteOnly);
+        image.save(&buffer, "PNG");
+        return data;
+    }
+
+    // Renders the pages in parallel; the results in the order of the pages.
+    QList<Result<QByteArray>> renderAll(const QStringList& pages, int paper)
+    {
+        settings.setValue(QStringLiteral("tempPaperSize"), paper);
+        renderer.setParallelPages(3);
+        QList<std::optional<Result<QByteArray>>> results(pages.size());
+        int done = 0;
+        QEventLoop loop;
+        for (int i = 0; i < pages.size(); ++i)
+            renderer.render(preview.renderJob(pages[i]), [&, i](Result<QByteArray> r) {
+                results[i] = std::move(r);
+                if (++done == pages.size())
+                    loop.quit();
+            });
+        if (done < pages.size())
+            loop.exec();
+        QList<Result<QByteArray>> out;
+        for (auto& r : results)
+            out.append(std::move(*r));
+        return out;
+    }
+
+    void keep(const QString& name, const QByteArray& pdf, const QString& html)
+    {
+        const QString folder = qEnvironmentVariable("VORN_DESIGN_GALLERY");
+        if (folder.isEmpty())
+            return;
+        QDir().mkpath(folder);
+        QFile file(QDir(folder).filePath(name + QStringLiteral(".pdf")));
+        if (file.open(QIODevice::WriteOnly))
+            file.write(pdf);
+        QFile page(QDir(folder).filePath(name + QStringLiteral(".html")));
+        if (page.open(QIODevice::WriteOnly))
+            page.write(html.toUtf8());
+    }
+
+    // Checks one printed document: every row once, headers on every page
+    // with rows, the totals on the page of the last row.
+    void checkPdf(const QString& name, const QByteArray& data, int items, const QSizeF& paper)
+    {
+        PdfInspector pdf(data);
+        ASSERT_TRUE(pdf.isValid()) << name.toStdString();
+        EXPECT_NEAR(pdf.pageSize().width(), paper.width(), 1.0) << name.toStdString();
+        EXPECT_NEAR(pdf.pageSize().height(), paper.height(), 1.0) << name.toStdString();
+        // Text extraction may space letters apart: compare without spaces.
+        static const QRegularExpression space(QStringLiteral("\\s+"));
+        const QString header = settings.stringValue(QStringLiteral("locDescription")).remove(space);
+        const QString totalLabel = settings.stringValue(QStringLiteral("locTotal")).remove(space);
+        int lastRowPage = -1;
+        int totalPage = -1;
+        for (int page = 0; page < pdf.pageCount(); ++page) {
+            const QString text = pdf.text(page).remove(space);
+            static const QRegularExpression row(QStringLiteral("Item-(\\d\\d)"));
+            bool rows = false;
+            for (auto it = row.globalMatch(text); it.hasNext();) {
+                const int n = it.next().captured(1).toInt();
+                rows = true;
+                if (n == items)
+                    lastRowPage = page;
+            }
+            if (rows) {
+                EXPECT_TRUE(text.contains(header, Qt::CaseInsensitive))
+                    << name.toStdString() << " page " << page + 1 << " has no header";
+            }
+            if (text.contains(totalLabel, Qt::CaseInsensitive))
+                totalPage = page;
+        }
+        const QString all = pdf.allText().remove(space);
+        for (int i = 1; i <= items; ++i)
+            EXPECT_EQ(all.count(QStringLiteral("Item-%1").arg(i, 2, 10, QLatin1Char('0'))), 1)
+                << name.toStdString() << " row " << i;
+        ASSERT_GE(totalPage, 0) << name.toStdString() << " has no total";
+        if (items > 0) {
+            EXPECT_EQ(totalPage, lastRowPage) << name.toStdString() << ": the totals left their last rows";
+        }
+    }
+};
+
+class BuiltInDesigns : public Designs, public ::testing::WithParamInterface<int>
+{
+};
+
+TEST_P(BuiltInDesigns, PrintEveryDocumentCompletely)
+{
+    const Design design = builtIn(GetParam());
+    ASSERT_FALSE(design.page.isEmpty()) << design.folder.toStdString();
+    use(design);
+    for (int paper : {2, 0}) {
+        QStringList pages;
+        QStringList names;
+        QList<int> counts;
+        for (const Variant& v : variants) {
+            make(v);
+            const QString html = preview.invoiceHTMLString();
+            static const QRegularExpression token(QStringLiteral("%[A-Z][A-Z0-9]*%"));
+            EXPECT_FALSE(token.match(html).hasMatch())
+                << design.title.toStdString() << " " << v.name << " leaves " << token.match(html).captured().toStdString();
+            pages << html;
+            names << QStringLiteral("Temp00%1-%2-%3").arg(GetParam()).arg(QLatin1String(v.name),
+                                                                          paper == 2 ? QStringLiteral("a4")
+                                                                                     : QStringLiteral("letter"));
+            counts << v.items;
+        }
+        // Documents whose totals fall around a page break.
+        for (int n = 9; n <= 33; ++n) {
+            Variant v{"sweep", 1, n, false, false, false, true, 0};
+            make(v);
+            pages << preview.invoiceHTMLString();
+            names << QStringLiteral("Temp00%1-sweep%2-%3").arg(GetParam()).arg(n).arg(paper == 2 ? "a4" : "letter");
+            counts << n;
+        }
+        const QList<Result<QByteArray>> pdfs = renderAll(pages, paper);
+        const QSizeF size = PdfRenderer::pageSize(paper).size(QPageSize::Point);
+        for (int i = 0; i < pdfs.size(); ++i) {
+            ASSERT_TRUE(pdfs[i].ok()) << names[i].toStdString();
+            if (!names[i].contains(QLatin1String("sweep")) || qEnvironmentVariableIsSet("VORN_DESIGN_SWEEP"))
+                keep(names[i], pdfs[i].value(), pages[i]);
+            checkPdf(names[i], pdfs[i].value(), counts[i], size);
+        }
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Temp, BuiltInDesigns, ::testing::Range(1, 10));
+
+} // namespace
+} // namespace vorn::test
