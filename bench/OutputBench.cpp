@@ -7,8 +7,8 @@
 // Targets: (a) at most 60 ms; (b) at least 30 documents per second.
 //   build/bin/output_bench [--skip-external]
 
-#include "bench/BenchSupport.h"
 #include "app/AppDelegate.h"
+#include "bench/BenchSupport.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
@@ -59,7 +59,8 @@ Stats stats(std::vector<double> ms)
 
 void print(const char* what, const Stats& s)
 {
-    std::printf("%-44s median %7.1f ms   p90 %7.1f ms   min %7.1f   max %7.1f\n", what, s.median, s.p90, s.min, s.max);
+    std::printf("%-44s median %7.1f ms   p90 %7.1f ms   min %7.1f   max %7.1f\n", what, s.median, s.p90,
+                s.min, s.max);
 }
 
 // A realistic invoice: 30 items with subtitles and taxes, shipping, discount.
@@ -72,9 +73,11 @@ ManagedObject* addInvoice(AppDelegate& app, int n)
     d->setValue(QStringLiteral("title"), QStringLiteral("Invoice"));
     d->setValue(QStringLiteral("number"), QStringLiteral("INV-2026-%1").arg(1000 + n));
     d->setValue(QStringLiteral("currency"), QStringLiteral("$"));
-    d->setValue(QStringLiteral("address"), QStringLiteral("Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry Lane\nFernwood CA 93024"));
+    d->setValue(QStringLiteral("address"),
+                QStringLiteral("Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry Lane\nFernwood CA 93024"));
     d->setValue(QStringLiteral("subject"), QStringLiteral("Spring campaign, part %1").arg(n));
-    d->setValue(QStringLiteral("conditions"), app.settings().stringValue(QStringLiteral("tempInvConditions")));
+    d->setValue(QStringLiteral("conditions"),
+                app.settings().stringValue(QStringLiteral("tempInvConditions")));
     d->setValue(QStringLiteral("footer"), app.settings().stringValue(QStringLiteral("tempInvFooter")));
     d->setValue(QStringLiteral("tax1Percent"), 0.07f);
     d->setValue(QStringLiteral("isShippingEnabled"), true);
@@ -108,7 +111,8 @@ double pageCount(const QString& path)
 }
 
 // Runs a program n times on the same input; the time per run.
-std::vector<double> runExternal(const QString& program, const QStringList& arguments, int n, const QString& output)
+std::vector<double> runExternal(const QString& program, const QStringList& arguments, int n,
+                                const QString& output)
 {
     std::vector<double> times;
     for (int i = 0; i < n; ++i) {
@@ -221,8 +225,10 @@ int run(bool external)
         if (wk.isEmpty()) {
             std::printf("%-44s not installed\n", "wkhtmltopdf");
         } else {
-            auto times = runExternal(wk, {QStringLiteral("--quiet"), QStringLiteral("--page-size"), QStringLiteral("Letter"),
-                                          QStringLiteral("--enable-local-file-access"), htmlPath, out},
+            auto times = runExternal(wk,
+                                     {QStringLiteral("--quiet"), QStringLiteral("--page-size"),
+                                      QStringLiteral("Letter"), QStringLiteral("--enable-local-file-access"),
+                                      htmlPath, out},
                                      externalRuns, out);
             if (!times.empty())
                 print("wkhtmltopdf, per document", stats(times));
@@ -233,11 +239,12 @@ int run(bool external)
         if (chromium.isEmpty()) {
             std::printf("%-44s not installed\n", "chromium --print-to-pdf");
         } else {
-            auto times = runExternal(chromium,
-                                     {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
-                                      QStringLiteral("--disable-gpu"), QStringLiteral("--no-pdf-header-footer"),
-                                      QStringLiteral("--print-to-pdf=") + out, QUrl::fromLocalFile(htmlPath).toString()},
-                                     externalRuns, out);
+            auto times = runExternal(
+                chromium,
+                {QStringLiteral("--headless"), QStringLiteral("--no-sandbox"),
+                 QStringLiteral("--disable-gpu"), QStringLiteral("--no-pdf-header-footer"),
+                 QStringLiteral("--print-to-pdf=") + out, QUrl::fromLocalFile(htmlPath).toString()},
+                externalRuns, out);
             if (!times.empty())
                 print("chromium --print-to-pdf, per document", stats(times));
         }

@@ -200,20 +200,21 @@ int pdfAll(CommandContext& c, QStringList args)
             ManagedObject* document = documents[next];
             const QString path = paths[next++];
             ++pending;
-            renderer.render(preview.renderJob(preview.documentHTMLString(*document, preview.displayedItems(*document))),
-                            [&, path](Result<QByteArray> pdf) {
-                                --pending;
-                                if (pdf) {
-                                    writers.start([&record, path, data = std::move(pdf.value())] {
-                                        record(path, AtomicFile::write(path, data));
-                                    });
-                                } else {
-                                    record(path, pdf.error());
-                                }
-                                feed();
-                                if (pending == 0 && next >= documents.size())
-                                    loop.quit();
-                            });
+            renderer.render(
+                preview.renderJob(preview.documentHTMLString(*document, preview.displayedItems(*document))),
+                [&, path](Result<QByteArray> pdf) {
+                    --pending;
+                    if (pdf) {
+                        writers.start([&record, path, data = std::move(pdf.value())] {
+                            record(path, AtomicFile::write(path, data));
+                        });
+                    } else {
+                        record(path, pdf.error());
+                    }
+                    feed();
+                    if (pending == 0 && next >= documents.size())
+                        loop.quit();
+                });
         }
     };
     feed();
@@ -292,11 +293,12 @@ int designPreviewHtml(CommandContext& c)
 
 void registerOutputCommands(CommandRegistry& registry)
 {
-    registry.add({QStringLiteral("html"), QStringLiteral("DOC [--reminder [--title T] [--conditions C] [--footer F]]"),
-                  false, true, htmlCommand});
+    registry.add({QStringLiteral("html"),
+                  QStringLiteral("DOC [--reminder [--title T] [--conditions C] [--footer F]]"), false, true,
+                  htmlCommand});
     registry.add({QStringLiteral("pdf"),
-                  QStringLiteral("DOC OUT.pdf [--reminder ...] | pdf --all OUTDIR [--filter TAG]"), true, true,
-                  pdfCommand});
+                  QStringLiteral("DOC OUT.pdf [--reminder ...] | pdf --all OUTDIR [--filter TAG]"), true,
+                  true, pdfCommand});
     registry.add({QStringLiteral("design preview-html"), QString(), false, true, designPreviewHtml});
 }
 

@@ -45,13 +45,15 @@ Result<QVariantList> DesignPreview::previewItems()
 {
     QFile file(QStringLiteral(":/PreviewItems.plist"));
     if (!file.open(QIODevice::ReadOnly))
-        return Error::make(ErrorCode::FileNotFound, tr("The sample items of the design preview are missing."));
+        return Error::make(ErrorCode::FileNotFound,
+                           tr("The sample items of the design preview are missing."));
     auto root = KeyedArchive::unarchive(file.readAll());
     if (!root)
         return root.error();
     const QVariant array = root.value().toMap().value(QStringLiteral("array"));
     if (array.typeId() != QMetaType::QVariantList)
-        return Error::make(ErrorCode::FileReadUnknown, tr("The sample items of the design preview are damaged."));
+        return Error::make(ErrorCode::FileReadUnknown,
+                           tr("The sample items of the design preview are damaged."));
     return array.toList();
 }
 
@@ -60,10 +62,11 @@ QString DesignPreview::invoiceNumberString() const
     const Settings& settings = m_preview.state().settings();
     const QDate today = m_preview.state().clock().now().toLocalTime().date();
     QString number = settings.stringValue(QStringLiteral("invPattern"));
-    Template::apply(number, {{QStringLiteral("%COUNT%"), QString::number(settings.intValue(QStringLiteral("invCount")))},
-                             {QStringLiteral("%YEAR%"), QString::number(today.year())},
-                             {QStringLiteral("%MONTH%"), QString::number(today.month())},
-                             {QStringLiteral("%DAY%"), QString::number(today.day())}});
+    Template::apply(
+        number, {{QStringLiteral("%COUNT%"), QString::number(settings.intValue(QStringLiteral("invCount")))},
+                 {QStringLiteral("%YEAR%"), QString::number(today.year())},
+                 {QStringLiteral("%MONTH%"), QString::number(today.month())},
+                 {QStringLiteral("%DAY%"), QString::number(today.day())}});
     return number;
 }
 
@@ -74,8 +77,8 @@ QString DesignPreview::itemsList()
         return {};
     const Settings& settings = m_preview.state().settings();
     return fillItemsList(design->stringValue(QStringLiteral("item")), sampleItems(),
-                         ItemRowSettings::fromSettings(settings), settings.stringValue(QStringLiteral("prefsCurrency")),
-                         m_preview.formatter());
+                         ItemRowSettings::fromSettings(settings),
+                         settings.stringValue(QStringLiteral("prefsCurrency")), m_preview.formatter());
 }
 
 QString DesignPreview::invoiceHTMLString()

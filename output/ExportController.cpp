@@ -192,14 +192,15 @@ void ExportController::savePdf()
             fileExistsCode,
             tr("“%1” couldn’t be copied to “%2” because an item with the same name already exists.")
                 .arg(QFileInfo(m_state.pdfPath).fileName(), to.absoluteDir().dirName()),
-            tr("To save the file, either provide a different name, or move aside or delete the existing file, and "
+            tr("To save the file, either provide a different name, or move aside or delete the existing "
+               "file, and "
                "try again.")));
         return;
     }
     QFile source(m_state.pdfPath);
     if (!source.open(QIODevice::ReadOnly)) {
-        m_state.ui().presentError(
-            Error::make(ErrorCode::FileReadUnknown, tr("The PDF “%1” could not be read.").arg(m_state.pdfPath)));
+        m_state.ui().presentError(Error::make(ErrorCode::FileReadUnknown,
+                                              tr("The PDF “%1” could not be read.").arg(m_state.pdfPath)));
         return;
     }
     if (Status written = AtomicFile::write(to.absoluteFilePath(), source.readAll()); !written)
@@ -229,8 +230,12 @@ bool ExportController::sendWithXdgEmail(const MailMessage& message)
     const QString program = QStandardPaths::findExecutable(QStringLiteral("xdg-email"));
     if (program.isEmpty())
         return false;
-    QStringList arguments{QStringLiteral("--utf8"),   QStringLiteral("--subject"), message.subject,
-                          QStringLiteral("--body"),   message.body,                QStringLiteral("--attach"),
+    QStringList arguments{QStringLiteral("--utf8"),
+                          QStringLiteral("--subject"),
+                          message.subject,
+                          QStringLiteral("--body"),
+                          message.body,
+                          QStringLiteral("--attach"),
                           message.attachment};
     if (!message.recipient.isEmpty())
         arguments << message.recipient;
@@ -245,12 +250,13 @@ void ExportController::sendEmail()
     if (m_mailer && m_mailer(message))
         return;
     qCWarning(lcOutput) << "No mail program took the message";
-    m_state.ui().runAlert({tr("The e-mail could not be prepared"),
-                           tr("No mail program could be started. The PDF is shown in the file manager so that you "
-                              "can attach it to a message yourself."),
-                           {tr("OK")},
-                           UserInterface::AlertStyle::Warning,
-                           false});
+    m_state.ui().runAlert(
+        {tr("The e-mail could not be prepared"),
+         tr("No mail program could be started. The PDF is shown in the file manager so that you "
+            "can attach it to a message yourself."),
+         {tr("OK")},
+         UserInterface::AlertStyle::Warning,
+         false});
     m_state.ui().openUrl(QUrl::fromLocalFile(QFileInfo(m_state.pdfPath).absolutePath()));
 }
 

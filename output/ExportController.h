@@ -21,7 +21,13 @@ class ExportController : public QObject
 {
     Q_OBJECT
 public:
-    enum Kind : quint64 { Print = 0, PdfFile = 1, Email = 2, DocumentExport = 3 };
+    enum Kind : quint64
+    {
+        Print = 0,
+        PdfFile = 1,
+        Email = 2,
+        DocumentExport = 3
+    };
 
     struct MailMessage
     {

@@ -69,8 +69,10 @@ QString Formatter::processLocaleName(Category category)
 QString Formatter::datePatternFromTemplate(QString pattern)
 {
     static const std::pair<QLatin1String, QLatin1String> tokens[] = {
-        {QLatin1String("%MONTHSHORT%"), QLatin1String("MM")}, {QLatin1String("%MONTHLONG%"), QLatin1String("MMMM")},
-        {QLatin1String("%DAY%"), QLatin1String("dd")},        {QLatin1String("%YEARSHORT%"), QLatin1String("YY")},
+        {QLatin1String("%MONTHSHORT%"), QLatin1String("MM")},
+        {QLatin1String("%MONTHLONG%"), QLatin1String("MMMM")},
+        {QLatin1String("%DAY%"), QLatin1String("dd")},
+        {QLatin1String("%YEARSHORT%"), QLatin1String("YY")},
         {QLatin1String("%YEARLONG%"), QLatin1String("YYYY")},
     };
     for (const auto& [token, letters] : tokens)
@@ -80,7 +82,8 @@ QString Formatter::datePatternFromTemplate(QString pattern)
 
 QString Formatter::getPatternDateStringFromDate(const QDateTime& date) const
 {
-    const QString pattern = datePatternFromTemplate(m_settings.stringValue(QStringLiteral("prefsDatePattern")));
+    const QString pattern =
+        datePatternFromTemplate(m_settings.stringValue(QStringLiteral("prefsDatePattern")));
     // Without a pattern the formatter has nothing to write.
     if (pattern.isEmpty() || !date.isValid())
         return {};
@@ -91,8 +94,8 @@ QString Formatter::getPatternDateStringFromDate(const QDateTime& date) const
         m_cache->dateKey = key;
         m_cache->date.reset();
         UErrorCode status = U_ZERO_ERROR;
-        auto format = std::make_unique<icu::SimpleDateFormat>(toIcu(pattern), icu::Locale(locale.toLatin1().constData()),
-                                                              status);
+        auto format = std::make_unique<icu::SimpleDateFormat>(
+            toIcu(pattern), icu::Locale(locale.toLatin1().constData()), status);
         m_cache->dateFailed = U_FAILURE(status);
         if (m_cache->dateFailed) {
             qCWarning(lcOutput) << "The date pattern" << pattern << "is not usable:" << u_errorName(status);
@@ -114,8 +117,8 @@ QString Formatter::stringFromNumber(double value) const
     const QString locale = processLocaleName(Category::Numeric);
     if (!m_cache->amount || locale != m_cache->amountLocale) {
         UErrorCode status = U_ZERO_ERROR;
-        m_cache->amount.reset(
-            icu::NumberFormat::createInstance(icu::Locale(locale.toLatin1().constData()), UNUM_DECIMAL, status));
+        m_cache->amount.reset(icu::NumberFormat::createInstance(icu::Locale(locale.toLatin1().constData()),
+                                                                UNUM_DECIMAL, status));
         if (U_FAILURE(status) || !m_cache->amount) {
             m_cache->amount.reset();
             return QString::number(value, 'f', 2);
@@ -134,8 +137,8 @@ QString Formatter::decimalStringFromNumber(double value) const
     const QString locale = processLocaleName(Category::Numeric);
     if (!m_cache->decimal || locale != m_cache->decimalLocale) {
         UErrorCode status = U_ZERO_ERROR;
-        m_cache->decimal.reset(
-            icu::NumberFormat::createInstance(icu::Locale(locale.toLatin1().constData()), UNUM_DECIMAL, status));
+        m_cache->decimal.reset(icu::NumberFormat::createInstance(icu::Locale(locale.toLatin1().constData()),
+                                                                 UNUM_DECIMAL, status));
         if (U_FAILURE(status) || !m_cache->decimal) {
             m_cache->decimal.reset();
             return QString::number(value);

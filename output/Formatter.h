@@ -38,7 +38,11 @@ public:
     // %YEARLONG% YYYY (upper case: the week-numbering year).
     static QString datePatternFromTemplate(QString pattern);
 
-    enum class Category { Numeric, Time };
+    enum class Category
+    {
+        Numeric,
+        Time
+    };
     // The ICU locale name of the process for numbers or dates ("de_DE");
     // the C and POSIX locales and an unset environment read as "en_US".
     static QString processLocaleName(Category category);

@@ -116,7 +116,8 @@ void PdfImageView::drawPageBorder(QPainter& painter, const QSizeF& sheet, int pa
     painter.restore();
 }
 
-UserInterface::PrintJob PdfImageView::printJob(const QString& title, const QString& paperName, bool showPanels)
+UserInterface::PrintJob PdfImageView::printJob(const QString& title, const QString& paperName,
+                                               bool showPanels)
 {
     UserInterface::PrintJob job;
     job.title = title;

@@ -107,8 +107,8 @@ const QString printOnly = QStringLiteral("<style>@media screen { html { display:
 
 Error renderError(const QString& reason)
 {
-    return Error::make(ErrorCode::FileWriteUnknown, QCoreApplication::translate("PdfRenderer", "The PDF could not be made."),
-                       reason);
+    return Error::make(ErrorCode::FileWriteUnknown,
+                       QCoreApplication::translate("PdfRenderer", "The PDF could not be made."), reason);
 }
 
 } // namespace
@@ -163,7 +163,8 @@ QPageSize PdfRenderer::pageSize(qint64 paperSize)
 
 QPageLayout PdfRenderer::pageLayout(qint64 paperSize)
 {
-    return QPageLayout(pageSize(paperSize), QPageLayout::Portrait, QMarginsF(40, 40, 40, 60), QPageLayout::Point);
+    return QPageLayout(pageSize(paperSize), QPageLayout::Portrait, QMarginsF(40, 40, 40, 60),
+                       QPageLayout::Point);
 }
 
 QString PdfRenderer::withSecurityPolicy(const QString& html)

@@ -18,10 +18,11 @@ namespace {
 
 QString messagePage(const QString& title, const QString& text)
 {
-    return QStringLiteral("<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>%1</title><style>"
-                          "body{font-family:sans-serif;color:#333;margin:3em 2em}h1{font-size:16pt;font-weight:600}"
-                          "p{font-size:11pt;line-height:1.5}</style></head>"
-                          "<body><h1>%1</h1><p>%2</p></body></html>\n")
+    return QStringLiteral(
+               "<!DOCTYPE html>\n<html><head><meta charset=\"utf-8\"><title>%1</title><style>"
+               "body{font-family:sans-serif;color:#333;margin:3em 2em}h1{font-size:16pt;font-weight:600}"
+               "p{font-size:11pt;line-height:1.5}</style></head>"
+               "<body><h1>%1</h1><p>%2</p></body></html>\n")
         .arg(title.toHtmlEscaped(), text.toHtmlEscaped());
 }
 
@@ -72,15 +73,17 @@ ManagedObject* PreviewController::currentDesign()
 
 QString PreviewController::missingDesignPage()
 {
-    return messagePage(tr("There is no default design"),
-                       tr("Make one of the designs in the preferences the default design to see your documents."));
+    return messagePage(
+        tr("There is no default design"),
+        tr("Make one of the designs in the preferences the default design to see your documents."));
 }
 
 QString PreviewController::missingTemplatePage()
 {
-    return messagePage(tr("This design has no page template"),
-                       tr("Give the default design a page template in the preferences, or make another design the "
-                          "default design."));
+    return messagePage(
+        tr("This design has no page template"),
+        tr("Give the default design a page template in the preferences, or make another design the "
+           "default design."));
 }
 
 ReminderTexts PreviewController::defaultReminderTexts() const
@@ -128,7 +131,8 @@ QString PreviewController::invoiceHTMLString()
     return documentHTMLString(*document, displayedItems(*document));
 }
 
-QString PreviewController::documentHTMLString(const ManagedObject& document, const QList<ManagedObject*>& itemObjects)
+QString PreviewController::documentHTMLString(const ManagedObject& document,
+                                              const QList<ManagedObject*>& itemObjects)
 {
     const Settings& settings = m_state.settings();
     // The logo file is rewritten on every generation, whatever the design.
@@ -156,8 +160,10 @@ QString PreviewController::documentHTMLString(const ManagedObject& document, con
 
 PdfRenderer::Job PreviewController::renderJob(const QString& html) const
 {
-    return PdfRenderer::Job{html, PdfRenderer::pageLayout(m_state.settings().intValue(QStringLiteral("tempPaperSize"))),
-                            {m_state.locations().logoCache()}};
+    return PdfRenderer::Job{
+        html,
+        PdfRenderer::pageLayout(m_state.settings().intValue(QStringLiteral("tempPaperSize"))),
+        {m_state.locations().logoCache()}};
 }
 
 void PreviewController::generatePreview()
@@ -200,8 +206,11 @@ bool PreviewController::createPDF(const Result<QByteArray>& pdf)
     setGenerating(false);
     if (!written) {
         qCWarning(lcOutput) << "The preview PDF failed:" << written.error().fullText();
-        m_state.ui().runAlert({tr("Ooops!"), tr("Something went really wrong while creating the preview."),
-                               {tr("OK")}, UserInterface::AlertStyle::Warning, false});
+        m_state.ui().runAlert({tr("Ooops!"),
+                               tr("Something went really wrong while creating the preview."),
+                               {tr("OK")},
+                               UserInterface::AlertStyle::Warning,
+                               false});
         Q_EMIT previewFailed();
         return false;
     }

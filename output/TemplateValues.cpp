@@ -61,7 +61,8 @@ void PageValues::readSettings(const Settings& s)
     }
 }
 
-PageValues pageValuesForDocument(const ManagedObject& d, const Settings& settings, const ReminderTexts* reminder)
+PageValues pageValuesForDocument(const ManagedObject& d, const Settings& settings,
+                                 const ReminderTexts* reminder)
 {
     PageValues v;
     v.readSettings(settings);
@@ -112,7 +113,9 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
     auto lines = [](const QString& s) { return Formatter::htmlLineBreakStringFromString(s); };
     Template::Steps steps;
     steps.reserve(52);
-    auto add = [&steps](const char* token, const QString& value) { steps.append({QLatin1String(token), value}); };
+    auto add = [&steps](const char* token, const QString& value) {
+        steps.append({QLatin1String(token), value});
+    };
 
     add("%CSS%", v.css);
     add("%COMPANY%", v.company);
@@ -144,7 +147,8 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
     // subtitle, and its label goes first; the shipping row is labelled by
     // the document's own title and its amount goes first.
     if (v.discountEnabled) {
-        add("%LOCDISCOUNT%", v.hasDiscountSubtitle ? subtitled(v.discountTitle, v.discountSubtitle) : v.locDiscount);
+        add("%LOCDISCOUNT%",
+            v.hasDiscountSubtitle ? subtitled(v.discountTitle, v.discountSubtitle) : v.locDiscount);
         add("%DISCOUNTKINDCHAR%", v.discountKind != 0 ? QStringLiteral("%") : QStringLiteral("-"));
         add("%DISCOUNT%", v.discountKind != 0 ? f.decimalStringFromNumber(v.discountPercent)
                                               : f.stringFromNumber(v.discountAmount));
@@ -155,7 +159,8 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
     }
     if (v.shippingEnabled) {
         add("%SHIPPING%", f.stringFromNumber(v.shippingAmount));
-        add("%LOCSHIPPING%", v.hasShippingSubtitle ? subtitled(v.shippingTitle, v.shippingSubtitle) : v.shippingTitle);
+        add("%LOCSHIPPING%",
+            v.hasShippingSubtitle ? subtitled(v.shippingTitle, v.shippingSubtitle) : v.shippingTitle);
     } else {
         add("%SHIPPING%", {});
         add("%LOCSHIPPING%", {});
@@ -166,9 +171,10 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
         const PageValues::TaxTotal& tax = v.taxes[size_t(i)];
         const QString n = QString::number(i + 1);
         steps.append({QStringLiteral("%TAX%1TITLE%").arg(n), tax.enabled ? tax.title : QString()});
-        steps.append({QStringLiteral("%TAX%1%").arg(n), tax.enabled ? f.stringFromNumber(tax.amount) : QString()});
         steps.append(
-            {QStringLiteral("%TAX%1RATE%").arg(n), tax.enabled ? f.decimalStringFromNumber(tax.percent) : QString()});
+            {QStringLiteral("%TAX%1%").arg(n), tax.enabled ? f.stringFromNumber(tax.amount) : QString()});
+        steps.append({QStringLiteral("%TAX%1RATE%").arg(n),
+                      tax.enabled ? f.decimalStringFromNumber(tax.percent) : QString()});
     }
     add("%ITEMSLIST%", v.itemsList);
     add("%LOCINVOICE%", v.locInvoice);
@@ -256,7 +262,9 @@ Template::Steps itemSteps(const ItemValues& item, int row, const ItemRowSettings
 {
     Template::Steps steps;
     steps.reserve(27);
-    auto add = [&steps](const char* token, const QString& value) { steps.append({QLatin1String(token), value}); };
+    auto add = [&steps](const char* token, const QString& value) {
+        steps.append({QLatin1String(token), value});
+    };
 
     add("%ITEMNUMBER%", f.decimalStringFromNumber(row));
     add("%ITEMSQUANTITY%", f.decimalStringFromNumber(item.unitCount));
@@ -275,8 +283,8 @@ Template::Steps itemSteps(const ItemValues& item, int row, const ItemRowSettings
         steps.append({QStringLiteral("%ITEMSTAX%1TITLE%").arg(n), tax.applied ? tax.title : QString()});
         steps.append({QStringLiteral("%ITEMSTAX%1PERCENT%").arg(n),
                       tax.applied ? f.decimalStringFromNumber(tax.percent) : QString()});
-        steps.append(
-            {QStringLiteral("%ITEMSTAX%1AMOUNT%").arg(n), tax.applied ? f.stringFromNumber(tax.amount) : QString()});
+        steps.append({QStringLiteral("%ITEMSTAX%1AMOUNT%").arg(n),
+                      tax.applied ? f.stringFromNumber(tax.amount) : QString()});
     }
     add("%LOCSHORTNUMBER%", s.locNo);
     add("%LOCUNIT%", s.locUnit);
@@ -290,8 +298,8 @@ Template::Steps itemSteps(const ItemValues& item, int row, const ItemRowSettings
     return steps;
 }
 
-QString fillItemsList(const QString& itemTemplate, const QList<ItemValues>& items, const ItemRowSettings& settings,
-                      const QString& currency, const Formatter& formatter)
+QString fillItemsList(const QString& itemTemplate, const QList<ItemValues>& items,
+                      const ItemRowSettings& settings, const QString& currency, const Formatter& formatter)
 {
     QString result;
     int row = 1;
@@ -305,8 +313,9 @@ QString fillItemsList(const QString& itemTemplate, const QList<ItemValues>& item
 
 QString Logo::notice()
 {
-    return tr("<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the 'LOGO' substitute "
-              "from the design/template.</small></small>");
+    return tr(
+        "<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the 'LOGO' substitute "
+        "from the design/template.</small></small>");
 }
 
 QString Logo::element(const Settings& settings, const QString& logoPath)
@@ -328,7 +337,8 @@ QString Logo::element(const Settings& settings, const QString& logoPath)
         }
     }
     if (lastPng.isEmpty()) {
-        qCWarning(lcOutput) << "The logo image of the preferences cannot be read; the page shows the notice instead";
+        qCWarning(lcOutput)
+            << "The logo image of the preferences cannot be read; the page shows the notice instead";
         return notice();
     }
     // The file always holds the current logo; one that already does is left alone.

@@ -148,11 +148,11 @@ struct ItemRowSettings
 };
 
 // The 27 replacement steps of the row numbered row (from 1).
-Template::Steps itemSteps(const ItemValues& item, int row, const ItemRowSettings& settings, const QString& currency,
-                          const Formatter& formatter);
+Template::Steps itemSteps(const ItemValues& item, int row, const ItemRowSettings& settings,
+                          const QString& currency, const Formatter& formatter);
 // Every row filled and joined without separator; empty without items.
-QString fillItemsList(const QString& itemTemplate, const QList<ItemValues>& items, const ItemRowSettings& settings,
-                      const QString& currency, const Formatter& formatter);
+QString fillItemsList(const QString& itemTemplate, const QList<ItemValues>& items,
+                      const ItemRowSettings& settings, const QString& currency, const Formatter& formatter);
 
 // The company logo for "%LOGO%": with image data in "prefsLogo" the image is
 // written as PNG to logoPath and referenced by its file address; without

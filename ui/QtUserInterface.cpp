@@ -8,7 +8,11 @@
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
+#include <QHash>
 #include <QMessageBox>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
@@ -221,6 +225,47 @@ QString QtUserInterface::findApplication(const QString& identifier)
             return path;
     }
     return {};
+}
+
+QPageSize QtUserInterface::pageSizeFor(const QString& paperName, const QSizeF& fallbackPoints)
+{
+    static const QHash<QString, QPageSize::PageSizeId> papers{{QStringLiteral("na-letter"), QPageSize::Letter},
+                                                              {QStringLiteral("na-legal"), QPageSize::Legal},
+                                                              {QStringLiteral("iso-a4"), QPageSize::A4},
+                                                              {QStringLiteral("jis-b4"), QPageSize::JisB4},
+                                                              {QStringLiteral("jis-b5"), QPageSize::JisB5}};
+    if (papers.contains(paperName))
+        return QPageSize(papers.value(paperName));
+    return fallbackPoints.isEmpty() ? QPageSize(QPageSize::Letter) : QPageSize(fallbackPoints, QPageSize::Point);
+}
+
+bool QtUserInterface::runPrintOperation(const PrintJob& job)
+{
+    if (job.pageCount < 1 || !job.paintPage)
+        return false;
+    QPrinter printer(QPrinter::HighResolution);
+    printer.setDocName(job.title);
+    printer.setPageSize(pageSizeFor(job.paperName, job.paperSize));
+    printer.setFromTo(1, job.pageCount);
+    if (job.showPanels) {
+        QPrintDialog dialog(&printer, dialogParent());
+        dialog.setMinMax(1, job.pageCount);
+        if (dialog.exec() != QDialog::Accepted)
+            return false;
+    }
+    QPainter painter;
+    if (!painter.begin(&printer)) {
+        qCWarning(lcUi) << "could not start printing" << job.title;
+        return false;
+    }
+    const int first = printer.fromPage() > 0 ? printer.fromPage() : 1;
+    const int last = printer.toPage() > 0 ? qMin(printer.toPage(), job.pageCount) : job.pageCount;
+    for (int page = first; page <= last; ++page) {
+        if (page > first)
+            printer.newPage();
+        job.paintPage(painter, page - 1, QRectF(0, 0, printer.width(), printer.height()));
+    }
+    return painter.end();
 }
 
 bool QtUserInterface::openApplication(const QString& identifier)

@@ -3,6 +3,7 @@
 #include "store/UserInterface.h"
 
 #include <QCoreApplication>
+#include <QPageSize>
 #include <QPointer>
 
 #include <functional>
@@ -44,6 +45,10 @@ public:
 
     bool openUrl(const QUrl& url) override;
     bool openApplication(const QString& identifier) override;
+    // The print dialog (when the job asks for it), then the pages on the printer.
+    bool runPrintOperation(const PrintJob& job) override;
+    // The printer's paper for the paper names of the print settings.
+    static QPageSize pageSizeFor(const QString& paperName, const QSizeF& fallbackPoints);
 
     // The message box an alert is shown in; the buttons are in the alert's order.
     static QMessageBox* createAlertBox(const Alert& alert, QWidget* parent);

@@ -36,8 +36,8 @@ Design builtIn(int n)
 {
     const QString folder = QStringLiteral(VORN_DESIGNS_DIR "/Temp00%1").arg(n);
     return {folder, readText(folder + QStringLiteral("/title.txt")).trimmed(),
-            readText(folder + QStringLiteral("/invoice.html")), readText(folder + QStringLiteral("/item.html")),
-            readText(folder + QStringLiteral("/style.css"))};
+            readText(folder + QStringLiteral("/invoice.html")),
+            readText(folder + QStringLiteral("/item.html")), readText(folder + QStringLiteral("/style.css"))};
 }
 
 struct Variant
@@ -71,14 +71,16 @@ class Designs : public OutputFixture
 public:
     Designs()
     {
-        auto english = PropertyList::read(readText(QStringLiteral(VORN_DEFAULTS_DIR "/defaultPrefsEnglish.plist")).toUtf8());
+        auto english = PropertyList::read(
+            readText(QStringLiteral(VORN_DEFAULTS_DIR "/defaultPrefsEnglish.plist")).toUtf8());
         if (english.ok())
             settings.setValuesForKeys(english.value().toMap());
         settings.setValue(QStringLiteral("prefsName"), QStringLiteral("Tandrelo Studio"));
         settings.setValue(QStringLiteral("prefsSlogan"), QStringLiteral("Brand, type and print design"));
-        settings.setValue(QStringLiteral("prefsContact"),
-                          QStringLiteral("Mara Lindqvist\n12 Harbour Road\nPortsmouth PO1 3AX\n+44 23 9200 1234\n"
-                                         "hello@tandrelo.example"));
+        settings.setValue(
+            QStringLiteral("prefsContact"),
+            QStringLiteral("Mara Lindqvist\n12 Harbour Road\nPortsmouth PO1 3AX\n+44 23 9200 1234\n"
+                           "hello@tandrelo.example"));
         settings.setValue(QStringLiteral("prefsLetterbox"),
                           QStringLiteral("Tandrelo Studio · 12 Harbour Road · Portsmouth PO1 3AX"));
         settings.setValue(QStringLiteral("prefsCurrency"), QStringLiteral("$"));
@@ -100,24 +102,28 @@ public:
         settings.setValue(QStringLiteral("tax3Enabled"), v.allTaxes);
         settings.setValue(QStringLiteral("tempUseSKU"), v.skus);
         settings.setValue(QStringLiteral("prefsLogo"), v.logo ? logoData() : QByteArray());
-        const QString longText = QStringLiteral("Redesign of the visual identity, including research, three directions, "
-                                                "two rounds of revisions and the final artwork in every format");
+        const QString longText =
+            QStringLiteral("Redesign of the visual identity, including research, three directions, "
+                           "two rounds of revisions and the final artwork in every format");
         ManagedObject* d = addDocument(
-            v.kind, {{QStringLiteral("title"), v.kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
-                     {QStringLiteral("number"), v.kind ? QStringLiteral("INV-2025-0042") : QStringLiteral("Q-2025-0017")},
-                     {QStringLiteral("currency"), QStringLiteral("$")},
-                     {QStringLiteral("address"), v.longTexts ? QStringLiteral("Department of Visual Communication and "
-                                                                              "Brand Strategy\nHolloway, Erin\nQuarry & "
-                                                                              "Sons International Ltd.\n7 Quarry Lane, "
-                                                                              "Suite 400\nFernwood CA 93024\nUnited States")
-                                                             : QStringLiteral("Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry "
-                                                                              "Lane\nFernwood CA 93024")},
-                     {QStringLiteral("clientNumber"), QStringLiteral("C-1047")},
-                     {QStringLiteral("dispatchNumber"), v.shipping ? QStringLiteral("UPS 1Z 999 AA1") : QString()},
-                     {QStringLiteral("subject"), v.longTexts ? longText : QStringLiteral("Spring campaign")},
-                     {QStringLiteral("conditions"), settings.stringValue(QStringLiteral("tempInvConditions"))},
-                     {QStringLiteral("footer"), QStringLiteral("Harbour Bank · IBAN GB00 HARB 1234 5678 9012 34 · "
-                                                               "BIC HARBGB2L\nThank you for your business!")}});
+            v.kind,
+            {{QStringLiteral("title"), v.kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
+             {QStringLiteral("number"),
+              v.kind ? QStringLiteral("INV-2025-0042") : QStringLiteral("Q-2025-0017")},
+             {QStringLiteral("currency"), QStringLiteral("$")},
+             {QStringLiteral("address"), v.longTexts
+                                             ? QStringLiteral("Department of Visual Communication and "
+                                                              "Brand Strategy\nHolloway, Erin\nQuarry & "
+                                                              "Sons International Ltd.\n7 Quarry Lane, "
+                                                              "Suite 400\nFernwood CA 93024\nUnited States")
+                                             : QStringLiteral("Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry "
+                                                              "Lane\nFernwood CA 93024")},
+             {QStringLiteral("clientNumber"), QStringLiteral("C-1047")},
+             {QStringLiteral("dispatchNumber"), v.shipping ? QStringLiteral("UPS 1Z 999 AA1") : QString()},
+             {QStringLiteral("subject"), v.longTexts ? longText : QStringLiteral("Spring campaign")},
+             {QStringLiteral("conditions"), settings.stringValue(QStringLiteral("tempInvConditions"))},
+             {QStringLiteral("footer"), QStringLiteral("Harbour Bank · IBAN GB00 HARB 1234 5678 9012 34 · "
+                                                       "BIC HARBGB2L\nThank you for your business!")}});
         float sub = 0;
         float tax[3] = {0, 0, 0};
         for (int i = 1; i <= v.items; ++i) {
@@ -125,22 +131,26 @@ public:
             const float price = 45.0f + float(i * 7 % 90);
             const float net = count * price;
             sub += net;
-            QVariantMap item{{QStringLiteral("title"), QStringLiteral("Item-%1 %2").arg(i, 2, 10, QLatin1Char('0'))
-                                                          .arg(v.longTexts && i == 2 ? longText : QStringLiteral("Design work"))},
+            QVariantMap item{{QStringLiteral("title"),
+                              QStringLiteral("Item-%1 %2")
+                                  .arg(i, 2, 10, QLatin1Char('0'))
+                                  .arg(v.longTexts && i == 2 ? longText : QStringLiteral("Design work"))},
                              {QStringLiteral("unitCount"), count},
                              {QStringLiteral("unit"), QStringLiteral("h")},
                              {QStringLiteral("baseAmount"), price},
                              {QStringLiteral("subAmount"), net},
                              {QStringLiteral("sku"), QStringLiteral("DW-%1").arg(100 + i)}};
             if (v.subtitles || v.longTexts)
-                item.insert(QStringLiteral("subtitle"), QStringLiteral("Concepts and layout, %1 pages").arg(i + 2));
+                item.insert(QStringLiteral("subtitle"),
+                            QStringLiteral("Concepts and layout, %1 pages").arg(i + 2));
             float amount = net;
             const float rates[3] = {0.07f, 0.02f, 0.01f};
             for (int t = 0; t < 3; ++t) {
                 const bool applied = t == 0 ? !v.noTaxes : v.allTaxes;
                 const QString n = QString::number(t + 1);
                 item.insert(QStringLiteral("isTax%1Applied").arg(n), applied);
-                item.insert(QStringLiteral("tax%1Title").arg(n), settings.stringValue(QStringLiteral("tax%1Title").arg(n)));
+                item.insert(QStringLiteral("tax%1Title").arg(n),
+                            settings.stringValue(QStringLiteral("tax%1Title").arg(n)));
                 item.insert(QStringLiteral("tax%1Percent").arg(n), rates[t]);
                 if (applied) {
                     item.insert(QStringLiteral("tax%1Amount").arg(n), net * rates[t]);
@@ -300,11 +310,13 @@ TEST_P(BuiltInDesigns, PrintEveryDocumentCompletely)
             const QString html = preview.invoiceHTMLString();
             static const QRegularExpression token(QStringLiteral("%[A-Z][A-Z0-9]*%"));
             EXPECT_FALSE(token.match(html).hasMatch())
-                << design.title.toStdString() << " " << v.name << " leaves " << token.match(html).captured().toStdString();
+                << design.title.toStdString() << " " << v.name << " leaves "
+                << token.match(html).captured().toStdString();
             pages << html;
-            names << QStringLiteral("Temp00%1-%2-%3").arg(GetParam()).arg(QLatin1String(v.name),
-                                                                          paper == 2 ? QStringLiteral("a4")
-                                                                                     : QStringLiteral("letter"));
+            names << QStringLiteral("Temp00%1-%2-%3")
+                         .arg(GetParam())
+                         .arg(QLatin1String(v.name),
+                              paper == 2 ? QStringLiteral("a4") : QStringLiteral("letter"));
             counts << v.items;
         }
         // Documents whose totals fall around a page break.
@@ -312,7 +324,10 @@ TEST_P(BuiltInDesigns, PrintEveryDocumentCompletely)
             Variant v{"sweep", 1, n, false, false, false, true, 0};
             make(v);
             pages << preview.invoiceHTMLString();
-            names << QStringLiteral("Temp00%1-sweep%2-%3").arg(GetParam()).arg(n).arg(paper == 2 ? "a4" : "letter");
+            names << QStringLiteral("Temp00%1-sweep%2-%3")
+                         .arg(GetParam())
+                         .arg(n)
+                         .arg(paper == 2 ? "a4" : "letter");
             counts << n;
         }
         const QList<Result<QByteArray>> pdfs = renderAll(pages, paper);

@@ -1,7 +1,6 @@
 #include "output/ExportController.h"
 #include "output/InterchangeFile.h"
 #include "output/PdfImageView.h"
-#include "output/StringFormat.h"
 #include "tests/output/OutputFixture.h"
 #include "tests/output/PdfSupport.h"
 
@@ -31,7 +30,8 @@ public:
 
     ManagedObject* document(int kind)
     {
-        ManagedObject* d = addDocument(kind, {{QStringLiteral("emailAddress"), QStringLiteral("erin@example.test")}});
+        ManagedObject* d =
+            addDocument(kind, {{QStringLiteral("emailAddress"), QStringLiteral("erin@example.test")}});
         addItem(d, {{QStringLiteral("title"), QStringLiteral("Workshop")}});
         select(d);
         return d;
@@ -69,7 +69,8 @@ struct ActionCase
     const char* sheetTitle;
 };
 
-class ExportActions : public Exporting, public ::testing::WithParamInterface<std::tuple<ActionCase, int, bool>>
+class ExportActions : public Exporting,
+                      public ::testing::WithParamInterface<std::tuple<ActionCase, int, bool>>
 {
 };
 
@@ -131,7 +132,8 @@ TEST_F(Exporting, EmailGoesToTheMailProgramWithThePdf)
     run(&ExportController::emailInvoice);
     ASSERT_EQ(mails.size(), 1);
     EXPECT_EQ(mails[0].subject, QStringLiteral("Tandrelo Studio | Invoice | INV-2025-17"));
-    EXPECT_EQ(mails[0].body, QStringLiteral("\n\n\n") + QString(96, QLatin1Char('-')) + QStringLiteral("\n\n"));
+    EXPECT_EQ(mails[0].body,
+              QStringLiteral("\n\n\n") + QString(96, QLatin1Char('-')) + QStringLiteral("\n\n"));
     EXPECT_EQ(mails[0].recipient, QStringLiteral("erin@example.test"));
     EXPECT_EQ(mails[0].attachment, state.pdfPath);
     EXPECT_TRUE(QFile::exists(mails[0].attachment));
@@ -235,9 +237,11 @@ TEST_P(Footers, PrintedPagesCarryTheFooterLine)
     settings.setValue(QStringLiteral("tempPrintNumbers"), c.numbers);
     settings.setValue(QStringLiteral("tempPrintDetails"), c.details);
     settings.setValue(QStringLiteral("printBorderless"), c.borderless);
-    settings.setValue(QStringLiteral("currentPrintJobTitle"), QStringLiteral("Tandrelo Studio | Invoice | 17"));
+    settings.setValue(QStringLiteral("currentPrintJobTitle"),
+                      QStringLiteral("Tandrelo Studio | Invoice | 17"));
     PdfImageView view(settings);
-    ASSERT_TRUE(view.loadFromPath(threePagePdf(QDir(environment.home()).filePath(QStringLiteral("three.pdf")))).ok());
+    ASSERT_TRUE(
+        view.loadFromPath(threePagePdf(QDir(environment.home()).filePath(QStringLiteral("three.pdf")))).ok());
     EXPECT_EQ(view.pageCount(), 3);
     EXPECT_EQ(view.footerLine(2, 3), QString::fromUtf8(c.expected));
 
@@ -280,27 +284,6 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(FooterCase{true, false, false, "Page 2 of 3"},
                       FooterCase{true, true, false, "Tandrelo Studio | Invoice | 17 | Page 2 of 3"},
                       FooterCase{false, true, false, ""}, FooterCase{true, true, true, ""}));
-
-TEST(StringFormatTest, FillsPrintfStyleDirectives)
-{
-    struct Case
-    {
-        const char* format;
-        QStringList args;
-        const char* expected;
-    } cases[] = {
-        {"Page %ld of %ld", {"2", "3"}, "Page 2 of 3"},
-        {"Seite %d von %d", {"2", "3"}, "Seite 2 von 3"},
-        {"%2$ld / %1$ld", {"2", "3"}, "3 / 2"},
-        {"%@ | %@", {"A", "B"}, "A | B"},
-        {"100%% of %lu", {"7"}, "100% of 7"},
-        {"%ld and %ld", {"1"}, "1 and "},
-        {"trailing %", {}, "trailing %"},
-        {"%y stays", {}, "%y stays"},
-    };
-    for (const Case& c : cases)
-        EXPECT_EQ(StringFormat::apply(QString::fromUtf8(c.format), c.args), QString::fromUtf8(c.expected)) << c.format;
-}
 
 } // namespace
 } // namespace vorn::test

@@ -13,7 +13,8 @@ namespace {
 class LocaleScope
 {
 public:
-    explicit LocaleScope(const char* locale) : m_saved(qgetenv("LC_ALL")), m_had(qEnvironmentVariableIsSet("LC_ALL"))
+    explicit LocaleScope(const char* locale)
+        : m_saved(qgetenv("LC_ALL")), m_had(qEnvironmentVariableIsSet("LC_ALL"))
     {
         qputenv("LC_ALL", locale);
     }
@@ -57,27 +58,24 @@ TEST_P(FormatterNumbers, AmountsHaveTwoDigitsAndPlainNumbersUpToThree)
 // double, as the document's amounts do.
 INSTANTIATE_TEST_SUITE_P(
     TwoLocales, FormatterNumbers,
-    ::testing::Values(NumberCase{"en_US.UTF-8", 0, "0.00", "0"}, NumberCase{"en_US.UTF-8", 7, "7.00", "7"},
-                      NumberCase{"en_US.UTF-8", 7.5, "7.50", "7.5"},
-                      NumberCase{"en_US.UTF-8", double(7.1f), "7.10", "7.1"},
-                      NumberCase{"en_US.UTF-8", double(0.19f), "0.19", "0.19"},
-                      NumberCase{"en_US.UTF-8", double(34.65f), "34.65", "34.65"},
-                      NumberCase{"en_US.UTF-8", 1234.5, "1,234.50", "1,234.5"},
-                      NumberCase{"en_US.UTF-8", 1234567.891, "1,234,567.89", "1,234,567.891"},
-                      NumberCase{"en_US.UTF-8", 2.0004, "2.00", "2"},
-                      // half-even on exact halves
-                      NumberCase{"en_US.UTF-8", 0.125, "0.12", "0.125"},
-                      NumberCase{"en_US.UTF-8", 0.375, "0.38", "0.375"},
-                      NumberCase{"en_US.UTF-8", 1.0625, "1.06", "1.062"},
-                      NumberCase{"en_US.UTF-8", -50, "-50.00", "-50"},
-                      NumberCase{"en_US.UTF-8", double(3351.27f), "3,351.27", "3,351.27"},
-                      NumberCase{"de_DE.UTF-8", 0, "0,00", "0"}, NumberCase{"de_DE.UTF-8", 7.5, "7,50", "7,5"},
-                      NumberCase{"de_DE.UTF-8", double(7.1f), "7,10", "7,1"},
-                      NumberCase{"de_DE.UTF-8", 1234.5, "1.234,50", "1.234,5"},
-                      NumberCase{"de_DE.UTF-8", 1234567.891, "1.234.567,89", "1.234.567,891"},
-                      NumberCase{"de_DE.UTF-8", 0.125, "0,12", "0,125"},
-                      NumberCase{"de_DE.UTF-8", -50, "-50,00", "-50"},
-                      NumberCase{"de_DE", double(34.65f), "34,65", "34,65"}));
+    ::testing::Values(
+        NumberCase{"en_US.UTF-8", 0, "0.00", "0"}, NumberCase{"en_US.UTF-8", 7, "7.00", "7"},
+        NumberCase{"en_US.UTF-8", 7.5, "7.50", "7.5"}, NumberCase{"en_US.UTF-8", double(7.1f), "7.10", "7.1"},
+        NumberCase{"en_US.UTF-8", double(0.19f), "0.19", "0.19"},
+        NumberCase{"en_US.UTF-8", double(34.65f), "34.65", "34.65"},
+        NumberCase{"en_US.UTF-8", 1234.5, "1,234.50", "1,234.5"},
+        NumberCase{"en_US.UTF-8", 1234567.891, "1,234,567.89", "1,234,567.891"},
+        NumberCase{"en_US.UTF-8", 2.0004, "2.00", "2"},
+        // half-even on exact halves
+        NumberCase{"en_US.UTF-8", 0.125, "0.12", "0.125"}, NumberCase{"en_US.UTF-8", 0.375, "0.38", "0.375"},
+        NumberCase{"en_US.UTF-8", 1.0625, "1.06", "1.062"}, NumberCase{"en_US.UTF-8", -50, "-50.00", "-50"},
+        NumberCase{"en_US.UTF-8", double(3351.27f), "3,351.27", "3,351.27"},
+        NumberCase{"de_DE.UTF-8", 0, "0,00", "0"}, NumberCase{"de_DE.UTF-8", 7.5, "7,50", "7,5"},
+        NumberCase{"de_DE.UTF-8", double(7.1f), "7,10", "7,1"},
+        NumberCase{"de_DE.UTF-8", 1234.5, "1.234,50", "1.234,5"},
+        NumberCase{"de_DE.UTF-8", 1234567.891, "1.234.567,89", "1.234.567,891"},
+        NumberCase{"de_DE.UTF-8", 0.125, "0,12", "0,125"}, NumberCase{"de_DE.UTF-8", -50, "-50,00", "-50"},
+        NumberCase{"de_DE", double(34.65f), "34,65", "34,65"}));
 
 struct DateCase
 {
@@ -99,8 +97,10 @@ TEST_P(FormatterDates, UsesThePatternOfTheSettings)
     Settings settings(dir.filePath(QStringLiteral("s.plist")));
     settings.setValue(QStringLiteral("prefsDatePattern"), QString::fromUtf8(c.pattern));
     Formatter f(settings);
-    const QDateTime date = QDateTime::fromString(QLatin1String(c.utc), Qt::ISODate).toTimeZone(QTimeZone::utc());
-    EXPECT_EQ(f.getPatternDateStringFromDate(date), QString::fromUtf8(c.expected)) << c.locale << " " << c.pattern;
+    const QDateTime date =
+        QDateTime::fromString(QLatin1String(c.utc), Qt::ISODate).toTimeZone(QTimeZone::utc());
+    EXPECT_EQ(f.getPatternDateStringFromDate(date), QString::fromUtf8(c.expected))
+        << c.locale << " " << c.pattern;
 }
 
 // The tests run in Europe/Berlin.
@@ -135,9 +135,11 @@ TEST(Formatter, FollowsChangesOfThePatternAndTheLocaleBetweenCalls)
     const QDateTime date(QDate(2025, 3, 5), QTime(10, 0), QTimeZone::utc());
     {
         LocaleScope locale("en_US.UTF-8");
-        settings.setValue(QStringLiteral("prefsDatePattern"), QStringLiteral("%DAY%.%MONTHSHORT%.%YEARLONG%"));
+        settings.setValue(QStringLiteral("prefsDatePattern"),
+                          QStringLiteral("%DAY%.%MONTHSHORT%.%YEARLONG%"));
         EXPECT_EQ(f.getPatternDateStringFromDate(date), QStringLiteral("05.03.2025"));
-        settings.setValue(QStringLiteral("prefsDatePattern"), QStringLiteral("%YEARLONG%-%MONTHSHORT%-%DAY%"));
+        settings.setValue(QStringLiteral("prefsDatePattern"),
+                          QStringLiteral("%YEARLONG%-%MONTHSHORT%-%DAY%"));
         EXPECT_EQ(f.getPatternDateStringFromDate(date), QStringLiteral("2025-03-05"));
         EXPECT_EQ(f.stringFromNumber(1234.5), QStringLiteral("1,234.50"));
     }
@@ -154,7 +156,8 @@ TEST(Formatter, CAndUnsetLocalesReadAsUsEnglish)
         LocaleScope locale(name);
         const QByteArray lang = qgetenv("LANG");
         qunsetenv("LANG");
-        EXPECT_EQ(Formatter::processLocaleName(Formatter::Category::Numeric), QStringLiteral("en_US")) << name;
+        EXPECT_EQ(Formatter::processLocaleName(Formatter::Category::Numeric), QStringLiteral("en_US"))
+            << name;
         qputenv("LANG", lang);
     }
     LocaleScope locale("fr_CA.UTF-8@euro");

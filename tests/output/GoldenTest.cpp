@@ -36,7 +36,8 @@ class Golden : public OutputFixture, public ::testing::WithParamInterface<Golden
 
 TEST_P(Golden, HtmlMatchesThePinnedFile)
 {
-    addDesign(readFile(golden(QStringLiteral("design/page.html"))), readFile(golden(QStringLiteral("design/item.html"))),
+    addDesign(readFile(golden(QStringLiteral("design/page.html"))),
+              readFile(golden(QStringLiteral("design/item.html"))),
               readFile(golden(QStringLiteral("design/style.css"))));
     QString html = GetParam().produce(*this);
     html.replace(environment.home(), QStringLiteral("$HOME"));
@@ -166,11 +167,10 @@ const GoldenCase cases[] = {
      }},
 };
 
-INSTANTIATE_TEST_SUITE_P(Documents, Golden, ::testing::ValuesIn(cases),
-                         [](const auto& info) {
-                             QString name = QString::fromLatin1(info.param.file);
-                             return name.remove(QLatin1Char('-')).remove(QStringLiteral(".html")).toStdString();
-                         });
+INSTANTIATE_TEST_SUITE_P(Documents, Golden, ::testing::ValuesIn(cases), [](const auto& info) {
+    QString name = QString::fromLatin1(info.param.file);
+    return name.remove(QLatin1Char('-')).remove(QStringLiteral(".html")).toStdString();
+});
 
 } // namespace
 } // namespace vorn::test

@@ -9,21 +9,18 @@ namespace vorn::test {
 
 namespace {
 
-const char* const labels[] = {"locInvoice",    "locQuote",     "locReminder",     "locInvoiceNumber", "locQuoteNumber",
-                              "locClientNumber", "locNumber",  "locDate",         "locDue",           "locExpiration",
-                              "locOverdue",    "locDispatched", "locSubtotal",    "locTotal",         "locTaxes",
-                              "locDiscount",   "locShipping",  "locDescription",  "locQuantity",      "locUnit",
-                              "locUnitPrice",  "locNet",       "locNo",           "locSKUNumber"};
+const char* const labels[] = {
+    "locInvoice",  "locQuote", "locReminder",  "locInvoiceNumber", "locQuoteNumber", "locClientNumber",
+    "locNumber",   "locDate",  "locDue",       "locExpiration",    "locOverdue",     "locDispatched",
+    "locSubtotal", "locTotal", "locTaxes",     "locDiscount",      "locShipping",    "locDescription",
+    "locQuantity", "locUnit",  "locUnitPrice", "locNet",           "locNo",          "locSKUNumber"};
 
 } // namespace
 
 OutputFixture::OutputFixture()
-    : locations(FileLocations::fromEnvironment()),
-      settings(locations.settingsFile()),
-      clock(QDateTime(QDate(2025, 3, 5), QTime(9, 30), QTimeZone::utc())),
-      context(nullptr, clock),
-      state(settings, ui, clock, locations),
-      preview(state, renderer)
+    : locations(FileLocations::fromEnvironment()), settings(locations.settingsFile()),
+      clock(QDateTime(QDate(2025, 3, 5), QTime(9, 30), QTimeZone::utc())), context(nullptr, clock),
+      state(settings, ui, clock, locations), preview(state, renderer)
 {
     qputenv("LC_ALL", "en_US.UTF-8");
     state.setContext(&context);
@@ -33,8 +30,10 @@ OutputFixture::OutputFixture()
     settings.setValue(QStringLiteral("locPageOf"), QStringLiteral("Page %ld of %ld"));
     settings.setValue(QStringLiteral("prefsName"), QStringLiteral("Tandrelo Studio"));
     settings.setValue(QStringLiteral("prefsSlogan"), QStringLiteral("Type & Layout"));
-    settings.setValue(QStringLiteral("prefsContact"), QStringLiteral("12 Harbour Road\nPortsmouth\nhello@tandrelo.test"));
-    settings.setValue(QStringLiteral("prefsLetterbox"), QStringLiteral("Tandrelo Studio · 12 Harbour Road · Portsmouth"));
+    settings.setValue(QStringLiteral("prefsContact"),
+                      QStringLiteral("12 Harbour Road\nPortsmouth\nhello@tandrelo.test"));
+    settings.setValue(QStringLiteral("prefsLetterbox"),
+                      QStringLiteral("Tandrelo Studio · 12 Harbour Road · Portsmouth"));
     settings.setValue(QStringLiteral("prefsDatePattern"), QStringLiteral("%DAY%.%MONTHSHORT%.%YEARLONG%"));
     settings.setValue(QStringLiteral("prefsCurrency"), QStringLiteral("EUR"));
     settings.setValue(QStringLiteral("tax1Title"), QStringLiteral("VAT"));
@@ -59,7 +58,8 @@ void OutputFixture::setValues(ManagedObject* object, const QVariantMap& values)
         object->setValue(it.key(), it.value());
 }
 
-ManagedObject* OutputFixture::addDesign(const QString& page, const QString& item, const QString& css, bool isDefault)
+ManagedObject* OutputFixture::addDesign(const QString& page, const QString& item, const QString& css,
+                                        bool isDefault)
 {
     ManagedObject* design = context.insertNewObject(Entity::Design);
     setValues(design, {{QStringLiteral("title"), QStringLiteral("Test")},
@@ -73,13 +73,14 @@ ManagedObject* OutputFixture::addDesign(const QString& page, const QString& item
 ManagedObject* OutputFixture::addDocument(int kind, const QVariantMap& values)
 {
     ManagedObject* document = context.insertNewObject(Entity::Invoice);
-    setValues(document, {{QStringLiteral("kind"), kind},
-                         {QStringLiteral("status"), 0},
-                         {QStringLiteral("title"), kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
-                         {QStringLiteral("number"), QStringLiteral("INV-2025-17")},
-                         {QStringLiteral("currency"), QStringLiteral("EUR")},
-                         {QStringLiteral("date"), QDateTime(QDate(2025, 3, 5), QTime(10, 0), QTimeZone::utc())},
-                         {QStringLiteral("due"), QDateTime(QDate(2025, 3, 19), QTime(10, 0), QTimeZone::utc())}});
+    setValues(document,
+              {{QStringLiteral("kind"), kind},
+               {QStringLiteral("status"), 0},
+               {QStringLiteral("title"), kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
+               {QStringLiteral("number"), QStringLiteral("INV-2025-17")},
+               {QStringLiteral("currency"), QStringLiteral("EUR")},
+               {QStringLiteral("date"), QDateTime(QDate(2025, 3, 5), QTime(10, 0), QTimeZone::utc())},
+               {QStringLiteral("due"), QDateTime(QDate(2025, 3, 19), QTime(10, 0), QTimeZone::utc())}});
     setValues(document, values);
     return document;
 }

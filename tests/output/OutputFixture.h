@@ -32,7 +32,8 @@ public:
     OutputFixture();
     ~OutputFixture() override;
 
-    ManagedObject* addDesign(const QString& page, const QString& item, const QString& css = {}, bool isDefault = true);
+    ManagedObject* addDesign(const QString& page, const QString& item, const QString& css = {},
+                             bool isDefault = true);
     ManagedObject* addDocument(int kind, const QVariantMap& values = {});
     ManagedObject* addItem(ManagedObject* document, const QVariantMap& values);
     void select(ManagedObject* document);
