@@ -4,7 +4,6 @@
 #include "invoicing/Keys.h"
 #include "invoicing/SentLock.h"
 #include "store/AppState.h"
-#include "store/Settings.h"
 #include "store/UserInterface.h"
 
 namespace vorn {
@@ -16,24 +15,10 @@ DiscountController::DiscountController(AppState& state, Calculator& calculator, 
 
 void DiscountController::showDiscountPopover()
 {
-    if (m_shown) {
-        m_shown = false;
-        Q_EMIT popoverChanged();
+    if (!m_shown &&
+        !SentLock::openChargePopover(m_state, key::isDiscountEnabled, key::discountTitle, key::locDiscount))
         return;
-    }
-    if (SentLock::refuse(m_state))
-        return;
-    ManagedObject* doc = m_state.currentInvoice();
-    if (!doc) {
-        m_state.ui().beep();
-        return;
-    }
-    // A document that never had a discount starts with the default title.
-    const QString defaultTitle = m_state.settings().stringValue(key::locDiscount);
-    if (!doc->boolValue(key::isDiscountEnabled) && doc->stringValue(key::discountTitle).isEmpty() &&
-        !defaultTitle.isEmpty())
-        doc->setValue(key::discountTitle, defaultTitle);
-    m_shown = true;
+    m_shown = !m_shown;
     Q_EMIT popoverChanged();
 }
 
@@ -55,9 +40,7 @@ void DiscountController::closeDiscountPopover()
 
 bool DiscountController::switchDiscountOff()
 {
-    if (SentLock::refuse(m_state))
-        return false;
-    ManagedObject* doc = m_state.currentInvoice();
+    ManagedObject* doc = SentLock::unlockedDocument(m_state);
     if (!doc)
         return false;
     ObjectContext* context = m_state.context();

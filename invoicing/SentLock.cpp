@@ -1,6 +1,8 @@
 #include "invoicing/SentLock.h"
 
 #include "store/AppState.h"
+#include "store/ManagedObject.h"
+#include "store/Settings.h"
 #include "store/UserInterface.h"
 
 namespace vorn {
@@ -22,6 +24,29 @@ bool SentLock::refuse(AppState& state)
     if (!state.isCurrentInvoiceSent())
         return false;
     state.ui().runAlert({title(), message(), {tr("OK")}, UserInterface::AlertStyle::Warning, false});
+    return true;
+}
+
+ManagedObject* SentLock::unlockedDocument(AppState& state)
+{
+    if (refuse(state))
+        return nullptr;
+    return state.currentInvoice();
+}
+
+bool SentLock::openChargePopover(AppState& state, const QString& enabledKey, const QString& titleKey,
+                                 const QString& defaultTitleKey)
+{
+    if (refuse(state))
+        return false;
+    ManagedObject* doc = state.currentInvoice();
+    if (!doc) {
+        state.ui().beep();
+        return false;
+    }
+    const QString defaultTitle = state.settings().stringValue(defaultTitleKey);
+    if (!doc->boolValue(enabledKey) && doc->stringValue(titleKey).isEmpty() && !defaultTitle.isEmpty())
+        doc->setValue(titleKey, defaultTitle);
     return true;
 }
 

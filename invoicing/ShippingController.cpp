@@ -18,26 +18,14 @@ ShippingController::ShippingController(AppState& state, Calculator& calculator, 
 
 void ShippingController::showShippingPopover()
 {
-    if (m_shown) {
-        m_shown = false;
-        Q_EMIT popoverChanged();
-        return;
+    if (!m_shown) {
+        if (!SentLock::openChargePopover(m_state, key::isShippingEnabled, key::shippingTitle,
+                                         key::locShipping))
+            return;
+        m_state.settings().setValue(key::shippingTabViewIndex,
+                                    m_state.settings().intValue(key::alwaysShowRecentShipping));
     }
-    if (SentLock::refuse(m_state))
-        return;
-    ManagedObject* doc = m_state.currentInvoice();
-    if (!doc) {
-        m_state.ui().beep();
-        return;
-    }
-    // A document that never had shipping starts with the default title.
-    const QString defaultTitle = m_state.settings().stringValue(key::locShipping);
-    if (!doc->boolValue(key::isShippingEnabled) && doc->stringValue(key::shippingTitle).isEmpty() &&
-        !defaultTitle.isEmpty())
-        doc->setValue(key::shippingTitle, defaultTitle);
-    m_state.settings().setValue(key::shippingTabViewIndex,
-                                m_state.settings().intValue(key::alwaysShowRecentShipping));
-    m_shown = true;
+    m_shown = !m_shown;
     Q_EMIT popoverChanged();
 }
 
@@ -121,9 +109,7 @@ void ShippingController::selectRecentShipping()
 
 bool ShippingController::switchShippingOff()
 {
-    if (SentLock::refuse(m_state))
-        return false;
-    ManagedObject* doc = m_state.currentInvoice();
+    ManagedObject* doc = SentLock::unlockedDocument(m_state);
     if (!doc)
         return false;
     ObjectContext* context = m_state.context();
