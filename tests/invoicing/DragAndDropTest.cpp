@@ -9,28 +9,15 @@ namespace {
 
 using DnD = QVDragAndDropArrayController;
 
-struct CountCase
+TEST(DragAndDrop, CountOfIndexesInRange)
 {
-    QList<int> indexes;
-    int location, length, count;
-};
-
-const CountCase countCases[] = {
-    {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1},    {{0, 4}, 1, 3, 0},    {{0, 4}, 4, 1, 1},
-    {{3}, 0, 3, 0},    {{}, 0, 10, 0},    {{0, 1, 2}, 0, 0, 0}, {{5, 6, 9}, 6, 4, 2},
-};
-
-class CountOfIndexes : public ::testing::TestWithParam<CountCase>
-{
-};
-
-TEST_P(CountOfIndexes, InRange)
-{
-    const CountCase& c = GetParam();
-    EXPECT_EQ(DnD::countOfIndexesInRange(c.indexes, c.location, c.length), c.count);
+    const std::tuple<QList<int>, int, int, int> cases[] = {
+        {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1},    {{0, 4}, 1, 3, 0},    {{0, 4}, 4, 1, 1},
+        {{3}, 0, 3, 0},    {{}, 0, 10, 0},    {{0, 1, 2}, 0, 0, 0}, {{5, 6, 9}, 6, 4, 2},
+    };
+    for (const auto& [indexes, location, length, count] : cases)
+        EXPECT_EQ(DnD::countOfIndexesInRange(indexes, location, length), count) << location << "+" << length;
 }
-
-INSTANTIATE_TEST_SUITE_P(DragAndDrop, CountOfIndexes, ::testing::ValuesIn(countCases));
 
 class DragAndDropTest : public InvoicingFixture
 {
@@ -38,10 +25,8 @@ protected:
     DragAndDropTest()
     {
         doc = document(1);
-        for (int i = 0; i < 5; ++i) {
-            ManagedObject* line = item(doc, float(i + 1), 1);
-            line->setValue(key::title, QString::number(i));
-        }
+        for (int i = 0; i < 5; ++i)
+            item(doc, float(i + 1), 1)->setValue(key::title, QString::number(i));
         select(doc);
     }
     QString order() const
@@ -98,41 +83,31 @@ INSTANTIATE_TEST_SUITE_P(DragAndDrop, MovingRows, ::testing::ValuesIn(moveCases)
     return name;
 });
 
-struct ValidateCase
+TEST_F(DragAndDropTest, DropsWithinTheTableMoveOthersCopy)
 {
-    bool fromThisTable, optionHeld;
-    int proposed;
-    DnD::Operation operation;
-    int row;
-};
-
-const ValidateCase validateCases[] = {
-    {true, false, 3, DnD::Move, 3},
-    {true, true, 3, DnD::Copy, 3},
-    {false, false, 1, DnD::Copy, 1},
-    {false, true, -4, DnD::Copy, 0},
-};
-
-class ValidatingDrops : public DragAndDropTest, public ::testing::WithParamInterface<ValidateCase>
-{
-};
-
-TEST_P(ValidatingDrops, OperationAndRow)
-{
-    const ValidateCase& c = GetParam();
-    const DnD::DropProposal p = dnd().validateDrop(c.fromThisTable, c.optionHeld, c.proposed);
-    EXPECT_EQ(p.operation, c.operation);
-    EXPECT_EQ(p.row, c.row);
-    EXPECT_TRUE(p.above);
+    // from this table, option key held, proposed row, operation, row
+    const std::tuple<bool, bool, int, DnD::Operation, int> cases[] = {
+        {true, false, 3, DnD::Move, 3},
+        {true, true, 3, DnD::Copy, 3},
+        {false, false, 1, DnD::Copy, 1},
+        {false, true, -4, DnD::Copy, 0},
+    };
+    for (const auto& [fromThisTable, optionHeld, proposed, operation, row] : cases) {
+        const DnD::DropProposal p = dnd().validateDrop(fromThisTable, optionHeld, proposed);
+        EXPECT_EQ(p.operation, operation) << proposed;
+        EXPECT_EQ(p.row, row) << proposed;
+        EXPECT_TRUE(p.above);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(DragAndDrop, ValidatingDrops, ::testing::ValuesIn(validateCases));
 
 TEST_F(DragAndDropTest, WrittenRowsMoveOnDropAndRecalculate)
 {
     DnD::Pasteboard pb = dnd().writeRows({2, 1});
     EXPECT_EQ(pb.types, (QStringList{DnD::copiedRowsType, DnD::movedRowsType}));
     EXPECT_FALSE(pb.copiedRows.has_value());
+    // With the option key held within the table there is nothing to copy.
+    EXPECT_FALSE(dnd().acceptDrop(pb, true, true, 4));
+    EXPECT_EQ(order(), QStringLiteral("01234"));
     EXPECT_TRUE(dnd().acceptDrop(pb, true, false, 4));
     EXPECT_EQ(order(), QStringLiteral("03124"));
     EXPECT_FLOAT_EQ(doc->floatValue(key::subAmount), 15.0f);
@@ -141,14 +116,6 @@ TEST_F(DragAndDropTest, WrittenRowsMoveOnDropAndRecalculate)
     DnD::Pasteboard single = dnd().writeRows({0});
     EXPECT_EQ(single.types.last(), DnD::stringType);
     EXPECT_EQ(single.string, QStringLiteral("0"));
-}
-
-TEST_F(DragAndDropTest, OptionDropWithinTheTableFindsNothingToCopy)
-{
-    DnD::Pasteboard pb = dnd().writeRows({1});
-    EXPECT_FALSE(dnd().acceptDrop(pb, true, true, 4));
-    EXPECT_EQ(order(), QStringLiteral("01234"));
-    EXPECT_EQ(doc->items().size(), 5);
 }
 
 TEST_F(DragAndDropTest, CopiedRowsAndUrlsInsertNewLines)

@@ -45,10 +45,8 @@ using NumberingTest = InvoicingFixture;
 
 TEST_F(NumberingTest, CountsComeFromTheListedDocuments)
 {
-    settings.setValue(key::invPattern, QStringLiteral("RE-%YEAR%-%COUNT%"));
-    settings.setValue(key::invCount, 100);
-    settings.setValue(key::quotPattern, QStringLiteral("Q%COUNT%"));
-    settings.setValue(key::quotCount, 10);
+    assign(settings, key::invPattern, "RE-%YEAR%-%COUNT%", key::invCount, 100, key::quotPattern, "Q%COUNT%",
+           key::quotCount, 10);
     document(1, 0);
     document(1, 3);
     document(1, 2);
@@ -77,8 +75,7 @@ TEST_F(NumberingTest, CountsComeFromTheListedDocuments)
 
 TEST_F(NumberingTest, ClientNumbersCountRememberedAddresses)
 {
-    settings.setValue(key::clientPattern, QStringLiteral("C-%COUNT%"));
-    settings.setValue(key::clientCount, 1000);
+    assign(settings, key::clientPattern, "C-%COUNT%", key::clientCount, 1000);
     NumberingController& n = controllers->numbering();
     EXPECT_EQ(n.clientNumberString(), QStringLiteral("C-1001"));
     state.addressesController().addObject(context.insertNewObject(Entity::Address));
