@@ -5,6 +5,9 @@
 #include "app/BackupController.h"
 #include "designs/DesignController.h"
 #include "invoicing/InvoicingControllers.h"
+#include "output/ExportController.h"
+#include "output/PdfRenderer.h"
+#include "output/PreviewController.h"
 #include "store/Clock.h"
 #include "store/PropertyList.h"
 #include "store/Settings.h"
@@ -38,7 +41,45 @@ AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clo
 
 AppDelegate::~AppDelegate()
 {
+    m_exporter.reset();
+    m_preview.reset();
+    m_renderer.reset();
     m_state.setContext(nullptr);
+}
+
+PdfRenderer& AppDelegate::renderer()
+{
+    if (!m_renderer)
+        m_renderer = std::make_unique<PdfRenderer>();
+    return *m_renderer;
+}
+
+PreviewController& AppDelegate::preview()
+{
+    if (!m_preview)
+        m_preview = std::make_unique<PreviewController>(m_state, renderer());
+    return *m_preview;
+}
+
+ExportController& AppDelegate::exporter()
+{
+    if (!m_exporter) {
+        m_exporter = std::make_unique<ExportController>(m_state, preview());
+        // Marking an invoice as sent changes its status: the invoice and the
+        // totals under the list are computed anew.
+        m_exporter->setRecalculation(
+            [this](ManagedObject* document) { m_invoicing->calculator().calculateInvoice(document); });
+    }
+    return *m_exporter;
+}
+
+void AppDelegate::generateReminder()
+{
+    GUIController& gui = m_invoicing->gui();
+    const GUIController::ReminderSheet sheet = gui.reminderSheet();
+    gui.cancelReminderSheet();
+    preview().generateReminder({sheet.title, sheet.conditions, sheet.footer});
+    gui.delayedToolbarLabel();
 }
 
 const ObjectModel* AppDelegate::managedObjectModel()
@@ -65,9 +106,11 @@ SqliteStore* AppDelegate::persistentStoreCoordinator()
     const QString directory = applicationFilesDirectory();
     const QFileInfo info(directory);
     if (info.exists() && !info.isDir()) {
-        ui().presentError(Error{errorDomain, ErrorCode::NotAFolder,
-                                tr("Expected a folder to store application data, found a file (%1).").arg(directory),
-                                {}});
+        ui().presentError(
+            Error{errorDomain,
+                  ErrorCode::NotAFolder,
+                  tr("Expected a folder to store application data, found a file (%1).").arg(directory),
+                  {}});
         return nullptr;
     }
     if (!info.exists() && !QDir().mkpath(directory)) {
@@ -97,7 +140,8 @@ ObjectContext* AppDelegate::managedObjectContext()
                                 tr("There was an error building up the data file.")});
         return nullptr;
     }
-    m_context = std::make_unique<ObjectContext>(std::move(m_coordinator), m_state.clock(), *managedObjectModel());
+    m_context =
+        std::make_unique<ObjectContext>(std::move(m_coordinator), m_state.clock(), *managedObjectModel());
     m_state.setContext(m_context.get());
     return m_context.get();
 }
@@ -131,7 +175,8 @@ void AppDelegate::applicationDidFinishLaunching()
     // First start: seed the designs and write the English settings. Not with
     // an unreadable settings file (which would seed a second time) nor without
     // a store (there would be nothing to seed into).
-    if (!settings().boolValue(QStringLiteral("firstStartEverDone")) && !settings().isReadOnly() && m_context) {
+    if (!settings().boolValue(QStringLiteral("firstStartEverDone")) && !settings().isReadOnly() &&
+        m_context) {
         loadTemplates();
         loadDefaults();
         settings().setValue(QStringLiteral("firstStartEverDone"), true);
@@ -175,7 +220,8 @@ Result<QVariantMap> AppDelegate::defaultList(const QString& name)
         return Error::make(ErrorCode::FileNotFound, tr("The default settings “%1” are missing.").arg(name));
     auto list = PropertyList::read(file.readAll());
     if (!list || list.value().typeId() != QMetaType::QVariantMap)
-        return Error::make(ErrorCode::FileReadUnknown, tr("The default settings “%1” are damaged.").arg(name));
+        return Error::make(ErrorCode::FileReadUnknown,
+                           tr("The default settings “%1” are damaged.").arg(name));
     return list.value().toMap();
 }
 
@@ -211,7 +257,8 @@ void AppDelegate::saveAction()
         return;
     if (!m_context->commitEditing())
         qCWarning(lcApp).noquote() << QStringLiteral("%1:%2 unable to commit editing before saving")
-                                          .arg(QLatin1String(metaObject()->className()), QLatin1String("saveAction:"));
+                                          .arg(QLatin1String(metaObject()->className()),
+                                               QLatin1String("saveAction:"));
     if (Status s = m_context->save(); !s)
         ui().presentError(s.error());
 }
@@ -219,7 +266,8 @@ void AppDelegate::saveAction()
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
 {
     Settings& s = settings();
-    const QList<ManagedObject*> documents = m_context ? m_context->fetch(Entity::Invoice) : QList<ManagedObject*>();
+    const QList<ManagedObject*> documents =
+        m_context ? m_context->fetch(Entity::Invoice) : QList<ManagedObject*>();
     s.setValue(QStringLiteral("fetchedObjectsCount"), qint64(documents.size()));
 
     auto finish = [&](bool fine) {
@@ -264,12 +312,13 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
 bool AppDelegate::applicationOpenFile(const QString& path)
 {
     Q_UNUSED(path);
-    ui().runAlert({tr("Vorn, Vorn Documents, and the Vorn Database"),
-                   tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - please use "
-                      "the 'File Menu' to open documents and to restore the Vorn database."),
-                   {tr("OK")},
-                   UserInterface::AlertStyle::Informational,
-                   false});
+    ui().runAlert(
+        {tr("Vorn, Vorn Documents, and the Vorn Database"),
+         tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - please use "
+            "the 'File Menu' to open documents and to restore the Vorn database."),
+         {tr("OK")},
+         UserInterface::AlertStyle::Informational,
+         false});
     return true;
 }
 

@@ -16,7 +16,10 @@ namespace vorn {
 class AssiController;
 class BackupController;
 class Clock;
+class ExportController;
 class InvoicingControllers;
+class PdfRenderer;
+class PreviewController;
 class Settings;
 class UserInterface;
 
@@ -49,6 +52,14 @@ public:
     AssiController& assiController() { return *m_assi; }
     // Documents, numbers, arithmetic, items, shipping, discount, addresses, list filter.
     InvoicingControllers& invoicing() { return *m_invoicing; }
+    // Output: one renderer for the preview, the export sheet and the design
+    // preview, made on first use (the web engine starts with the first job).
+    PdfRenderer& renderer();
+    PreviewController& preview();
+    ExportController& exporter();
+    // The reminder sheet's confirming button: the sheet closes and the
+    // preview window shows the current invoice as a payment reminder.
+    void generateReminder();
     // Whether launching runs the safety copy with its repair question and
     // opens the setup assistant's first run (the command-line tool does not).
     void setLaunchChecksEnabled(bool enabled) { m_launchChecks = enabled; }
@@ -75,7 +86,11 @@ public:
     // The "Save" command.
     void saveAction();
 
-    enum class TerminateReply { Now, Cancel };
+    enum class TerminateReply
+    {
+        Now,
+        Cancel
+    };
     TerminateReply applicationShouldTerminate();
     // A file dropped on the application is never opened directly.
     bool applicationOpenFile(const QString& path);
@@ -96,6 +111,9 @@ private:
     std::unique_ptr<AssiController> m_assi;
     bool m_launchChecks = true;
     std::unique_ptr<InvoicingControllers> m_invoicing;
+    std::unique_ptr<PdfRenderer> m_renderer;
+    std::unique_ptr<PreviewController> m_preview;
+    std::unique_ptr<ExportController> m_exporter;
 };
 
 } // namespace vorn

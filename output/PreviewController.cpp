@@ -166,6 +166,25 @@ PdfRenderer::Job PreviewController::renderJob(const QString& html) const
         {m_state.locations().logoCache()}};
 }
 
+void PreviewController::showPreview()
+{
+    if (m_windowVisible) {
+        previewWindowClosed();
+        return;
+    }
+    m_windowVisible = true;
+    Q_EMIT previewWindowChanged(true);
+    generatePreview();
+}
+
+void PreviewController::previewWindowClosed()
+{
+    if (!m_windowVisible)
+        return;
+    m_windowVisible = false;
+    Q_EMIT previewWindowChanged(false);
+}
+
 void PreviewController::generatePreview()
 {
     m_state.isReminderAction = false;
@@ -178,6 +197,10 @@ void PreviewController::generateReminder(ReminderTexts texts)
     m_reminder = std::move(texts);
     m_state.isReminderAction = true;
     m_state.notifyStateChanged();
+    if (!m_windowVisible) {
+        m_windowVisible = true;
+        Q_EMIT previewWindowChanged(true);
+    }
     generate();
 }
 

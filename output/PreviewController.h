@@ -51,9 +51,17 @@ public:
     // The rendering job of a page of HTML on the paper of the settings.
     PdfRenderer::Job renderJob(const QString& html) const;
 
+    // The preview window's command: closes the window when it is open,
+    // otherwise opens it and makes a fresh preview.
+    void showPreview();
+    // The window was closed by other means (its close button).
+    void previewWindowClosed();
+    bool isPreviewWindowVisible() const { return m_windowVisible; }
+
     // Lays out the current document and makes the preview PDF.
     void generatePreview();
-    // The same as a payment reminder with the sheet's texts.
+    // The same as a payment reminder with the sheet's texts, shown in the
+    // preview window.
     void generateReminder(ReminderTexts texts);
     // Writes rendered PDF data to pdfPath (replacing the last one) and
     // reports the result; a failure shows the "Ooops!" alert.
@@ -66,6 +74,8 @@ Q_SIGNALS:
     // The preview PDF at path is ready to be shown.
     void previewReady(const QString& path);
     void previewFailed();
+    // The preview window is to be shown (centred, in front) or closed.
+    void previewWindowChanged(bool visible);
 
 private:
     void generate();
@@ -76,6 +86,7 @@ private:
     Formatter m_formatter;
     ReminderTexts m_reminder;
     bool m_generating = false;
+    bool m_windowVisible = false;
     quint64 m_generation = 0;
 };
 

@@ -1,9 +1,16 @@
 #include "ui/MainWindow.h"
 
 #include "app/AppDelegate.h"
+#include "invoicing/InvoicingControllers.h"
+#include "output/ExportController.h"
+#include "output/PreviewController.h"
+#include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/DocumentListModel.h"
 #include "ui/DocumentListView.h"
+#include "ui/ExportSheet.h"
+#include "ui/PreviewWindow.h"
+#include "ui/ReminderSheet.h"
 #include "ui/SelectionSync.h"
 #include "ui/UiLog.h"
 
@@ -33,6 +40,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     setWindowTitle(QGuiApplication::applicationDisplayName());
     setUnifiedTitleAndToolBarOnMac(true);
     createActions();
+    createDocumentActions();
     createMenus();
     createToolBar();
     createCentralArea();
@@ -44,7 +52,12 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
         if (key == QLatin1String("prefsCurrency"))
             updateTotals();
     });
+    connect(&state, &AppState::currentInvoiceChanged, this, &MainWindow::validateCommands);
+    connect(&state, &AppState::stateChanged, this, &MainWindow::validateCommands);
+    connect(&m_app.invoicing().gui(), &GUIController::toolbarChanged, this, &MainWindow::validateCommands);
+    createOutputWindows();
     contextChanged();
+    validateCommands();
     restoreFrame();
 }
 
@@ -88,7 +101,16 @@ void MainWindow::createMenus()
 {
     m_fileMenu = menuBar()->addMenu(tr("&File"));
     m_fileMenu->setObjectName(QStringLiteral("fileMenu"));
+    m_fileMenu->addAction(command(QStringLiteral("addInvoice")));
+    m_fileMenu->addAction(command(QStringLiteral("addQuote")));
+    m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_saveAction);
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(command(QStringLiteral("showPreview")));
+    m_fileMenu->addAction(command(QStringLiteral("printInvoice")));
+    m_fileMenu->addAction(command(QStringLiteral("pdfInvoice")));
+    m_fileMenu->addAction(command(QStringLiteral("emailInvoice")));
+    m_fileMenu->addAction(command(QStringLiteral("exportInvoice")));
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_quitAction);
 
@@ -99,6 +121,17 @@ void MainWindow::createMenus()
     // Edits made in this pass of the event loop may not have announced
     // themselves yet.
     connect(m_editMenu, &QMenu::aboutToShow, this, &MainWindow::updateUndoActions);
+
+    m_documentMenu = menuBar()->addMenu(tr("&Document"));
+    m_documentMenu->setObjectName(QStringLiteral("documentMenu"));
+    m_documentMenu->addAction(command(QStringLiteral("duplicateInvoice")));
+    m_documentMenu->addAction(command(QStringLiteral("convertQuoteToInvoice")));
+    m_documentMenu->addAction(command(QStringLiteral("setDispatched")));
+    m_documentMenu->addSeparator();
+    m_documentMenu->addAction(command(QStringLiteral("openReminderSheet")));
+    m_documentMenu->addSeparator();
+    m_documentMenu->addAction(command(QStringLiteral("deleteInvoice")));
+    connect(m_documentMenu, &QMenu::aboutToShow, this, &MainWindow::validateCommands);
 }
 
 void MainWindow::createToolBar()
@@ -110,10 +143,109 @@ void MainWindow::createToolBar()
     m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     m_toolBar->setIconSize(QSize(24, 24));
     m_toolBar->toggleViewAction()->setEnabled(false);
-    m_toolBar->addAction(m_saveAction);
+    m_toolBar->addAction(command(QStringLiteral("addInvoice")));
+    m_toolBar->addAction(command(QStringLiteral("addQuote")));
+    m_toolBar->addAction(command(QStringLiteral("deleteInvoice")));
     m_toolBar->addSeparator();
+    m_toolBar->addAction(m_saveAction);
     m_toolBar->addAction(m_undoAction);
     m_toolBar->addAction(m_redoAction);
+    m_toolBar->addSeparator();
+    m_toolBar->addAction(command(QStringLiteral("showPreview")));
+    m_toolBar->addAction(command(QStringLiteral("printInvoice")));
+    m_toolBar->addAction(command(QStringLiteral("pdfInvoice")));
+    m_toolBar->addAction(command(QStringLiteral("emailInvoice")));
+    m_toolBar->addAction(command(QStringLiteral("openReminderSheet")));
+}
+
+QAction* MainWindow::addCommand(const QString& name, const char* theme, int fallback, const QString& text,
+                                const QKeySequence& keys, std::function<void()> run)
+{
+    // Desktops without an icon theme get the style's own pictures.
+    const QIcon icon =
+        QIcon::fromTheme(QLatin1String(theme), style()->standardIcon(QStyle::StandardPixmap(fallback)));
+    auto* action = new QAction(icon, text, this);
+    action->setObjectName(name);
+    action->setShortcut(keys);
+    connect(action, &QAction::triggered, this, [run = std::move(run)] { run(); });
+    m_commands.insert(name, action);
+    return action;
+}
+
+void MainWindow::createDocumentActions()
+{
+    InvoicingControllers& invoicing = m_app.invoicing();
+    addCommand(QStringLiteral("addInvoice"), "document-new", QStyle::SP_FileIcon, tr("New &Invoice"),
+               QKeySequence::New, [&invoicing] { invoicing.data().addInvoice(); })
+        ->setIconText(tr("Invoice"));
+    addCommand(QStringLiteral("addQuote"), "document-new", QStyle::SP_FileDialogNewFolder, tr("New &Quote"),
+               QKeySequence(tr("Ctrl+Shift+N")), [&invoicing] { invoicing.data().addQuote(); })
+        ->setIconText(tr("Quote"));
+    addCommand(QStringLiteral("duplicateInvoice"), "edit-copy", QStyle::SP_FileDialogDetailedView,
+               tr("D&uplicate"), QKeySequence(tr("Ctrl+D")),
+               [&invoicing] { invoicing.data().duplicateInvoice(); });
+    addCommand(QStringLiteral("convertQuoteToInvoice"), "document-edit", QStyle::SP_BrowserReload,
+               tr("&Convert Quote to Invoice…"), {},
+               [&invoicing] { invoicing.data().convertQuoteToInvoice(); });
+    addCommand(QStringLiteral("setDispatched"), "mail-mark-read", QStyle::SP_DialogYesButton,
+               tr("Mark as &Dispatched Now"), {}, [&invoicing] { invoicing.data().setDispatched(); });
+    addCommand(QStringLiteral("deleteInvoice"), "edit-delete", QStyle::SP_TrashIcon, tr("Delete Invoice"),
+               QKeySequence::Delete, [&invoicing] { invoicing.data().deleteInvoice(); });
+    addCommand(QStringLiteral("openReminderSheet"), "appointment-soon", QStyle::SP_MessageBoxWarning,
+               tr("Payment &Reminder…"), {}, [&invoicing] { invoicing.gui().openReminderSheet(); })
+        ->setIconText(tr("Reminder"));
+
+    // The output commands of the main window put their sheet on it.
+    addCommand(QStringLiteral("showPreview"), "document-print-preview", QStyle::SP_FileDialogContentsView,
+               tr("Pre&view"), QKeySequence(tr("Ctrl+Y")), [this] { m_app.preview().showPreview(); })
+        ->setIconText(tr("Preview"));
+    addCommand(QStringLiteral("printInvoice"), "document-print", QStyle::SP_DesktopIcon, tr("&Print…"),
+               QKeySequence::Print, [this] { m_app.exporter().printInvoice(false); })
+        ->setIconText(tr("Print"));
+    addCommand(QStringLiteral("pdfInvoice"), "application-pdf", QStyle::SP_DriveFDIcon, tr("Export as P&DF…"),
+               QKeySequence(tr("Ctrl+Shift+E")), [this] { m_app.exporter().pdfInvoice(false); })
+        ->setIconText(tr("PDF"));
+    addCommand(QStringLiteral("emailInvoice"), "mail-send", QStyle::SP_ArrowForward, tr("Send by &E-mail…"),
+               {}, [this] { m_app.exporter().emailInvoice(false); })
+        ->setIconText(tr("E-mail"));
+    addCommand(QStringLiteral("exportInvoice"), "document-export", QStyle::SP_DialogSaveButton,
+               tr("E&xport Document…"), QKeySequence(tr("Ctrl+E")),
+               [this] { m_app.exporter().exportInvoice(false); })
+        ->setIconText(tr("Export"));
+}
+
+void MainWindow::createOutputWindows()
+{
+    m_previewWindow = new PreviewWindow(m_app, this);
+    m_exportSheet = new ExportSheet(m_app, this);
+    m_reminderSheet = new ReminderSheet(m_app, this);
+    connect(&m_app.exporter(), &ExportController::exportSheetRequested, this, [this](bool onPreviewWindow) {
+        m_exportSheet->present(onPreviewWindow && m_previewWindow->isVisible()
+                                   ? static_cast<QWidget*>(m_previewWindow)
+                                   : static_cast<QWidget*>(this));
+    });
+}
+
+void MainWindow::validateCommands()
+{
+    const AppState& state = m_app.state();
+    const ManagedObject* document = state.currentInvoice();
+    const GUIController& gui = m_app.invoicing().gui();
+    const bool hasStore = state.context() != nullptr;
+    for (const QString& name : {QStringLiteral("deleteInvoice"), QStringLiteral("openReminderSheet")}) {
+        QAction* action = command(name);
+        const GUIController::Validation validation = gui.validateUserInterfaceItem(name);
+        action->setEnabled(validation.enabled);
+        if (validation.title)
+            action->setText(*validation.title);
+    }
+    command(QStringLiteral("deleteInvoice"))->setIconText(command(QStringLiteral("deleteInvoice"))->text());
+    command(QStringLiteral("addInvoice"))->setEnabled(hasStore);
+    command(QStringLiteral("addQuote"))->setEnabled(hasStore);
+    command(QStringLiteral("duplicateInvoice"))->setEnabled(document != nullptr);
+    command(QStringLiteral("convertQuoteToInvoice"))
+        ->setEnabled(document && document->intValue(QStringLiteral("kind")) == 0);
+    command(QStringLiteral("setDispatched"))->setEnabled(document != nullptr);
 }
 
 void MainWindow::createCentralArea()

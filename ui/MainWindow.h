@@ -4,6 +4,8 @@
 #include <QMainWindow>
 #include <QPointer>
 
+#include <functional>
+
 class QAction;
 class QLabel;
 class QMenu;
@@ -14,6 +16,9 @@ namespace vorn {
 class AppDelegate;
 class DocumentListModel;
 class DocumentListView;
+class ExportSheet;
+class PreviewWindow;
+class ReminderSheet;
 class SelectionSync;
 
 // The main window: the menus, the toolbar, the list of documents and the
@@ -32,6 +37,11 @@ public:
     DocumentListModel* documentListModel() const { return m_model; }
     QMenu* fileMenu() const { return m_fileMenu; }
     QMenu* editMenu() const { return m_editMenu; }
+    QMenu* documentMenu() const { return m_documentMenu; }
+    PreviewWindow* previewWindow() const { return m_previewWindow; }
+    ExportSheet* exportSheet() const { return m_exportSheet; }
+    // Output and document commands by name ("printInvoice", "showPreview", ...).
+    QAction* command(const QString& name) const { return m_commands.value(name); }
     QToolBar* mainToolBar() const { return m_toolBar; }
     QAction* saveAction() const { return m_saveAction; }
     QAction* undoAction() const { return m_undoAction; }
@@ -50,6 +60,8 @@ public:
 
     void updateUndoActions();
     void updateTotals();
+    // Enables and names the commands for the current document.
+    void validateCommands();
 
 protected:
     void closeEvent(QCloseEvent* event) override;
@@ -59,6 +71,10 @@ private:
     void createMenus();
     void createToolBar();
     void createCentralArea();
+    void createDocumentActions();
+    void createOutputWindows();
+    QAction* addCommand(const QString& name, const char* theme, int fallback, const QString& text,
+                        const QKeySequence& keys, std::function<void()> run);
     void contextChanged();
 
     AppDelegate& m_app;
@@ -67,6 +83,11 @@ private:
     SelectionSync* m_selectionSync = nullptr;
     QMenu* m_fileMenu = nullptr;
     QMenu* m_editMenu = nullptr;
+    QMenu* m_documentMenu = nullptr;
+    PreviewWindow* m_previewWindow = nullptr;
+    ExportSheet* m_exportSheet = nullptr;
+    ReminderSheet* m_reminderSheet = nullptr;
+    QHash<QString, QPointer<QAction>> m_commands;
     QToolBar* m_toolBar = nullptr;
     QAction* m_saveAction = nullptr;
     QAction* m_quitAction = nullptr;

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QDesktopServices>
+#include <QDialog>
 #include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -43,9 +44,15 @@ QMessageBox::Icon iconFor(UserInterface::AlertStyle style)
 
 QWidget* QtUserInterface::dialogParent() const
 {
+    // A dialog belongs to the window the user is working in (the preview
+    // window's commands put theirs on it), else to the main window.
+    QWidget* active = QApplication::activeWindow();
+    if (active && m_window && active->window()->parentWidget() == m_window.data() &&
+        !qobject_cast<QDialog*>(active))
+        return active;
     if (m_window && m_window->isVisible())
         return m_window;
-    return QApplication::activeWindow();
+    return active;
 }
 
 QMessageBox* QtUserInterface::createAlertBox(const Alert& alert, QWidget* parent)
@@ -229,14 +236,16 @@ QString QtUserInterface::findApplication(const QString& identifier)
 
 QPageSize QtUserInterface::pageSizeFor(const QString& paperName, const QSizeF& fallbackPoints)
 {
-    static const QHash<QString, QPageSize::PageSizeId> papers{{QStringLiteral("na-letter"), QPageSize::Letter},
-                                                              {QStringLiteral("na-legal"), QPageSize::Legal},
-                                                              {QStringLiteral("iso-a4"), QPageSize::A4},
-                                                              {QStringLiteral("jis-b4"), QPageSize::JisB4},
-                                                              {QStringLiteral("jis-b5"), QPageSize::JisB5}};
+    static const QHash<QString, QPageSize::PageSizeId> papers{
+        {QStringLiteral("na-letter"), QPageSize::Letter},
+        {QStringLiteral("na-legal"), QPageSize::Legal},
+        {QStringLiteral("iso-a4"), QPageSize::A4},
+        {QStringLiteral("jis-b4"), QPageSize::JisB4},
+        {QStringLiteral("jis-b5"), QPageSize::JisB5}};
     if (papers.contains(paperName))
         return QPageSize(papers.value(paperName));
-    return fallbackPoints.isEmpty() ? QPageSize(QPageSize::Letter) : QPageSize(fallbackPoints, QPageSize::Point);
+    return fallbackPoints.isEmpty() ? QPageSize(QPageSize::Letter)
+                                    : QPageSize(fallbackPoints, QPageSize::Point);
 }
 
 bool QtUserInterface::runPrintOperation(const PrintJob& job)

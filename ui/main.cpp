@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 #include "app/InstanceLock.h"
+#include "output/PdfRenderer.h"
 #include "services/ZRUpdateChecker.h"
 #include "store/Clock.h"
 #include "store/FileLocations.h"
@@ -17,6 +18,9 @@ using namespace vorn;
 
 int main(int argc, char** argv)
 {
+    // The preview and every output command lay documents out in a web engine,
+    // which must be set up before the application object exists.
+    PdfRenderer::prepareProcess(false);
     VornApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("Vorn"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vorn"));

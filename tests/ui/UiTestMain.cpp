@@ -1,3 +1,5 @@
+#include "output/PdfRenderer.h"
+
 #include <QApplication>
 #include <QLocale>
 
@@ -6,8 +8,8 @@
 int main(int argc, char** argv)
 {
     ::testing::InitGoogleTest(&argc, argv);
-    qputenv("QT_QPA_PLATFORM",
-            qgetenv("QT_QPA_PLATFORM").isEmpty() ? QByteArray("offscreen") : qgetenv("QT_QPA_PLATFORM"));
+    // The output windows lay documents out in the web engine.
+    vorn::PdfRenderer::prepareProcess(true);
     QApplication application(argc, argv);
     // Amounts and dates in the expectations are written the American way.
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
