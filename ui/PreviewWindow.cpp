@@ -11,8 +11,8 @@
 #include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
-#include <QLabel>
 #include <QHBoxLayout>
+#include <QLabel>
 #include <QListWidget>
 #include <QPdfPageNavigator>
 #include <QPdfView>
@@ -223,7 +223,12 @@ void PreviewWindow::fillThumbnails()
     const qreal ratio = devicePixelRatioF();
     for (int page = 0; page < m_pages->pageCount(); ++page) {
         const QImage image = m_pages->pageImage(page, m_thumbnails->iconSize(), ratio);
-        auto* item = new QListWidgetItem(QIcon(QPixmap::fromImage(image)), QString::number(page + 1));
+        // The same picture when selected: the selection shows in the page
+        // number, not as a tint over the page.
+        const QPixmap picture = QPixmap::fromImage(image);
+        QIcon icon(picture);
+        icon.addPixmap(picture, QIcon::Selected);
+        auto* item = new QListWidgetItem(icon, QString::number(page + 1));
         item->setTextAlignment(Qt::AlignHCenter);
         m_thumbnails->addItem(item);
     }

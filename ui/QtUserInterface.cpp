@@ -264,7 +264,13 @@ bool QtUserInterface::runPrintOperation(const PrintJob& job)
     }
     QPainter painter;
     if (!painter.begin(&printer)) {
-        qCWarning(lcUi) << "could not start printing" << job.title;
+        qCWarning(lcUi) << "could not start printing" << job.title << printer.printerName();
+        const QString reason =
+            printer.printerName().isEmpty()
+                ? tr("No printer is set up. Add a printer in the system settings, or export the document as "
+                     "a PDF file and print that.")
+                : tr("The printer “%1” did not accept the job.").arg(printer.printerName());
+        runAlert({tr("The document could not be printed."), reason, {tr("OK")}, AlertStyle::Warning, true});
         return false;
     }
     const int first = printer.fromPage() > 0 ? printer.fromPage() : 1;
