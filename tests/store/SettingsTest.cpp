@@ -2,8 +2,6 @@
 #include "store/PropertyList.h"
 #include "tests/store/StoreTestSupport.h"
 
-#include <QDir>
-
 namespace vorn::test {
 namespace {
 
@@ -11,12 +9,12 @@ class SettingsTest : public ::testing::Test
 {
 protected:
     QString file() const { return m_dir.filePath(QStringLiteral("config/com.tandrelo.Orvandel.plist")); }
-    void writeFile(const QByteArray& bytes)
+    // What the file holds, read by settings of their own.
+    QVariantMap stored() const
     {
-        QDir().mkpath(QFileInfo(file()).absolutePath());
-        QFile f(file());
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
+        Settings settings(file());
+        EXPECT_TRUE(settings.load());
+        return settings.dictionaryRepresentation();
     }
     QTemporaryDir m_dir;
 };
@@ -26,66 +24,49 @@ TEST_F(SettingsTest, MissingFileIsEmptyAndIsNotCreatedUntilSomethingChanges)
     Settings settings(file());
     ASSERT_TRUE(settings.load());
     EXPECT_TRUE(settings.dictionaryRepresentation().isEmpty());
-    EXPECT_FALSE(settings.value(QStringLiteral("locInvoice")).isValid());
-    EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")), QString());
-    EXPECT_FALSE(settings.boolValue(QStringLiteral("firstStartEverDone")));
-    EXPECT_EQ(settings.intValue(QStringLiteral("invCount")), 0);
+    EXPECT_FALSE(settings.value("locInvoice").isValid());
+    EXPECT_EQ(settings.stringValue("locInvoice"), QString());
+    EXPECT_FALSE(settings.boolValue("firstStartEverDone"));
+    EXPECT_EQ(settings.intValue("invCount"), 0);
     ASSERT_TRUE(settings.synchronize());
     EXPECT_FALSE(QFile::exists(file()));
 }
 
-TEST_F(SettingsTest, AllSixTypesRoundTripThroughTheFile)
+TEST_F(SettingsTest, EveryTypeRoundTripsThroughTheFileAsItself)
 {
     QByteArray logo;
     for (int i = 0; i < 300; ++i)
         logo.append(char(i * 7));
-    const QDateTime checked = utc(2026, 11, 21, 9, 52, 13);
-    const QDateTime old = utc(1999, 12, 31, 23, 59, 59);
+    const QVariantMap values{{"tax1Enabled", true},
+                             {"tax2Enabled", false},
+                             {"invCount", qint64(1000)},
+                             {"negative", qint64(-42)},
+                             {"large", qint64(1) << 40},
+                             {"tax1Rate", 0.07},
+                             {"locInvoice", QString("Rechnung № 1 & <b>\"ü\"</b>\nzweite Zeile")},
+                             {"prefsName", QString("")},
+                             {"prefsLogo", logo},
+                             {"ZRUpdateChecker:LastCheckDate", utc(2026, 11, 21, 9, 52, 13)},
+                             {"oldDate", utc(1999, 12, 31, 23, 59, 59)}};
     {
         Settings settings(file());
         ASSERT_TRUE(settings.load());
-        settings.setValue(QStringLiteral("tax1Enabled"), true);
-        settings.setValue(QStringLiteral("tax2Enabled"), false);
-        settings.setValue(QStringLiteral("invCount"), qint64(1000));
-        settings.setValue(QStringLiteral("negative"), qint64(-42));
-        settings.setValue(QStringLiteral("large"), qint64(1) << 40);
-        settings.setValue(QStringLiteral("tax1Rate"), 0.07);
-        settings.setValue(QStringLiteral("tax2Rate"), 0.19f);
-        settings.setValue(QStringLiteral("locInvoice"),
-                          QStringLiteral("Rechnung № 1 & <b>\"ü\"</b>\nzweite Zeile"));
-        settings.setValue(QStringLiteral("prefsName"), QString(""));
-        settings.setValue(QStringLiteral("prefsLogo"), logo);
-        settings.setValue(QStringLiteral("ZRUpdateChecker:LastCheckDate"), checked);
-        settings.setValue(QStringLiteral("oldDate"), old);
+        for (auto it = values.cbegin(); it != values.cend(); ++it)
+            settings.setValue(it.key(), it.value());
+        settings.setValue("tax2Rate", 0.19f);
         ASSERT_TRUE(settings.synchronize());
     }
     Settings settings(file());
     ASSERT_TRUE(settings.load());
     EXPECT_FALSE(settings.isReadOnly());
-    EXPECT_TRUE(settings.boolValue(QStringLiteral("tax1Enabled")));
-    EXPECT_TRUE(settings.hasValue(QStringLiteral("tax2Enabled")));
-    EXPECT_FALSE(settings.boolValue(QStringLiteral("tax2Enabled")));
-    EXPECT_EQ(settings.intValue(QStringLiteral("invCount")), 1000);
-    EXPECT_EQ(settings.intValue(QStringLiteral("negative")), -42);
-    EXPECT_EQ(settings.intValue(QStringLiteral("large")), qint64(1) << 40);
-    EXPECT_EQ(settings.doubleValue(QStringLiteral("tax1Rate")), 0.07);
-    EXPECT_EQ(settings.floatValue(QStringLiteral("tax1Rate")), 0.07f);
-    EXPECT_EQ(settings.floatValue(QStringLiteral("tax2Rate")), 0.19f);
-    EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")),
-              QStringLiteral("Rechnung № 1 & <b>\"ü\"</b>\nzweite Zeile"));
-    EXPECT_TRUE(settings.hasValue(QStringLiteral("prefsName")));
-    EXPECT_EQ(settings.stringValue(QStringLiteral("prefsName")), QString(""));
-    EXPECT_EQ(settings.dataValue(QStringLiteral("prefsLogo")), logo);
-    EXPECT_EQ(settings.dateValue(QStringLiteral("ZRUpdateChecker:LastCheckDate")), checked);
-    EXPECT_EQ(settings.dateValue(QStringLiteral("oldDate")), old);
-    // Each kind comes back as its own type, not as text.
     const QVariantMap all = settings.dictionaryRepresentation();
-    EXPECT_EQ(all.value(QStringLiteral("tax1Enabled")).typeId(), QMetaType::Bool);
-    EXPECT_EQ(all.value(QStringLiteral("invCount")).typeId(), QMetaType::LongLong);
-    EXPECT_EQ(all.value(QStringLiteral("tax1Rate")).typeId(), QMetaType::Double);
-    EXPECT_EQ(all.value(QStringLiteral("prefsLogo")).typeId(), QMetaType::QByteArray);
-    EXPECT_EQ(all.value(QStringLiteral("oldDate")).typeId(), QMetaType::QDateTime);
-    EXPECT_EQ(all.size(), 12);
+    EXPECT_EQ(all.size(), values.size() + 1);
+    for (auto it = values.cbegin(); it != values.cend(); ++it) {
+        EXPECT_EQ(all.value(it.key()), it.value()) << qPrintable(it.key());
+        EXPECT_EQ(all.value(it.key()).typeId(), it.value().typeId()) << qPrintable(it.key());
+    }
+    EXPECT_EQ(settings.floatValue("tax1Rate"), 0.07f);
+    EXPECT_EQ(settings.floatValue("tax2Rate"), 0.19f);
 }
 
 TEST_F(SettingsTest, RegisteredDefaultsAnswerReadsButAreNeverWritten)
@@ -93,95 +74,59 @@ TEST_F(SettingsTest, RegisteredDefaultsAnswerReadsButAreNeverWritten)
     {
         Settings settings(file());
         ASSERT_TRUE(settings.load());
-        settings.registerDefaults({{QStringLiteral("locInvoice"), QStringLiteral("Invoice")},
-                                   {QStringLiteral("tax1Rate"), 0.07},
-                                   {QStringLiteral("invHaveNumber"), true}});
-        EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")), QStringLiteral("Invoice"));
-        EXPECT_TRUE(settings.boolValue(QStringLiteral("invHaveNumber")));
-        EXPECT_FALSE(settings.hasValue(QStringLiteral("locInvoice")));
+        settings.registerDefaults(
+            {{"locInvoice", "Invoice"}, {"locQuote", "Quote"}, {"tax1Rate", 0.07}, {"invHaveNumber", true}});
+        EXPECT_EQ(settings.stringValue("locInvoice"), "Invoice");
+        EXPECT_TRUE(settings.boolValue("invHaveNumber"));
+        EXPECT_FALSE(settings.hasValue("locInvoice"));
         // A real value equal to the fallback is still a real value.
-        settings.setValue(QStringLiteral("invHaveNumber"), true);
-        settings.setValue(QStringLiteral("locQuote"), QStringLiteral("Quote"));
+        settings.setValue("invHaveNumber", true);
+        // A removed value falls back again, and leaves the file.
+        settings.setValue("locQuote", "Offer");
         ASSERT_TRUE(settings.synchronize());
-        EXPECT_FALSE(settings.dictionaryRepresentation().contains(QStringLiteral("locInvoice")));
+        settings.removeValue("locQuote");
+        EXPECT_EQ(settings.stringValue("locQuote"), "Quote");
+        ASSERT_TRUE(settings.synchronize());
+        EXPECT_EQ(settings.dictionaryRepresentation().keys(), QStringList{"invHaveNumber"});
     }
-    const QByteArray text = fileBytes(file());
-    EXPECT_FALSE(text.contains("locInvoice"));
-    EXPECT_FALSE(text.contains("tax1Rate"));
-    EXPECT_TRUE(text.contains("invHaveNumber"));
-    Settings again(file());
-    ASSERT_TRUE(again.load());
-    EXPECT_FALSE(again.value(QStringLiteral("locInvoice")).isValid());
-    EXPECT_TRUE(again.boolValue(QStringLiteral("invHaveNumber")));
-}
-
-TEST_F(SettingsTest, RemovingAValueFallsBackAndIsWritten)
-{
-    Settings settings(file());
-    ASSERT_TRUE(settings.load());
-    settings.registerDefaults({{QStringLiteral("locInvoice"), QStringLiteral("Invoice")}});
-    settings.setValue(QStringLiteral("locInvoice"), QStringLiteral("Bill"));
-    ASSERT_TRUE(settings.synchronize());
-    settings.removeValue(QStringLiteral("locInvoice"));
-    EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")), QStringLiteral("Invoice"));
-    ASSERT_TRUE(settings.synchronize());
-    EXPECT_FALSE(fileBytes(file()).contains("locInvoice"));
+    EXPECT_EQ(stored().keys(), QStringList{"invHaveNumber"});
 }
 
 TEST_F(SettingsTest, AFailedWriteIsReportedAndTheValuesStay)
 {
     // A file where the settings folder should be: nothing can be written.
-    QFile blocker(QFileInfo(file()).absolutePath());
-    ASSERT_TRUE(blocker.open(QIODevice::WriteOnly));
-    blocker.close();
+    writeBytes(QFileInfo(file()).absolutePath(), {});
     Settings settings(file());
     ASSERT_TRUE(settings.load());
-    settings.setValue(QStringLiteral("locInvoice"), QStringLiteral("Invoice"));
+    settings.setValue("locInvoice", "Invoice");
     const Status saved = settings.synchronize();
     ASSERT_FALSE(saved.ok());
     EXPECT_EQ(saved.error().code, ErrorCode::SettingsWriteFailed);
-    EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")), QStringLiteral("Invoice"));
+    EXPECT_EQ(settings.stringValue("locInvoice"), "Invoice");
     EXPECT_TRUE(QFileInfo(QFileInfo(file()).absolutePath()).isFile());
-}
-
-QByteArray nested(int depth)
-{
-    QByteArray xml =
-        "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\">\n<dict><key>a</key>";
-    xml += QByteArray("<array>").repeated(depth);
-    xml += QByteArray("</array>").repeated(depth);
-    xml += "</dict></plist>\n";
-    return xml;
 }
 
 struct BadSettingsCase
 {
     const char* name;
-    QByteArray (*bytes)();
+    QByteArray bytes;
 };
 
+QByteArray half(const QByteArray& bytes)
+{
+    return bytes.left(bytes.size() / 2);
+}
+
 const BadSettingsCase badSettingsCases[] = {
-    {"Garbage", [] { return QByteArray("\x89PNG\r\n\x1a\n not settings at all \xff\xfe", 26); }},
-    {"TruncatedXml",
-     [] {
-         const QByteArray full =
-             PropertyList::toXml(QVariantMap{{QStringLiteral("locInvoice"), QStringLiteral("Invoice")},
-                                             {QStringLiteral("invCount"), qint64(1000)}});
-         return full.left(full.size() / 2);
-     }},
-    {"RootIsArray",
-     [] {
-         return PropertyList::toXml(QVariantList{QStringLiteral("a"), qint64(1)});
-     }},
-    {"RootIsString", [] { return PropertyList::toXml(QStringLiteral("just text")); }},
-    {"DeepNesting", [] { return nested(100000); }},
-    {"TruncatedBinary",
-     [] {
-         const QByteArray full =
-             PropertyList::toBinary(QVariantMap{{QStringLiteral("locInvoice"), QStringLiteral("Invoice")}});
-         return full.left(full.size() - 10);
-     }},
-    {"Empty", [] { return QByteArray(); }},
+    {"Garbage", QByteArray("\x89PNG\r\n\x1a\n not settings at all \xff\xfe", 26)},
+    {"TruncatedXml", half(PropertyList::toXml(QVariantMap{{"locInvoice", "Invoice"}, {"invCount", 1000}}))},
+    {"RootIsArray", PropertyList::toXml(QVariantList{"a", qint64(1)})},
+    {"RootIsString", PropertyList::toXml(QString("just text"))},
+    {"DeepNesting", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>a</key>" +
+                        QByteArray("<array>").repeated(100000) + QByteArray("</array>").repeated(100000) +
+                        "</dict></plist>"},
+    {"TruncatedBinary", half(PropertyList::toBinary(QVariantMap{{"locInvoice", "Invoice"}}))},
+    {"Empty", QByteArray()},
 };
 
 class BadSettingsTest : public SettingsTest, public ::testing::WithParamInterface<BadSettingsCase>
@@ -190,8 +135,8 @@ class BadSettingsTest : public SettingsTest, public ::testing::WithParamInterfac
 
 TEST_P(BadSettingsTest, UnreadableFileIsReportedAndNeverOverwritten)
 {
-    const QByteArray bytes = GetParam().bytes();
-    writeFile(bytes);
+    const QByteArray& bytes = GetParam().bytes;
+    writeBytes(file(), bytes);
     {
         Settings settings(file());
         const Status loaded = settings.load();
@@ -201,14 +146,11 @@ TEST_P(BadSettingsTest, UnreadableFileIsReportedAndNeverOverwritten)
         EXPECT_TRUE(settings.isReadOnly());
 
         // The settings still work for this session.
-        settings.setValue(QStringLiteral("locInvoice"), QStringLiteral("Invoice"));
-        settings.setValue(QStringLiteral("invCount"), qint64(7));
-        EXPECT_EQ(settings.stringValue(QStringLiteral("locInvoice")), QStringLiteral("Invoice"));
-        EXPECT_EQ(settings.intValue(QStringLiteral("invCount")), 7);
+        settings.setValue("invCount", qint64(7));
+        EXPECT_EQ(settings.intValue("invCount"), 7);
         const Status saved = settings.synchronize();
         EXPECT_FALSE(saved.ok());
         EXPECT_EQ(saved.error().code, ErrorCode::SettingsWriteFailed);
-        EXPECT_EQ(fileBytes(file()), bytes);
     }
     EXPECT_EQ(fileBytes(file()), bytes) << "written when the settings went away";
     EXPECT_EQ(QDir(QFileInfo(file()).absolutePath()).entryList(QDir::Files).size(), 1);
@@ -217,23 +159,23 @@ TEST_P(BadSettingsTest, UnreadableFileIsReportedAndNeverOverwritten)
 INSTANTIATE_TEST_SUITE_P(Files, BadSettingsTest, ::testing::ValuesIn(badSettingsCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(SettingsTest, TextValuesWrittenByHandReadAsTheirType)
+TEST_F(SettingsTest, ValuesWrittenByHandReadAsTheTypeAskedFor)
 {
-    writeFile("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
-              "<key>a</key><string>YES</string><key>b</key><string>0</string>"
-              "<key>c</key><string> 12 </string><key>d</key><string>0.19</string>"
-              "<key>e</key><integer>3</integer><key>f</key><real>2.5</real>"
-              "</dict></plist>");
+    writeBytes(file(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
+                       "<key>a</key><string>YES</string><key>b</key><string>0</string>"
+                       "<key>c</key><string> 12 </string><key>d</key><string>0.19</string>"
+                       "<key>e</key><integer>3</integer><key>f</key><real>2.5</real>"
+                       "</dict></plist>");
     Settings settings(file());
     ASSERT_TRUE(settings.load());
-    EXPECT_TRUE(settings.boolValue(QStringLiteral("a")));
-    EXPECT_FALSE(settings.boolValue(QStringLiteral("b")));
-    EXPECT_EQ(settings.intValue(QStringLiteral("c")), 12);
-    EXPECT_EQ(settings.floatValue(QStringLiteral("d")), 0.19f);
-    EXPECT_EQ(settings.stringValue(QStringLiteral("e")), QStringLiteral("3"));
-    EXPECT_EQ(settings.intValue(QStringLiteral("f")), 2);
-    EXPECT_TRUE(settings.dataValue(QStringLiteral("a")).isEmpty());
-    EXPECT_FALSE(settings.dateValue(QStringLiteral("a")).isValid());
+    EXPECT_TRUE(settings.boolValue("a"));
+    EXPECT_FALSE(settings.boolValue("b"));
+    EXPECT_EQ(settings.intValue("c"), 12);
+    EXPECT_EQ(settings.floatValue("d"), 0.19f);
+    EXPECT_EQ(settings.stringValue("e"), "3");
+    EXPECT_EQ(settings.intValue("f"), 2);
+    EXPECT_TRUE(settings.dataValue("a").isEmpty());
+    EXPECT_FALSE(settings.dateValue("a").isValid());
 }
 
 } // namespace

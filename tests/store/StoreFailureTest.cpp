@@ -1,42 +1,11 @@
 #include "tests/store/StoreTestSupport.h"
 
-#include <QDir>
-#include <QFileInfo>
-
 #include <unistd.h>
 
 namespace vorn::test {
 namespace {
 
-// Each case leaves a file at the store's path (or makes the path unusable);
-// opening must refuse it with a clear error and leave every byte as it was.
-struct BadStoreCase
-{
-    const char* name;
-    std::function<void(StoreFixture&, const QString& path)> make;
-    int code;
-    const char* messagePart;
-    bool needsPermissions = false;
-};
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
-void sqlite(const QString& path, const char* sql)
-{
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open(QFile::encodeName(path).constData(), &db), SQLITE_OK);
-    char* message = nullptr;
-    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, &message), SQLITE_OK) << (message ? message : "");
-    sqlite3_free(message);
-    sqlite3_close(db);
-}
-
-// A real store with several hundred documents and their items.
+// A real store with the given number of documents, three items each.
 void makeRealStore(const QString& path, int documents)
 {
     FixedClock clock(utc(2026, 1, 1));
@@ -46,76 +15,67 @@ void makeRealStore(const QString& path, int documents)
     ctx.undoManager()->setEnabled(false);
     for (int i = 0; i < documents; ++i) {
         ManagedObject* doc = ctx.insertNewObject(Entity::Invoice);
-        doc->setValue(QStringLiteral("title"), QStringLiteral("Invoice %1").arg(i));
-        doc->setValue(QStringLiteral("address"),
-                      QStringLiteral("Client %1\nSome Street %1\n12345 Town").arg(i));
+        doc->setValue("title", QString("Invoice %1").arg(i));
+        doc->setValue("address", QString("Client %1\nSome Street %1\n12345 Town").arg(i));
         for (int j = 0; j < 3; ++j) {
             ManagedObject* item = ctx.insertNewObject(Entity::Item);
-            item->setValue(QStringLiteral("title"), QStringLiteral("Work item %1").arg(j));
-            doc->insertObject(QStringLiteral("items"), item);
+            item->setValue("title", QString("Work item %1").arg(j));
+            doc->insertObject("items", item);
         }
     }
     ASSERT_TRUE(ctx.save());
 }
 
+// Each case leaves a file at the store's path (or makes the path unusable);
+// opening must refuse it with a clear error and leave every byte as it was.
+struct BadStoreCase
+{
+    const char* name;
+    int code;
+    const char* messagePart;
+    std::function<void(const QString& path)> make;
+    bool needsPermissions = false;
+};
+
+const char* const notVorn = "is not a Vorn database";
+
 const BadStoreCase badStoreCases[] = {
-    {"NotSqlite",
-     [](auto&, const QString& path) {
-         writeFile(path, QByteArray("This is a letter, not a database.\n").repeated(100));
-     },
-     ErrorCode::StoreNotVorn, "is not a Vorn database"},
-    {"ShortGarbage", [](auto&, const QString& path) { writeFile(path, "SQLite"); }, ErrorCode::StoreNotVorn,
-     "is not a Vorn database"},
-    {"Truncated",
-     [](auto&, const QString& path) {
-         makeRealStore(path, 400);
-         QByteArray bytes = fileBytes(path);
+    {"NotSqlite", ErrorCode::StoreNotVorn, notVorn,
+     [](auto& p) { writeBytes(p, QByteArray("This is a letter, not a database.\n").repeated(100)); }},
+    {"ShortGarbage", ErrorCode::StoreNotVorn, notVorn, [](auto& p) { writeBytes(p, "SQLite"); }},
+    {"Truncated", ErrorCode::StoreDamaged, "is damaged",
+     [](auto& p) {
+         makeRealStore(p, 400);
+         const QByteArray bytes = fileBytes(p);
          ASSERT_GT(bytes.size(), 100000);
-         writeFile(path, bytes.left(bytes.size() / 2));
-     },
-     ErrorCode::StoreDamaged, "is damaged"},
-    {"ForeignSqliteWithTables",
-     [](auto&, const QString& path) {
-         sqlite(path, "CREATE TABLE notes (id INTEGER PRIMARY KEY, body TEXT);"
-                      "INSERT INTO notes (body) VALUES ('mine, not Vorn''s');");
-     },
-     ErrorCode::StoreNotVorn, "is not a Vorn database"},
-    {"ForeignApplicationId",
-     [](auto&, const QString& path) {
-         sqlite(path, "PRAGMA application_id = 1234; CREATE TABLE Invoice (x);");
-     },
-     ErrorCode::StoreNotVorn, "is not a Vorn database"},
-    {"NewerSchemaVersion",
-     [](auto&, const QString& path) {
-         makeRealStore(path, 3);
-         sqlite(path,
-                QStringLiteral("PRAGMA user_version = %1").arg(ObjectModel::schemaVersion + 1).toUtf8());
-     },
-     ErrorCode::StoreTooNew, "newer version"},
-    {"MissingTable",
-     [](auto&, const QString& path) {
-         makeRealStore(path, 3);
-         sqlite(path, "DROP TABLE Design");
-     },
-     ErrorCode::StoreDamaged, "is damaged"},
-    {"MissingColumn",
-     [](auto&, const QString& path) {
-         makeRealStore(path, 3);
-         sqlite(path, "ALTER TABLE Item DROP COLUMN sku");
-     },
-     ErrorCode::StoreDamaged, "is damaged"},
-    {"StoreIsAFolder",
-     [](auto&, const QString& path) {
-         QDir().mkpath(path);
-         writeFile(path + QStringLiteral("/inside"), "kept");
-     },
-     ErrorCode::FileReadUnknown, "could not be read"},
-    {"ReadOnlyFolder",
-     [](auto&, const QString& path) {
-         const QString folder = QFileInfo(path).absolutePath();
-         QFile::setPermissions(folder, QFileDevice::ReadOwner | QFileDevice::ExeOwner);
-     },
-     ErrorCode::StoreOpenFailed, "could not be opened", true},
+         writeBytes(p, bytes.left(bytes.size() / 2));
+     }},
+    {"ForeignSqliteWithTables", ErrorCode::StoreNotVorn, notVorn,
+     [](auto& p) {
+         sqlOn(p, "CREATE TABLE notes (body TEXT); INSERT INTO notes VALUES ('mine, not Vorn''s');");
+     }},
+    {"ForeignApplicationId", ErrorCode::StoreNotVorn, notVorn,
+     [](auto& p) { sqlOn(p, "PRAGMA application_id = 1234; CREATE TABLE Invoice (x);"); }},
+    {"NewerSchemaVersion", ErrorCode::StoreTooNew, "newer version",
+     [](auto& p) {
+         makeRealStore(p, 3);
+         sqlOn(p, QString("PRAGMA user_version = %1").arg(ObjectModel::schemaVersion + 1));
+     }},
+    {"MissingTable", ErrorCode::StoreDamaged, "is damaged",
+     [](auto& p) {
+         makeRealStore(p, 3);
+         sqlOn(p, "DROP TABLE Design");
+     }},
+    {"MissingColumn", ErrorCode::StoreDamaged, "is damaged",
+     [](auto& p) {
+         makeRealStore(p, 3);
+         sqlOn(p, "ALTER TABLE Item DROP COLUMN sku");
+     }},
+    {"StoreIsAFolder", ErrorCode::FileReadUnknown, "could not be read",
+     [](auto& p) { writeBytes(p + "/inside", "kept"); }},
+    {"ReadOnlyFolder", ErrorCode::StoreOpenFailed, "could not be opened",
+     [](auto& p) { QFile::setPermissions(QFileInfo(p).absolutePath(), QFile::ReadOwner | QFile::ExeOwner); },
+     true},
 };
 
 class BadStoreTest : public StoreFixture, public ::testing::WithParamInterface<BadStoreCase>
@@ -123,8 +83,7 @@ class BadStoreTest : public StoreFixture, public ::testing::WithParamInterface<B
 protected:
     void TearDown() override
     {
-        QFile::setPermissions(m_dir.path(),
-                              QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+        QFile::setPermissions(m_dir.path(), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     }
 };
 
@@ -133,7 +92,7 @@ TEST_P(BadStoreTest, RefusedWithClearErrorAndLeftUntouched)
     const BadStoreCase& c = GetParam();
     if (c.needsPermissions && geteuid() == 0)
         GTEST_SKIP() << "running as root: permission bits do not stop writes";
-    c.make(*this, path());
+    c.make(path());
     if (HasFatalFailure())
         return;
     const QByteArray before = fileBytes(path());
@@ -144,11 +103,8 @@ TEST_P(BadStoreTest, RefusedWithClearErrorAndLeftUntouched)
     EXPECT_EQ(store.error().code, c.code) << qPrintable(store.error().fullText());
     EXPECT_TRUE(store.error().message.contains(QLatin1String(c.messagePart)))
         << qPrintable(store.error().message);
-    EXPECT_FALSE(store.error().message.contains(QLatin1String("%1")));
-
-    const Status validated = SqliteStore::validate(path(), ObjectModel::vorn());
-    EXPECT_FALSE(validated.ok());
-
+    EXPECT_FALSE(store.error().message.contains("%1"));
+    EXPECT_FALSE(SqliteStore::validate(path(), ObjectModel::vorn()).ok());
     EXPECT_EQ(fileBytes(path()), before) << "the refused file was changed";
     EXPECT_EQ(QDir(m_dir.path()).entryList(QDir::Files), filesBefore) << "files appeared beside the store";
 }
@@ -158,7 +114,7 @@ INSTANTIATE_TEST_SUITE_P(Files, BadStoreTest, ::testing::ValuesIn(badStoreCases)
 
 TEST_F(StoreFixture, EmptyFileBecomesANewStore)
 {
-    writeFile(path(), {});
+    writeBytes(path(), {});
     ASSERT_NE(context(), nullptr);
     context()->insertNewObject(Entity::Invoice);
     ASSERT_TRUE(context()->save());
@@ -168,26 +124,24 @@ TEST_F(StoreFixture, EmptyFileBecomesANewStore)
 
 TEST_F(StoreFixture, FailedSaveWritesNothingAndKeepsChangesPending)
 {
-    newDocument(QStringLiteral("D"), {"A"});
+    newDocument("D", "A");
     ASSERT_TRUE(context()->save());
     // Another program makes every new item row fail.
-    execute(QStringLiteral(
-        "CREATE TRIGGER refuse BEFORE INSERT ON Item BEGIN SELECT RAISE(ABORT, 'refused'); END"));
-    ManagedObject* d = document(QStringLiteral("D"));
-    d->setValue(QStringLiteral("title"), QStringLiteral("changed"));
-    d->insertObject(QStringLiteral("items"), context()->insertNewObject(Entity::Item), 0);
+    sql("CREATE TRIGGER refuse BEFORE INSERT ON Item BEGIN SELECT RAISE(ABORT, 'refused'); END");
+    ManagedObject* d = document("D");
+    d->setValue("title", "changed");
+    d->insertObject("items", context()->insertNewObject(Entity::Item), 0);
     const Status saved = context()->save();
     ASSERT_FALSE(saved.ok());
     EXPECT_FALSE(saved.error().message.isEmpty());
     EXPECT_TRUE(context()->hasChanges());
-    EXPECT_EQ(queryText(QStringLiteral("SELECT title FROM Invoice")), QStringLiteral("D"));
-    EXPECT_EQ(queryText(QStringLiteral("SELECT count(*) FROM Item")), QStringLiteral("1"));
+    EXPECT_EQ(sql("SELECT title, (SELECT count(*) FROM Item) FROM Invoice"), "D|1");
 
-    execute(QStringLiteral("DROP TRIGGER refuse"));
+    sql("DROP TRIGGER refuse");
     ASSERT_TRUE(context()->save());
     EXPECT_FALSE(context()->hasChanges());
     reopen();
-    EXPECT_EQ(document(QStringLiteral("changed"))->items().size(), 2);
+    EXPECT_EQ(document("changed")->items().size(), 2);
 }
 
 } // namespace

@@ -5,7 +5,9 @@
 #include "store/SqliteStore.h"
 
 #include <QDateTime>
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTemporaryDir>
 #include <QTimeZone>
 
@@ -28,6 +30,14 @@ inline QByteArray fileBytes(const QString& path)
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
+inline void writeBytes(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+    f.write(bytes);
+}
+
 inline QStringList titles(const QList<ManagedObject*>& objects)
 {
     QStringList result;
@@ -36,44 +46,67 @@ inline QStringList titles(const QList<ManagedObject*>& objects)
     return result;
 }
 
+// The titles run together: items titled "A", "B", "C" read "ABC".
+inline QString letters(const QList<ManagedObject*>& objects)
+{
+    return titles(objects).join(QString());
+}
+
+// Runs SQL on a database file through a connection of its own, as another
+// program would; answers the rows joined by ',' with columns joined by '|'.
+inline QString sqlOn(const QString& path, const QString& sql)
+{
+    sqlite3* db = nullptr;
+    sqlite3_open(QFile::encodeName(path).constData(), &db);
+    QStringList rows;
+    const auto collect = [](void* out, int n, char** values, char**) {
+        QStringList columns;
+        for (int i = 0; i < n; ++i)
+            columns << QString::fromUtf8(values[i]);
+        static_cast<QStringList*>(out)->append(columns.join(QLatin1Char('|')));
+        return 0;
+    };
+    char* message = nullptr;
+    if (sqlite3_exec(db, sql.toUtf8().constData(), collect, &rows, &message) != SQLITE_OK)
+        ADD_FAILURE() << message << " in " << qPrintable(sql);
+    sqlite3_free(message);
+    sqlite3_close(db);
+    return rows.join(QLatin1Char(','));
+}
+
 // A scratch folder with one store file, and contexts opened on it.
 class StoreFixture : public ::testing::Test
 {
-protected:
+public:
     QString path() const { return m_dir.filePath(QStringLiteral("Vorn.vndb")); }
+    QString sql(const QString& statement) const { return sqlOn(path(), statement); }
 
-    std::unique_ptr<ObjectContext> open()
-    {
-        auto store = SqliteStore::open(path(), ObjectModel::vorn());
-        EXPECT_TRUE(store.ok()) << qPrintable(store.error().fullText());
-        if (!store)
-            return nullptr;
-        return std::make_unique<ObjectContext>(std::move(store.value()), m_clock);
-    }
     // Closes the current context (if any) and opens the store anew.
     ObjectContext* reopen()
     {
         m_context.reset();
-        m_context = open();
+        auto store = SqliteStore::open(path(), ObjectModel::vorn());
+        EXPECT_TRUE(store.ok()) << qPrintable(store.error().fullText());
+        if (store)
+            m_context = std::make_unique<ObjectContext>(std::move(store.value()), m_clock);
         return m_context.get();
     }
-    ObjectContext* context()
-    {
-        if (!m_context)
-            m_context = open();
-        return m_context.get();
-    }
+    ObjectContext* context() { return m_context ? m_context.get() : reopen(); }
 
-    ManagedObject* newDocument(const QString& title, const QStringList& itemTitles = {})
+    // A document with one item per letter, each titled by its letter.
+    ManagedObject* newDocument(const QString& title, const QString& items = {})
     {
         ManagedObject* doc = context()->insertNewObject(Entity::Invoice);
         doc->setValue(QStringLiteral("title"), title);
-        for (const QString& t : itemTitles) {
-            ManagedObject* item = context()->insertNewObject(Entity::Item);
-            item->setValue(QStringLiteral("title"), t);
-            doc->insertObject(QStringLiteral("items"), item);
-        }
+        for (const QChar letter : items)
+            doc->insertObject(QStringLiteral("items"), newItem(QString(letter)));
         return doc;
+    }
+    ManagedObject* newItem(const QString& title)
+    {
+        ManagedObject* item = context()->insertNewObject(Entity::Item);
+        item->setValue(QStringLiteral("title"), title);
+        return item;
     }
     ManagedObject* document(const QString& title)
     {
@@ -83,39 +116,12 @@ protected:
         EXPECT_EQ(docs.size(), 1) << qPrintable(title);
         return docs.value(0);
     }
-
-    // A direct query on the file through a connection of its own.
-    QString queryText(const QString& sql) const
+    // Saves and answers the number of rows written (-1 if the save failed).
+    int saveCountingRows()
     {
-        sqlite3* db = nullptr;
-        sqlite3_open_v2(QFile::encodeName(path()).constData(), &db, SQLITE_OPEN_READWRITE, nullptr);
-        sqlite3_stmt* stmt = nullptr;
-        QString result;
-        if (sqlite3_prepare_v2(db, sql.toUtf8().constData(), -1, &stmt, nullptr) == SQLITE_OK) {
-            QStringList rows;
-            while (sqlite3_step(stmt) == SQLITE_ROW) {
-                QStringList columns;
-                for (int i = 0; i < sqlite3_column_count(stmt); ++i)
-                    columns << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, i)));
-                rows << columns.join(QLatin1Char('|'));
-            }
-            result = rows.join(QLatin1Char(','));
-        } else {
-            ADD_FAILURE() << sqlite3_errmsg(db) << " in " << qPrintable(sql);
-        }
-        sqlite3_finalize(stmt);
-        sqlite3_close(db);
-        return result;
-    }
-    void execute(const QString& sql) const
-    {
-        sqlite3* db = nullptr;
-        sqlite3_open_v2(QFile::encodeName(path()).constData(), &db, SQLITE_OPEN_READWRITE, nullptr);
-        char* message = nullptr;
-        if (sqlite3_exec(db, sql.toUtf8().constData(), nullptr, nullptr, &message) != SQLITE_OK)
-            ADD_FAILURE() << message << " in " << qPrintable(sql);
-        sqlite3_free(message);
-        sqlite3_close(db);
+        sqlite3* db = context()->store()->handle();
+        const int before = sqlite3_total_changes(db);
+        return context()->save() ? sqlite3_total_changes(db) - before : -1;
     }
 
     QTemporaryDir m_dir;

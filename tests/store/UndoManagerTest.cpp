@@ -4,6 +4,10 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+#include <memory>
+
 namespace vorn::test {
 namespace {
 
@@ -20,170 +24,96 @@ struct Value
     }
 };
 
-class UndoManagerTest : public ::testing::Test
+TEST(UndoManagerTest, AGroupUndoesInOneStepInReverseOrderAndRedoes)
 {
-protected:
     UndoManager undo;
     Value x{undo};
-    Value y{undo};
-};
-
-TEST_F(UndoManagerTest, AGroupUndoesInOneStepInReverseOrder)
-{
     std::vector<int> order;
     {
         UndoGroup g(&undo, QStringLiteral("Edit"));
         x.set(1);
-        y.set(2);
-        x.set(3);
-        undo.registerUndo([&order] { order.push_back(1); });
+        {
+            UndoGroup inner(&undo, QStringLiteral("Inner"));
+            x.set(2);
+            undo.registerUndo([&order] { order.push_back(1); });
+        }
         undo.registerUndo([&order] { order.push_back(2); });
     }
+    EXPECT_EQ(undo.groupingLevel(), 0);
     EXPECT_EQ(undo.undoActionName(), QStringLiteral("Edit"));
     undo.undo();
     EXPECT_EQ(order, (std::vector<int>{2, 1}));
     EXPECT_EQ(x.value, 0);
-    EXPECT_EQ(y.value, 0);
-    EXPECT_FALSE(undo.canUndo());
-    ASSERT_TRUE(undo.canRedo());
     EXPECT_EQ(undo.redoActionName(), QStringLiteral("Edit"));
     undo.redo();
-    EXPECT_EQ(x.value, 3);
-    EXPECT_EQ(y.value, 2);
-    EXPECT_TRUE(undo.canUndo());
-    EXPECT_FALSE(undo.canRedo());
-    undo.undo();
-    EXPECT_EQ(x.value, 0);
+    EXPECT_EQ(x.value, 2);
+    EXPECT_EQ(undo.undoActionName(), QStringLiteral("Edit"));
 }
 
-TEST_F(UndoManagerTest, NestedGroupsFormOneStep)
+// A script of edits and commands: "x1" sets x to 1, "[" and "]" open and
+// close a group, "u" undoes, "r" redoes, "p" lets the event loop pass, "-"
+// and "+" switch recording off and on, "c" removes all actions.
+struct Script
 {
-    {
-        UndoGroup outer(&undo, QStringLiteral("Outer"));
-        x.set(1);
-        {
-            UndoGroup inner(&undo, QStringLiteral("Inner"));
-            y.set(1);
-            EXPECT_EQ(undo.groupingLevel(), 2);
+    const char* name;
+    const char* steps;
+    int x;
+    int y;
+    bool canUndo;
+    bool canRedo;
+};
+
+const Script scripts[] = {
+    {"NestedGroupsUndoInOneStep", "[x1 [y1] x2] u", 0, 0, false, true},
+    {"GroupsUndoOneAtATime", "[x1] [x2] [x3] u u", 1, 0, true, true},
+    {"RedoAfterUndo", "[x1] [x2] [x3] u u r", 2, 0, true, true},
+    {"AnEmptyGroupIsNoStep", "[x1] [x2] [] u", 1, 0, true, true},
+    {"ANewChangeDropsTheRedo", "[x1] [x2] u [y5]", 1, 5, true, false},
+    {"EverythingUndone", "[x1] [x2] r u r u [y5] u u", 0, 0, false, true},
+    {"EditsWithoutGroupJoinUntilTheEventLoop", "x1 y1 p x2 p u", 1, 1, true, true},
+    {"ImplicitGroupsUndoInTurn", "x1 y1 p x2 p u u", 0, 0, false, true},
+    {"AnExplicitGroupClosesTheImplicitOne", "x1 [y1] u", 1, 0, true, true},
+    {"UndoClosesTheImplicitGroupFirst", "[y1] x1 u", 0, 1, true, true},
+    {"UndoInsideAnOpenGroupIsIgnored", "[x1] [y1 u r", 1, 1, true, false},
+    {"DisabledRecordsNothing", "- [x1] x2 +", 2, 0, false, false},
+    {"RemoveAllForgets", "[x2] x3 c u p", 3, 0, false, false},
+};
+
+class UndoScriptTest : public ::testing::TestWithParam<Script>
+{
+};
+
+TEST_P(UndoScriptTest, EndsWithTheValuesAndStepsExpected)
+{
+    UndoManager undo;
+    Value values[] = {{undo}, {undo}};
+    std::vector<std::unique_ptr<UndoGroup>> open;
+    const std::map<char, std::function<void()>> commands{
+        {'[', [&] { open.push_back(std::make_unique<UndoGroup>(&undo, QStringLiteral("Step"))); }},
+        {']', [&] { open.pop_back(); }},
+        {'u', [&] { undo.undo(); }},
+        {'r', [&] { undo.redo(); }},
+        {'p', [] { QCoreApplication::processEvents(); }},
+        {'-', [&] { undo.setEnabled(false); }},
+        {'+', [&] { undo.setEnabled(true); }},
+        {'c', [&] { undo.removeAllActions(); }},
+    };
+    for (const char* s = GetParam().steps; *s; ++s) {
+        if (*s == 'x' || *s == 'y') {
+            values[*s - 'x'].set(s[1] - '0');
+            ++s;
+        } else if (*s != ' ') {
+            commands.at (*s)();
         }
-        x.set(2);
     }
-    EXPECT_EQ(undo.groupingLevel(), 0);
-    EXPECT_EQ(undo.undoActionName(), QStringLiteral("Outer"));
-    undo.undo();
-    EXPECT_EQ(x.value, 0);
-    EXPECT_EQ(y.value, 0);
-    EXPECT_FALSE(undo.canUndo());
+    EXPECT_EQ(values[0].value, GetParam().x);
+    EXPECT_EQ(values[1].value, GetParam().y);
+    EXPECT_EQ(undo.canUndo(), GetParam().canUndo);
+    EXPECT_EQ(undo.canRedo(), GetParam().canRedo);
 }
 
-TEST_F(UndoManagerTest, GroupsUndoOneAtATime)
-{
-    for (int i = 1; i <= 3; ++i) {
-        UndoGroup g(&undo, QStringLiteral("Step %1").arg(i));
-        x.set(i);
-    }
-    {
-        UndoGroup empty(&undo, QStringLiteral("Nothing"));
-    }
-    EXPECT_EQ(undo.undoActionName(), QStringLiteral("Step 3")) << "an empty group is no undo step";
-    undo.undo();
-    EXPECT_EQ(x.value, 2);
-    undo.undo();
-    EXPECT_EQ(x.value, 1);
-    undo.redo();
-    EXPECT_EQ(x.value, 2);
-    // A new change drops what could have been redone.
-    {
-        UndoGroup g(&undo, QStringLiteral("Other"));
-        y.set(5);
-    }
-    EXPECT_FALSE(undo.canRedo());
-    undo.undo();
-    undo.undo();
-    undo.undo();
-    EXPECT_EQ(x.value, 0);
-    EXPECT_EQ(y.value, 0);
-    EXPECT_FALSE(undo.canUndo());
-}
-
-TEST_F(UndoManagerTest, EditsWithoutGroupCloseAtTheNextEventLoopPass)
-{
-    x.set(1);
-    y.set(1);
-    EXPECT_TRUE(undo.canUndo());
-    QCoreApplication::processEvents();
-    x.set(2);
-    QCoreApplication::processEvents();
-    undo.undo();
-    EXPECT_EQ(x.value, 1);
-    EXPECT_EQ(y.value, 1);
-    undo.undo();
-    EXPECT_EQ(x.value, 0);
-    EXPECT_EQ(y.value, 0);
-}
-
-TEST_F(UndoManagerTest, AnExplicitGroupClosesThePendingImplicitOne)
-{
-    x.set(1);
-    {
-        UndoGroup g(&undo, QStringLiteral("Explicit"));
-        y.set(1);
-    }
-    undo.undo();
-    EXPECT_EQ(y.value, 0);
-    EXPECT_EQ(x.value, 1);
-    undo.undo();
-    EXPECT_EQ(x.value, 0);
-}
-
-TEST_F(UndoManagerTest, UndoClosesThePendingImplicitGroupFirst)
-{
-    {
-        UndoGroup g(&undo, QStringLiteral("Explicit"));
-        y.set(1);
-    }
-    x.set(1);
-    undo.undo();
-    EXPECT_EQ(x.value, 0);
-    EXPECT_EQ(y.value, 1);
-}
-
-TEST_F(UndoManagerTest, UndoInsideAnOpenGroupIsIgnored)
-{
-    {
-        UndoGroup g(&undo, QStringLiteral("First"));
-        x.set(1);
-    }
-    UndoGroup g(&undo, QStringLiteral("Open"));
-    y.set(1);
-    undo.undo();
-    undo.redo();
-    EXPECT_EQ(x.value, 1);
-    EXPECT_EQ(y.value, 1);
-}
-
-TEST_F(UndoManagerTest, DisabledRecordsNothingAndRemoveAllForgets)
-{
-    undo.setEnabled(false);
-    {
-        UndoGroup g(&undo);
-        x.set(1);
-    }
-    EXPECT_FALSE(undo.canUndo());
-    undo.setEnabled(true);
-    {
-        UndoGroup g(&undo);
-        x.set(2);
-    }
-    x.set(3);
-    undo.removeAllActions();
-    EXPECT_FALSE(undo.canUndo());
-    EXPECT_FALSE(undo.canRedo());
-    undo.undo();
-    EXPECT_EQ(x.value, 3);
-    QCoreApplication::processEvents();
-    EXPECT_FALSE(undo.canUndo());
-}
+INSTANTIATE_TEST_SUITE_P(Scripts, UndoScriptTest, ::testing::ValuesIn(scripts),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace vorn::test
