@@ -1,164 +1,115 @@
+#include "app/AppDelegate.h"
 #include "app/InstanceLock.h"
 #include "store/Settings.h"
-#include "tests/support/TestEnvironment.h"
+#include "tests/cli/CliProcess.h"
 
-#include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-
-#include <gtest/gtest.h>
 
 namespace vorn::test {
 namespace {
 
-struct CliRun
-{
-    int exitCode = -1;
-    QString out;
-    QString err;
-};
-
-// Runs vorn-cli in the scratch home of the test.
-class CliTest : public ::testing::Test
+// vorn-cli's defaults commands, usage errors and the store's locks.
+class CliTest : public CliFixture
 {
 protected:
-    CliRun run(const QStringList& args)
-    {
-        QProcess p;
-        p.setProgram(QStringLiteral(VORN_CLI_PATH));
-        p.setArguments(args);
-        p.setProcessEnvironment(QProcessEnvironment::systemEnvironment());
-        p.start();
-        EXPECT_TRUE(p.waitForFinished(30000)) << qPrintable(args.join(QLatin1Char(' ')));
-        CliRun r;
-        r.exitCode = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-        r.out = QString::fromUtf8(p.readAllStandardOutput());
-        r.err = QString::fromUtf8(p.readAllStandardError());
-        return r;
-    }
-    QJsonObject readAll()
-    {
-        const CliRun r = run({"defaults", "read"});
-        EXPECT_EQ(r.exitCode, 0) << qPrintable(r.err);
-        return QJsonDocument::fromJson(r.out.toUtf8()).object();
-    }
-    QString read(const QString& key)
-    {
-        const CliRun r = run({"defaults", "read", key});
-        EXPECT_EQ(r.exitCode, 0) << qPrintable(r.err);
-        return r.out.trimmed();
-    }
-    static void expectOneErrorLine(const CliRun& r)
-    {
-        EXPECT_TRUE(r.out.isEmpty()) << qPrintable(r.out);
-        EXPECT_TRUE(r.err.startsWith(QLatin1String("vorn-cli: "))) << qPrintable(r.err);
-        EXPECT_EQ(r.err.count(QLatin1Char('\n')), 1) << qPrintable(r.err);
-        EXPECT_TRUE(r.err.endsWith(QLatin1Char('\n')));
-    }
-
-    TestEnvironment m_env;
+    QString read(const QString& key) { return ok({"defaults", "read", key}).out.trimmed(); }
 };
 
 TEST_F(CliTest, DefaultsReadOnAnEmptyHomeShowsTheEnglishList)
 {
-    const CliRun r = run({"defaults", "read"});
-    ASSERT_EQ(r.exitCode, 0) << qPrintable(r.err);
+    const CliRun r = ok({"defaults", "read"});
     EXPECT_TRUE(r.err.isEmpty()) << qPrintable(r.err);
     EXPECT_EQ(r.out.count(QLatin1Char('\n')), 1);
     QJsonParseError error;
-    const QJsonDocument doc = QJsonDocument::fromJson(r.out.toUtf8(), &error);
+    const QJsonObject all = QJsonDocument::fromJson(r.out.toUtf8(), &error).object();
     ASSERT_EQ(error.error, QJsonParseError::NoError) << qPrintable(error.errorString());
-    ASSERT_TRUE(doc.isObject());
-    const QJsonObject all = doc.object();
-    EXPECT_EQ(all.value(QStringLiteral("locInvoice")).toString(), QStringLiteral("Invoice"));
-    EXPECT_EQ(all.value(QStringLiteral("tax1Title")).toString(), QStringLiteral("Sales Tax"));
-    EXPECT_EQ(all.value(QStringLiteral("invHaveNumber")), QJsonValue(true));
-    EXPECT_EQ(all.value(QStringLiteral("invCount")), QJsonValue(1000));
-    EXPECT_TRUE(r.out.contains(QLatin1String("\"tax1Rate\":0.07,"))) << qPrintable(r.out);
-    EXPECT_TRUE(r.out.contains(QLatin1String("\"tax2Rate\":0.01,"))) << qPrintable(r.out);
-    EXPECT_TRUE(QFileInfo(m_env.locations().storeFile()).isFile());
+    EXPECT_EQ(all.value("locInvoice").toString(), QStringLiteral("Invoice"));
+    EXPECT_EQ(all.value("tax1Title").toString(), QStringLiteral("Sales Tax"));
+    EXPECT_EQ(all.value("invHaveNumber"), QJsonValue(true));
+    EXPECT_EQ(all.value("invCount"), QJsonValue(1000));
+    // Reals that are singles print as their shortest text.
+    EXPECT_TRUE(r.out.contains(QLatin1String("\"tax1Rate\":0.07,")) &&
+                r.out.contains(QLatin1String("\"tax2Rate\":0.01,")))
+        << qPrintable(r.out);
+    EXPECT_TRUE(QFileInfo(env.locations().storeFile()).isFile());
     // The run ends as the application quits.
-    EXPECT_EQ(read(QStringLiteral("isTerminatedFine")), QStringLiteral("true"));
-    EXPECT_EQ(read(QStringLiteral("fetchedObjectsCount")), QStringLiteral("0"));
-    EXPECT_EQ(read(QStringLiteral("locInvoice")), QStringLiteral("\"Invoice\""));
-    EXPECT_EQ(read(QStringLiteral("noSuchKey")), QStringLiteral("null"));
+    EXPECT_EQ(read("isTerminatedFine"), QStringLiteral("true"));
+    EXPECT_EQ(read("fetchedObjectsCount"), QStringLiteral("0"));
+    EXPECT_EQ(read("locInvoice"), QStringLiteral("\"Invoice\""));
+    EXPECT_EQ(read("noSuchKey"), QStringLiteral("null"));
 }
 
 struct LoadCase
 {
     const char* language;
-    const char* locInvoice;
+    int index;
 };
 
 class DefaultsLoadTest : public CliTest, public ::testing::WithParamInterface<LoadCase>
 {
 };
 
-TEST_P(DefaultsLoadTest, SwitchesTheTexts)
+// What the setup assistant's language page does: every value of the list, the language, the first load.
+TEST_P(DefaultsLoadTest, WritesTheLanguagesList)
 {
-    const CliRun r = run({"defaults", "load", QLatin1String(GetParam().language)});
-    ASSERT_EQ(r.exitCode, 0) << qPrintable(r.err);
-    EXPECT_TRUE(r.out.isEmpty());
-    EXPECT_TRUE(r.err.isEmpty()) << qPrintable(r.err);
-    EXPECT_EQ(readAll().value(QStringLiteral("locInvoice")).toString(),
-              QString::fromUtf8(GetParam().locInvoice));
+    const CliRun r = ok({"defaults", "load", GetParam().language});
+    EXPECT_TRUE(r.out.isEmpty() && r.err.isEmpty()) << qPrintable(r.err);
+    Settings settings(env.locations().settingsFile());
+    ASSERT_TRUE(settings.load().ok());
+    const auto list = AppDelegate::defaultList(AppDelegate::defaultListName(GetParam().index));
+    ASSERT_TRUE(list.ok());
+    for (auto it = list.value().cbegin(); it != list.value().cend(); ++it)
+        EXPECT_EQ(settings.value(it.key()), it.value()) << it.key().toStdString();
+    EXPECT_EQ(settings.intValue(QStringLiteral("languageDefaults")), GetParam().index);
+    EXPECT_TRUE(settings.boolValue(QStringLiteral("isFirstStoreLoadEverDone")));
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DefaultsLoadTest,
-                         ::testing::Values(LoadCase{"german", "Rechnung"}, LoadCase{"french", "Facture"},
-                                           LoadCase{"spanish", "Factura"}, LoadCase{"English", "Invoice"}),
+                         ::testing::Values(LoadCase{"german", 1}, LoadCase{"french", 2},
+                                           LoadCase{"spanish", 3}, LoadCase{"English", 0}),
                          [](const auto& info) { return std::string(info.param.language); });
 
 struct WriteCase
 {
     const char* name;
-    QStringList args; // after "defaults write"
-    int exitCode;
-    const char* readBack; // JSON of the key afterwards, or nullptr
+    QStringList args;     // after "defaults write"
+    const char* readBack; // JSON of the key afterwards; nullptr: refused
+    int exitCode = 2;
 };
 
 const WriteCase writeCases[] = {
-    {"String", {"prefsCurrency", "€ (EUR)"}, 0, "\"€ (EUR)\""},
+    {"String", {"prefsCurrency", "€ (EUR)"}, "\"€ (EUR)\""},
     {"StringTyped",
      {"prefsName", "--type", "string", "Tom \"Q\" Weber\\Sons"},
-     0,
      "\"Tom \\\"Q\\\" Weber\\\\Sons\""},
-    {"EmptyString", {"prefsSlogan", ""}, 0, "\"\""},
-    {"BoolOne", {"tempUseSKU", "1", "--type", "bool"}, 0, "true"},
-    {"BoolFalse", {"tempUseSKU", "false", "--type", "bool"}, 0, "false"},
-    {"BoolBad", {"tempUseSKU", "maybe", "--type", "bool"}, 2, nullptr},
-    {"Int", {"invCount", "--type", "int", "42"}, 0, "42"},
-    {"IntNegative", {"invCount", "-7", "--type", "int"}, 0, "-7"},
-    {"IntFraction", {"invCount", "4.5", "--type", "int"}, 2, nullptr},
-    {"IntText", {"invCount", "many", "--type", "int"}, 2, nullptr},
-    {"IntOverflow", {"invCount", "99999999999999999999", "--type", "int"}, 2, nullptr},
-    {"Float", {"tax1Rate", "0.19", "--type", "float"}, 0, "0.19"},
-    {"FloatNegative", {"tax2Rate", "-0.15", "--type", "float"}, 0, "-0.15"},
-    {"FloatText", {"tax1Rate", "much", "--type", "float"}, 2, nullptr},
-    {"FloatNotANumber", {"tax1Rate", "nan", "--type", "float"}, 2, nullptr},
-    {"FloatInfinite", {"tax1Rate", "inf", "--type", "float"}, 2, nullptr},
-    {"FloatTooLarge", {"tax1Rate", "1e400", "--type", "float"}, 2, nullptr},
+    {"EmptyString", {"prefsSlogan", ""}, "\"\""},
+    {"BoolOne", {"tempUseSKU", "1", "--type", "bool"}, "true"},
+    {"BoolFalse", {"tempUseSKU", "false", "--type", "bool"}, "false"},
+    {"BoolBad", {"tempUseSKU", "maybe", "--type", "bool"}, nullptr},
+    {"Int", {"invCount", "--type", "int", "42"}, "42"},
+    {"IntNegative", {"invCount", "-7", "--type", "int"}, "-7"},
+    {"IntFraction", {"invCount", "4.5", "--type", "int"}, nullptr},
+    {"IntText", {"invCount", "many", "--type", "int"}, nullptr},
+    {"IntOverflow", {"invCount", "99999999999999999999", "--type", "int"}, nullptr},
+    {"Float", {"tax1Rate", "0.19", "--type", "float"}, "0.19"},
+    {"FloatNegative", {"tax2Rate", "-0.15", "--type", "float"}, "-0.15"},
+    {"FloatText", {"tax1Rate", "much", "--type", "float"}, nullptr},
+    {"FloatNotANumber", {"tax1Rate", "nan", "--type", "float"}, nullptr},
+    {"FloatInfinite", {"tax1Rate", "inf", "--type", "float"}, nullptr},
+    {"FloatTooLarge", {"tax1Rate", "1e400", "--type", "float"}, nullptr},
     {"Date",
      {"ZRUpdateChecker:LastCheckDate", "2026-11-21T09:52:00Z", "--type", "date"},
-     0,
      "\"2026-11-21T09:52:00.000Z\""},
     {"DateWithOffset",
      {"ZRUpdateChecker:LastCheckDate", "2026-11-21T10:52:00+01:00", "--type", "date"},
-     0,
      "\"2026-11-21T09:52:00.000Z\""},
-    {"DateBad", {"ZRUpdateChecker:LastCheckDate", "next tuesday", "--type", "date"}, 2, nullptr},
-    {"DateImpossible",
-     {"ZRUpdateChecker:LastCheckDate", "2026-02-30T10:00:00Z", "--type", "date"},
-     2,
-     nullptr},
-    {"DataMissingFile", {"prefsLogo", "/no/such/logo.png", "--type", "data"}, 3, nullptr},
-    {"UnknownType", {"invCount", "1", "--type", "number"}, 2, nullptr},
-    {"TypeWithoutName", {"invCount", "1", "--type"}, 2, nullptr},
-    {"KeyOnly", {"invCount"}, 2, nullptr},
-    {"TooMany", {"invCount", "1", "2"}, 2, nullptr},
+    {"DateBad", {"ZRUpdateChecker:LastCheckDate", "next tuesday", "--type", "date"}, nullptr},
+    {"DateImpossible", {"ZRUpdateChecker:LastCheckDate", "2026-02-30T10:00:00Z", "--type", "date"}, nullptr},
+    {"DataMissingFile", {"prefsLogo", "/no/such/logo.png", "--type", "data"}, nullptr, 3},
+    {"UnknownType", {"invCount", "1", "--type", "number"}, nullptr},
+    {"TypeWithoutName", {"invCount", "1", "--type"}, nullptr},
+    {"KeyOnly", {"invCount"}, nullptr},
+    {"TooMany", {"invCount", "1", "2"}, nullptr},
 };
 
 class DefaultsWriteTest : public CliTest, public ::testing::WithParamInterface<WriteCase>
@@ -168,17 +119,17 @@ class DefaultsWriteTest : public CliTest, public ::testing::WithParamInterface<W
 TEST_P(DefaultsWriteTest, WritesTypedValuesAndRefusesBadOnes)
 {
     const WriteCase& c = GetParam();
-    ASSERT_EQ(run({"defaults", "read"}).exitCode, 0);
-    const QString before = run({"defaults", "read"}).out;
+    ok({"defaults", "read"}); // the first run seeds the store and the settings
+    const QString before = ok({"defaults", "read"}).out;
     const CliRun r = run(QStringList{"defaults", "write"} + c.args);
-    EXPECT_EQ(r.exitCode, c.exitCode) << qPrintable(r.err);
-    if (c.exitCode == 0) {
-        EXPECT_TRUE(r.out.isEmpty());
-        EXPECT_TRUE(r.err.isEmpty()) << qPrintable(r.err);
+    if (c.readBack) {
+        EXPECT_EQ(r.code, 0) << qPrintable(r.err);
+        EXPECT_TRUE(r.out.isEmpty() && r.err.isEmpty()) << qPrintable(r.err);
         EXPECT_EQ(read(c.args[0]), QString::fromUtf8(c.readBack));
     } else {
-        expectOneErrorLine(r);
-        EXPECT_EQ(run({"defaults", "read"}).out, before) << "a refused write changed the settings";
+        expectRefusal(r, c.exitCode);
+        EXPECT_EQ(ok({"defaults", "read"}).out.toStdString(), before.toStdString())
+            << "a refused write changed the settings";
     }
 }
 
@@ -187,97 +138,57 @@ INSTANTIATE_TEST_SUITE_P(Values, DefaultsWriteTest, ::testing::ValuesIn(writeCas
 
 TEST_F(CliTest, DefaultsWriteDataTakesAFile)
 {
-    const QString logo = m_env.home() + QStringLiteral("/logo.png");
-    QFile f(logo);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(QByteArray("\x89PNG\r\n\x1a\n\0\0\xff", 11));
-    f.close();
-    ASSERT_EQ(run({"defaults", "write", "prefsLogo", logo, "--type", "data"}).exitCode, 0);
-    EXPECT_EQ(read(QStringLiteral("prefsLogo")),
-              QStringLiteral("\"%1\"").arg(
-                  QString::fromLatin1(QByteArray("\x89PNG\r\n\x1a\n\0\0\xff", 11).toBase64())));
+    const QByteArray png("\x89PNG\r\n\x1a\n\0\0\xff", 11);
+    writeFile("logo.png", png);
+    ok({"defaults", "write", "prefsLogo", path("logo.png"), "--type", "data"});
+    EXPECT_EQ(read("prefsLogo"), "\"" + QString::fromLatin1(png.toBase64()) + "\"");
 }
 
-struct UsageCase
+TEST_F(CliTest, UsageErrorsExitTwoWithOneLineAndHelpGoesToStandardOutput)
 {
-    const char* name;
-    QStringList args;
-};
-
-class UsageTest : public CliTest, public ::testing::WithParamInterface<UsageCase>
-{
-};
-
-TEST_P(UsageTest, ExitsTwoWithOneLine)
-{
-    const CliRun r = run(GetParam().args);
-    EXPECT_EQ(r.exitCode, 2);
-    expectOneErrorLine(r);
-}
-
-INSTANTIATE_TEST_SUITE_P(Commands, UsageTest,
-                         ::testing::Values(UsageCase{"UnknownCommand", {"frobnicate"}},
-                                           UsageCase{"UnknownSubcommand", {"defaults", "erase"}},
-                                           UsageCase{"ReadTwoKeys", {"defaults", "read", "a", "b"}},
-                                           UsageCase{"LoadUnknownLanguage", {"defaults", "load", "klingon"}},
-                                           UsageCase{"LoadNothing", {"defaults", "load"}}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(CliTest, HelpGoesToStandardOutput)
-{
-    const CliRun help = run({"--help"});
-    EXPECT_EQ(help.exitCode, 0);
-    EXPECT_TRUE(help.out.contains(QLatin1String("defaults read")));
-    const CliRun none = run({});
-    EXPECT_EQ(none.exitCode, 2);
+    const QStringList cases[] = {{"frobnicate"},
+                                 {"defaults", "erase"},
+                                 {"defaults", "read", "a", "b"},
+                                 {"defaults", "load", "klingon"},
+                                 {"defaults", "load"}};
+    for (const QStringList& args : cases)
+        expectRefusal(run(args), 2);
+    EXPECT_TRUE(ok({"--help"}).out.contains(QLatin1String("defaults read")));
+    const CliRun none = run({}); // the help, as the error
+    EXPECT_EQ(none.code, 2);
     EXPECT_TRUE(none.out.isEmpty());
 }
 
 TEST_F(CliTest, ALockedStoreRefusesChangesButReads)
 {
-    ASSERT_EQ(run({"defaults", "read"}).exitCode, 0);
-    const QByteArray settingsBefore = [this] {
-        QFile f(m_env.locations().settingsFile());
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }();
-    InstanceLock lock(m_env.locations().lockFile());
-    ASSERT_TRUE(lock.tryLock());
+    ok({"defaults", "read"});
+    const QByteArray settingsBefore = readFile(env.locations().settingsFile());
+    InstanceLock lock(env.locations().lockFile());
+    ASSERT_TRUE(lock.tryLock().ok());
 
-    const CliRun load = run({"defaults", "load", "german"});
-    EXPECT_EQ(load.exitCode, 3);
-    expectOneErrorLine(load);
-    EXPECT_TRUE(load.err.contains(QLatin1String("in use"))) << qPrintable(load.err);
-
-    const CliRun r = run({"defaults", "read", "locInvoice"});
-    EXPECT_EQ(r.exitCode, 0) << qPrintable(r.err);
-    EXPECT_EQ(r.out, QStringLiteral("\"Invoice\"\n"));
-    QFile f(m_env.locations().settingsFile());
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), settingsBefore) << "a run beside the application must not touch its settings";
+    expectRefusal(run({"defaults", "load", "german"}), 3, QStringLiteral("in use"));
+    EXPECT_EQ(ok({"defaults", "read", "locInvoice"}).out, QStringLiteral("\"Invoice\"\n"));
+    EXPECT_EQ(readFile(env.locations().settingsFile()), settingsBefore)
+        << "a run beside the application must not touch its settings";
 
     lock.unlock();
-    EXPECT_EQ(run({"defaults", "load", "german"}).exitCode, 0);
-    EXPECT_EQ(read(QStringLiteral("locInvoice")), QStringLiteral("\"Rechnung\""));
+    ok({"defaults", "load", "german"});
+    EXPECT_EQ(read("locInvoice"), QStringLiteral("\"Rechnung\""));
 }
 
 TEST_F(CliTest, AFileWhereTheFolderShouldBe)
 {
-    const QString files = m_env.locations().filesDirectory;
+    const QString files = env.locations().filesDirectory;
     QDir().mkpath(QFileInfo(files).absolutePath());
     QFile f(files);
     ASSERT_TRUE(f.open(QIODevice::WriteOnly));
     f.write("not a folder");
     f.close();
 
-    const CliRun load = run({"defaults", "load", "german"});
-    EXPECT_EQ(load.exitCode, 3);
-    expectOneErrorLine(load);
-    EXPECT_TRUE(load.err.contains(QLatin1String("Expected a folder to store application data, found a file")))
-        << qPrintable(load.err);
+    expectRefusal(run({"defaults", "load", "german"}), 3,
+                  QStringLiteral("Expected a folder to store application data, found a file"));
     EXPECT_TRUE(QFileInfo(files).isFile());
-
-    const CliRun r = run({"defaults", "read"});
-    EXPECT_EQ(r.exitCode, 0) << qPrintable(r.err);
+    ok({"defaults", "read"});
 }
 
 } // namespace

@@ -1,120 +1,60 @@
-#include "tests/support/TestEnvironment.h"
+#include "tests/cli/CliProcess.h"
 
-#include <QDir>
-#include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
 #include <QRegularExpression>
-
-#include <gtest/gtest.h>
 
 using namespace vorn::test;
 
 namespace {
 
-struct CliRun
-{
-    int code = -1;
-    QString out;
-    QString err;
-};
-
 // The output commands of vorn-cli (html, pdf, design preview-html), run as a
 // program in a scratch home.
-class OutputCommandsTest : public ::testing::Test
+class OutputCommandsTest : public CliFixture
 {
 protected:
-    CliRun run(const QStringList& args)
-    {
-        QProcess p;
-        p.setProgram(QStringLiteral(VORN_CLI_PATH));
-        p.setArguments(args);
-        p.setProcessEnvironment(QProcessEnvironment::systemEnvironment());
-        p.start();
-        EXPECT_TRUE(p.waitForFinished(60000)) << qPrintable(args.join(QLatin1Char(' ')));
-        CliRun r;
-        r.code = p.exitStatus() == QProcess::NormalExit ? p.exitCode() : -1;
-        r.out = QString::fromUtf8(p.readAllStandardOutput());
-        r.err = QString::fromUtf8(p.readAllStandardError());
-        return r;
-    }
-    QString ok(const QStringList& args)
-    {
-        const CliRun r = run(args);
-        EXPECT_EQ(r.code, 0) << qPrintable(args.join(QLatin1Char(' '))) << ": " << qPrintable(r.err);
-        return r.out;
-    }
-    QJsonObject document(const QString& doc)
-    {
-        return QJsonDocument::fromJson(ok({QStringLiteral("show"), doc}).toUtf8()).object();
-    }
+    static int status(const QString& doc) { return ok({"show", doc}).object().value("status").toInt(); }
     // A document with two items; answers its uniqueID.
-    QString make(const char* kind, const char* number)
+    static QString make(const char* kind, const char* number)
     {
-        const QJsonObject d =
-            QJsonDocument::fromJson(ok({QStringLiteral("new"), QLatin1String(kind)}).toUtf8()).object();
-        const QString id = d.value(QStringLiteral("uniqueID")).toString();
-        ok({QStringLiteral("set"), id, QStringLiteral("number=%1").arg(QLatin1String(number))});
-        ok({QStringLiteral("item"), QStringLiteral("add"), id, QStringLiteral("title=Brand workshop"),
-            QStringLiteral("baseAmount=1200"), QStringLiteral("unitCount=1")});
-        ok({QStringLiteral("item"), QStringLiteral("add"), id, QStringLiteral("title=Logo design"),
-            QStringLiteral("baseAmount=95"), QStringLiteral("unitCount=12")});
+        const QString id = ok({"new", kind}).object().value("uniqueID").toString();
+        ok({"set", id, QStringLiteral("number=%1").arg(QLatin1String(number))});
+        ok({"item", "add", id, "title=Brand workshop", "baseAmount=1200", "unitCount=1"});
+        ok({"item", "add", id, "title=Logo design", "baseAmount=95", "unitCount=12"});
         return id;
     }
-    QString path(const QString& name) const { return QDir(env.home()).filePath(name); }
-    static QByteArray read(const QString& file)
+    // No placeholder of the design is left in the page.
+    static void expectFinished(const QString& html)
     {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+        static const QRegularExpression leftover(QStringLiteral("%[A-Z][A-Z0-9]*%"));
+        EXPECT_FALSE(leftover.match(html).hasMatch()) << leftover.match(html).captured().toStdString();
     }
-
-    TestEnvironment env;
 };
-
-const QRegularExpression leftover(QStringLiteral("%[A-Z][A-Z0-9]*%"));
 
 TEST_F(OutputCommandsTest, HtmlIsTheDocumentInTheDefaultDesign)
 {
     const QString id = make("invoice", "INV-7");
-    const QString html = ok({"html", id});
-    EXPECT_TRUE(html.contains("INV-7"));
-    EXPECT_TRUE(html.contains("Brand workshop") && html.contains("Logo design"));
-    EXPECT_TRUE(html.contains("1,200.00"));
-    EXPECT_FALSE(leftover.match(html).hasMatch()) << leftover.match(html).captured().toStdString();
+    const QString html = ok({"html", id}).out;
+    for (const char* text : {"INV-7", "Brand workshop", "Logo design", "1,200.00"})
+        EXPECT_TRUE(html.contains(QLatin1String(text))) << text;
+    expectFinished(html);
 
     const QString reminder = ok({"html", id, "--reminder", "--title", "Second Notice", "--conditions",
-                                 "Pay now\nplease", "--footer", "Thanks"});
-    EXPECT_TRUE(reminder.contains("Second Notice"));
-    EXPECT_TRUE(reminder.contains("Pay now<br />please"));
-    EXPECT_TRUE(reminder.contains("Overdue Since"));
+                                 "Pay now\nplease", "--footer", "Thanks"})
+                                 .out;
+    for (const char* text : {"Second Notice", "Pay now<br />please", "Overdue Since"})
+        EXPECT_TRUE(reminder.contains(QLatin1String(text))) << text;
     // Without texts the reminder sheet's own come in.
-    EXPECT_TRUE(ok({"html", id, "--reminder"}).contains("Payment Reminder"));
-}
+    EXPECT_TRUE(ok({"html", id, "--reminder"}).out.contains("Payment Reminder"));
 
-TEST_F(OutputCommandsTest, WrongArgumentsAreUsageErrors)
-{
-    const QString id = make("invoice", "INV-8");
-    struct Case
-    {
-        QStringList args;
-        int code;
-    } cases[] = {
-        {{"html"}, 2},
-        {{"html", "nosuch"}, 2},
-        {{"html", id, "--title", "X"}, 2},
-        {{"html", id, "--reminder", "--title"}, 2},
-        {{"pdf", id}, 2},
-        {{"pdf", "--all"}, 2},
-        {{"pdf", "--all", path("x"), "--filter", "sent"}, 2},
-        {{"design", "preview-html", "extra"}, 2},
-    };
-    for (const Case& c : cases) {
-        const CliRun r = run(c.args);
-        EXPECT_EQ(r.code, c.code) << qPrintable(c.args.join(' '));
-        EXPECT_TRUE(r.out.isEmpty());
-        EXPECT_TRUE(r.err.startsWith("vorn-cli: ")) << qPrintable(r.err);
-    }
+    const QStringList usage[] = {{"html"},
+                                 {"html", "nosuch"},
+                                 {"html", id, "--title", "X"},
+                                 {"html", id, "--reminder", "--title"},
+                                 {"pdf", id},
+                                 {"pdf", "--all"},
+                                 {"pdf", "--all", path("x"), "--filter", "sent"},
+                                 {"design", "preview-html", "extra"}};
+    for (const QStringList& args : usage)
+        expectRefusal(run(args), 2);
 }
 
 struct MarkCase
@@ -133,60 +73,43 @@ TEST_P(PdfMarks, AnInvoiceIsMarkedSentWhenTheSettingIsOn)
     const MarkCase& c = GetParam();
     ok({"defaults", "write", "markInvoiceAsSent", c.setting ? "1" : "0", "--type", "bool"});
     const QString id = make(c.kind, "DOC-1");
-    const QString out = path("out.pdf");
-    EXPECT_EQ(ok({"pdf", id, out}).trimmed(), out);
-    EXPECT_TRUE(read(out).startsWith("%PDF-"));
-    EXPECT_EQ(document(id).value("status").toInt(), c.status);
+    EXPECT_EQ(ok({"pdf", id, path("out.pdf")}).out.trimmed(), path("out.pdf"));
+    EXPECT_TRUE(readFile(path("out.pdf")).startsWith("%PDF-"));
+    EXPECT_EQ(status(id), c.status);
 }
 
 INSTANTIATE_TEST_SUITE_P(KindAndSetting, PdfMarks,
                          ::testing::Values(MarkCase{"invoice", true, 1}, MarkCase{"invoice", false, 0},
-                                           MarkCase{"quote", true, 0}, MarkCase{"quote", false, 0}));
+                                           MarkCase{"quote", true, 0}));
 
 TEST_F(OutputCommandsTest, PdfNeverReplacesAFile)
 {
+    ok({"defaults", "write", "markInvoiceAsSent", "1", "--type", "bool"});
     const QString id = make("invoice", "INV-9");
-    const QString out = path("mine.pdf");
-    QFile file(out);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write("keep me");
-    file.close();
-    const CliRun r = run({"pdf", id, out});
-    EXPECT_EQ(r.code, 3);
-    EXPECT_TRUE(r.err.contains("already exists")) << qPrintable(r.err);
-    EXPECT_EQ(r.err.count('\n'), 1) << qPrintable(r.err);
-    EXPECT_EQ(read(out), QByteArray("keep me"));
+    writeFile("mine.pdf", "keep me");
+    expectRefusal(run({"pdf", id, path("mine.pdf")}), 3, "already exists");
+    EXPECT_EQ(readFile(path("mine.pdf")), QByteArray("keep me"));
     // Nothing was saved: the invoice is not marked as sent.
-    EXPECT_EQ(document(id).value("status").toInt(), 0);
+    EXPECT_EQ(status(id), 0);
 }
 
-struct PaperCase
+TEST_F(OutputCommandsTest, PdfPaperFollowsTheSetting)
 {
-    int setting;
-    const char* mediaBox;
-};
-
-class PdfPapers : public OutputCommandsTest, public ::testing::WithParamInterface<PaperCase>
-{
-};
-
-TEST_P(PdfPapers, FollowTheSetting)
-{
-    ok({"defaults", "write", "tempPaperSize", QString::number(GetParam().setting), "--type", "int"});
     const QString id = make("invoice", "INV-P");
-    ok({"pdf", id, path("paper.pdf")});
-    const QString pdf = QString::fromLatin1(read(path("paper.pdf")));
     const QRegularExpression box(QStringLiteral("/MediaBox\\s*\\[\\s*0 0 ([0-9.]+) ([0-9.]+)"));
-    const auto m = box.match(pdf);
-    ASSERT_TRUE(m.hasMatch());
-    EXPECT_EQ(
-        QStringLiteral("%1x%2").arg(qRound(m.captured(1).toDouble())).arg(qRound(m.captured(2).toDouble())),
-        QLatin1String(GetParam().mediaBox));
+    for (const auto& [setting, mediaBox] : {std::pair{0, "612x792"}, std::pair{2, "595x842"},
+                                            std::pair{1, "612x1008"}, std::pair{9, "612x792"}}) {
+        ok({"defaults", "write", "tempPaperSize", QString::number(setting), "--type", "int"});
+        const QString file = path(QStringLiteral("paper%1.pdf").arg(setting));
+        ok({"pdf", id, file});
+        const auto m = box.match(QString::fromLatin1(readFile(file)));
+        ASSERT_TRUE(m.hasMatch()) << setting;
+        EXPECT_EQ(QStringLiteral("%1x%2")
+                      .arg(qRound(m.captured(1).toDouble()))
+                      .arg(qRound(m.captured(2).toDouble())),
+                  QLatin1String(mediaBox));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(TempPaperSize, PdfPapers,
-                         ::testing::Values(PaperCase{0, "612x792"}, PaperCase{2, "595x842"},
-                                           PaperCase{1, "612x1008"}, PaperCase{9, "612x792"}));
 
 TEST_F(OutputCommandsTest, AllListedDocumentsAreNamedByTheirJobTitles)
 {
@@ -195,29 +118,26 @@ TEST_F(OutputCommandsTest, AllListedDocumentsAreNamedByTheirJobTitles)
     make("invoice", "INV-2");
     make("quote", "Q/3");
     const QString folder = path("all");
-    const QStringList written = ok({"pdf", "--all", folder}).split('\n', Qt::SkipEmptyParts);
-    QStringList names = QDir(folder).entryList({"*.pdf"}, QDir::Files, QDir::Name);
+    EXPECT_EQ(ok({"pdf", "--all", folder}).out.split('\n', Qt::SkipEmptyParts).size(), 3);
+    const QStringList names = QDir(folder).entryList({"*.pdf"}, QDir::Files, QDir::Name);
     EXPECT_EQ(names,
               (QStringList{"Tandrelo Studio | Invoice | INV-1.pdf", "Tandrelo Studio | Invoice | INV-2.pdf",
                            "Tandrelo Studio | Quote | Q-3.pdf"}));
-    EXPECT_EQ(written.size(), 3);
     for (const QString& name : names)
-        EXPECT_TRUE(read(QDir(folder).filePath(name)).startsWith("%PDF-")) << qPrintable(name);
+        EXPECT_TRUE(readFile(QDir(folder).filePath(name)).startsWith("%PDF-")) << qPrintable(name);
 
     // With the list filtered to quotes, only the quote.
-    const QString quotes = path("quotes");
-    ok({"pdf", "--all", quotes, "--filter", "4"});
-    EXPECT_EQ(QDir(quotes).entryList({"*.pdf"}, QDir::Files),
+    ok({"pdf", "--all", path("quotes"), "--filter", "4"});
+    EXPECT_EQ(QDir(path("quotes")).entryList({"*.pdf"}, QDir::Files),
               QStringList{"Tandrelo Studio | Quote | Q-3.pdf"});
 }
 
 TEST_F(OutputCommandsTest, DesignPreviewShowsTheSampleDocument)
 {
-    const QString html = ok({"design", "preview-html"});
-    EXPECT_TRUE(html.contains("Erin Holloway"));
-    EXPECT_TRUE(html.contains("A Lot of Things"));
-    EXPECT_TRUE(html.contains("Brand Workshop"));
-    EXPECT_FALSE(leftover.match(html).hasMatch()) << leftover.match(html).captured().toStdString();
+    const QString html = ok({"design", "preview-html"}).out;
+    for (const char* text : {"Erin Holloway", "A Lot of Things", "Brand Workshop"})
+        EXPECT_TRUE(html.contains(QLatin1String(text))) << text;
+    expectFinished(html);
 }
 
 } // namespace
