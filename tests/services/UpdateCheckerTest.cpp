@@ -21,8 +21,8 @@ namespace {
 
 using CheckResult = ZRUpdateChecker::CheckResult;
 
-const QString question = QStringLiteral("Do you want to download the update now?");
-const QString errorTitle = QStringLiteral("Could not check for updates");
+const QString question = "Do you want to download the update now?";
+const QString errorTitle = "Could not check for updates";
 
 QByteArray xmlList(const QVariantMap& entry)
 {
@@ -31,25 +31,24 @@ QByteArray xmlList(const QVariantMap& entry)
 
 QVariantMap entry(const QString& version)
 {
-    return {{QStringLiteral("productVersion"), QStringLiteral("Vorn ") + version},
-            {QStringLiteral("productPageURL"), QStringLiteral("https://vorn.tandrelo.com/")},
-            {QStringLiteral("version"), version},
-            {QStringLiteral("url"), QStringLiteral("https://vorn.tandrelo.com/downloads/Vorn.zip")}};
+    return {{"productVersion", "Vorn " + version},
+            {"productPageURL", "https://vorn.tandrelo.com/"},
+            {"version", version},
+            {"url", "https://vorn.tandrelo.com/downloads/Vorn.zip"}};
 }
 
 class UpdateCheckerTest : public ::testing::Test
 {
 protected:
     UpdateCheckerTest()
-        : settings(dir.filePath(QStringLiteral("settings.plist"))),
+        : settings(dir.filePath("settings.plist")),
           clock(QDateTime(QDate(2026, 11, 21), QTime(9, 52), QTimeZone::utc())), checker(settings, ui, clock)
     {
         QNetworkProxy::setApplicationProxy(QNetworkProxy::NoProxy);
-        settings.setValue(ServiceUrls::versionList,
-                          stub.url(QStringLiteral("/macpad/list.plist")).toString());
-        settings.setValue(ServiceUrls::releaseNotes, stub.url(QStringLiteral("/macpad/Vorn.txt")).toString());
-        settings.setValue(ServiceUrls::download, stub.url(QStringLiteral("/downloads/Vorn.zip")).toString());
-        checker.setApplicationVersion(QStringLiteral("1.0.0"));
+        settings.setValue(ServiceUrls::versionList, stub.url("/macpad/list.plist").toString());
+        settings.setValue(ServiceUrls::releaseNotes, stub.url("/macpad/Vorn.txt").toString());
+        settings.setValue(ServiceUrls::download, stub.url("/downloads/Vorn.zip").toString());
+        checker.setApplicationVersion("1.0.0");
         checker.setTimeout(400);
         QObject::connect(&checker, &ZRUpdateChecker::checkFinished,
                          [this](const CheckResult& r) { results.append(r); });
@@ -69,17 +68,23 @@ protected:
     QList<CheckResult> results;
 };
 
+enum class Shown
+{
+    Nothing,
+    UpToDate,
+    Update,
+    Failure
+};
+
 struct VersionCase
 {
     const char* name;
     HttpStub::Response list;
-    HttpStub::Response notes;
     bool notifyUpToDate;
-    int answer;
-    QStringList alerts;
-    QString text; // of the last alert; empty: not checked
-    bool opensDownload;
-    bool isError;
+    int answer; // to the update offer: 0 downloads
+    Shown shown;
+    QString text = {}; // of the alert; empty: not checked
+    HttpStub::Response notes = {200, "Faster PDFs.\n"};
     bool closedServer = false;
 };
 
@@ -93,8 +98,7 @@ TEST_P(VersionCheck, ShowsTheRightNotification)
     stub.route("/macpad/list.plist", row.list);
     stub.route("/macpad/Vorn.txt", row.notes);
     if (row.closedServer)
-        settings.setValue(ServiceUrls::versionList,
-                          HttpStub::closedUrl(QStringLiteral("/list.plist")).toString());
+        settings.setValue(ServiceUrls::versionList, HttpStub::closedUrl("/list.plist").toString());
     ui.answerAlert(row.answer);
 
     checker.checkForUpdatesAndNotify(row.notifyUpToDate);
@@ -102,162 +106,64 @@ TEST_P(VersionCheck, ShowsTheRightNotification)
     ASSERT_TRUE(waitForResults(1));
 
     EXPECT_FALSE(checker.isChecking());
-    EXPECT_EQ(results[0].isError, row.isError);
-    EXPECT_EQ(ui.alertTitles(), row.alerts);
+    EXPECT_EQ(results[0].isError, row.shown == Shown::Failure);
+    const QStringList titles[] = {{}, {"You're up to date!"}, {"Update available!"}, {errorTitle}};
+    EXPECT_EQ(ui.alertTitles(), titles[int(row.shown)]);
     if (!row.text.isEmpty()) {
-        ASSERT_FALSE(ui.calls(QStringLiteral("alert")).isEmpty());
-        EXPECT_EQ(ui.calls(QStringLiteral("alert")).last().text, row.text);
+        ASSERT_FALSE(ui.calls("alert").isEmpty());
+        EXPECT_EQ(ui.calls("alert").last().text, row.text);
     }
-    const auto urls = ui.calls(QStringLiteral("url"));
-    if (row.opensDownload) {
-        ASSERT_EQ(urls.size(), 1);
-        EXPECT_EQ(urls[0].title, stub.url(QStringLiteral("/downloads/Vorn.zip")).toString());
-    } else {
-        EXPECT_TRUE(urls.isEmpty());
+    const bool downloads = row.shown == Shown::Update && row.answer == 0;
+    EXPECT_EQ(ui.calls("url").size(), downloads ? 1 : 0);
+    if (downloads) {
+        EXPECT_EQ(ui.calls("url").value(0).title, stub.url("/downloads/Vorn.zip").toString());
     }
     // Release notes are fetched only to offer an update.
-    EXPECT_EQ(stub.count("/macpad/Vorn.txt"),
-              row.alerts == QStringList{QStringLiteral("Update available!")} ? 1 : 0);
+    EXPECT_EQ(stub.count("/macpad/Vorn.txt"), row.shown == Shown::Update ? 1 : 0);
 }
 
-const HttpStub::Response notes{200, "Faster PDFs.\n", false};
-const QStringList upToDate{QStringLiteral("You're up to date!")};
-const QStringList available{QStringLiteral("Update available!")};
-const QStringList failed{errorTitle};
+// The version list naming the given version.
+HttpStub::Response listing(const QString& version)
+{
+    return {200, xmlList(entry(version))};
+}
+
+const QString upToDateText = "Vorn 1.0.0 is the newest version available.";
+const QString offerText = "Faster PDFs.\n\n" + question;
+const QString failureText = "The list of available versions could not be loaded. Please check your internet "
+                            "connection and try again later.";
 
 const VersionCase versionCases[] = {
-    {"UpToDateReported",
-     {200, xmlList(entry(QStringLiteral("1.0.0")))},
-     notes,
-     true,
-     0,
-     upToDate,
-     QStringLiteral("Vorn 1.0.0 is the newest version available."),
-     false,
-     false},
-    {"UpToDateInTheBackground",
-     {200, xmlList(entry(QStringLiteral("1.0.0")))},
-     notes,
-     false,
-     0,
-     {},
-     {},
-     false,
-     false},
-    {"NewerVersionDownloaded",
-     {200, xmlList(entry(QStringLiteral("1.1.0")))},
-     notes,
-     false,
-     0,
-     available,
-     QStringLiteral("Faster PDFs.\n\n") + question,
-     true,
-     false},
-    {"NewerVersionDeclined",
-     {200, xmlList(entry(QStringLiteral("1.1.0")))},
-     notes,
-     true,
-     1,
-     available,
-     {},
-     false,
-     false},
-    {"OlderVersionIsOfferedToo",
-     {200, xmlList(entry(QStringLiteral("0.9.0")))},
-     notes,
-     true,
-     1,
-     available,
-     {},
-     false,
-     false},
-    {"SameNumberOtherText",
-     {200, xmlList(entry(QStringLiteral("1.0")))},
-     notes,
-     true,
-     1,
-     available,
-     {},
-     false,
-     false},
+    {"UpToDateReported", listing("1.0.0"), true, 0, Shown::UpToDate, upToDateText},
+    {"UpToDateInTheBackground", listing("1.0.0"), false, 0, Shown::Nothing},
+    {"NewerVersionDownloaded", listing("1.1.0"), false, 0, Shown::Update, offerText},
+    {"NewerVersionDeclined", listing("1.1.0"), true, 1, Shown::Update},
+    {"OlderVersionIsOfferedToo", listing("0.9.0"), true, 1, Shown::Update},
+    {"SameNumberOtherText", listing("1.0"), true, 1, Shown::Update},
     {"EntryUnderTheIdentifier",
-     {200, xmlList({{QStringLiteral("com.tandrelo.Orvandel"), entry(QStringLiteral("1.0.0"))}})},
-     notes,
+     {200, xmlList({{"com.tandrelo.Orvandel", entry("1.0.0")}})},
      true,
      0,
-     upToDate,
-     {},
-     false,
-     false},
-    {"BinaryList",
-     {200, PropertyList::toBinary(entry(QStringLiteral("1.0.0")))},
-     notes,
-     true,
-     0,
-     upToDate,
-     {},
-     false,
-     false},
-    {"ReleaseNotesMissing",
-     {200, xmlList(entry(QStringLiteral("2.0")))},
-     {404, "gone"},
-     true,
-     1,
-     available,
-     question,
-     false,
-     false},
-    {"ServerError",
-     {500, "broken"},
-     notes,
-     false,
-     0,
-     failed,
-     QStringLiteral(
-         "The list of available versions could not be loaded. Please check your internet connection and "
-         "try again later."),
-     false,
-     true},
-    {"NotFound", {404, "missing"}, notes, true, 0, failed, {}, false, true},
-    {"Timeout", {200, {}, true}, notes, false, 0, failed, {}, false, true},
-    {"ConnectionRefused", {}, notes, false, 0, failed, {}, false, true, true},
+     Shown::UpToDate},
+    {"BinaryList", {200, PropertyList::toBinary(entry("1.0.0"))}, true, 0, Shown::UpToDate},
+    {"ReleaseNotesMissing", listing("2.0"), true, 1, Shown::Update, question, {404, "gone"}},
+    {"ServerError", {500, "broken"}, false, 0, Shown::Failure, failureText},
+    {"NotFound", {404, "missing"}, true, 0, Shown::Failure},
+    {"Timeout", {200, {}, true}, false, 0, Shown::Failure},
+    {"ConnectionRefused", {}, false, 0, Shown::Failure, {}, {}, true},
     {"BadPropertyList",
      {200, "<?xml version=\"1.0\"?><plist><dict><key>version</key>"},
-     notes,
      true,
      0,
-     failed,
-     {},
-     false,
-     true},
-    {"NoVersion",
-     {200, xmlList({{QStringLiteral("productVersion"), QStringLiteral("2.0")}})},
-     notes,
-     true,
-     0,
-     failed,
-     {},
-     false,
-     true},
-    {"VersionNotText",
-     {200, xmlList({{QStringLiteral("version"), QVariantList{1, 0}}})},
-     notes,
-     true,
-     0,
-     failed,
-     {},
-     false,
-     true},
+     Shown::Failure},
+    {"NoVersion", {200, xmlList({{"productVersion", "2.0"}})}, true, 0, Shown::Failure},
+    {"VersionNotText", {200, xmlList({{"version", QVariantList{1, 0}}})}, true, 0, Shown::Failure},
     {"ArrayInsteadOfDictionary",
-     {200, PropertyList::toXml(QVariantList{entry(QStringLiteral("1.0.0"))})},
-     notes,
+     {200, PropertyList::toXml(QVariantList{entry("1.0.0")})},
      true,
      0,
-     failed,
-     {},
-     false,
-     true},
-    {"HugeAnswer", {200, QByteArray(3 * 1024 * 1024, 'v')}, notes, true, 0, failed, {}, false, true},
+     Shown::Failure},
+    {"HugeAnswer", {200, QByteArray(3 * 1024 * 1024, 'v')}, true, 0, Shown::Failure},
 };
 
 INSTANTIATE_TEST_SUITE_P(Answers, VersionCheck, ::testing::ValuesIn(versionCases),
@@ -266,8 +172,7 @@ INSTANTIATE_TEST_SUITE_P(Answers, VersionCheck, ::testing::ValuesIn(versionCases
 struct StartupCase
 {
     const char* name;
-    bool firstRun;
-    int firstAnswer;
+    bool firstRun; // the question is asked: answered with 0 to check
     bool checkAtStartup;
     std::optional<qint64> secondsSinceLastCheck;
     bool checks;
@@ -280,7 +185,7 @@ class StartupCheck : public UpdateCheckerTest, public ::testing::WithParamInterf
 TEST_P(StartupCheck, RunsAtMostOnceADay)
 {
     const StartupCase& row = GetParam();
-    stub.route("/macpad/list.plist", {200, xmlList(entry(QStringLiteral("1.0.0")))});
+    stub.route("/macpad/list.plist", listing("1.0.0"));
     if (!row.firstRun) {
         settings.setValue(ZRUpdateChecker::firstUpdateCheckKey, true);
         settings.setValue(ZRUpdateChecker::checkAtStartupKey, row.checkAtStartup);
@@ -290,22 +195,21 @@ TEST_P(StartupCheck, RunsAtMostOnceADay)
             ZRUpdateChecker::lastCheckSecondsKey,
             ZRUpdateChecker::referenceSeconds(clock.now().addSecs(-*row.secondsSinceLastCheck)));
     const QVariant lastBefore = settings.value(ZRUpdateChecker::lastCheckSecondsKey);
-    ui.answerAlert(row.firstAnswer);
+    ui.answerAlert(row.checkAtStartup ? 0 : 1);
     bool checkbox = !row.checkAtStartup;
     QObject::connect(&checker, &ZRUpdateChecker::checkAtStartupChanged, [&](bool on) { checkbox = on; });
 
     checker.awakeFromNib();
 
+    // A background check that finds nothing new says nothing.
+    const auto alerts = ui.calls("alert");
+    ASSERT_EQ(alerts.size(), row.firstRun ? 1 : 0);
     if (row.firstRun) {
-        const auto alerts = ui.calls(QStringLiteral("alert"));
-        ASSERT_EQ(alerts.size(), 1);
-        EXPECT_EQ(alerts[0].title, QStringLiteral("Check for updates automatically?"));
-        EXPECT_TRUE(alerts[0].text.contains(QStringLiteral("Vorn")));
-        EXPECT_EQ(alerts[0].buttons, (QStringList{QStringLiteral("OK"), QStringLiteral("Cancel")}));
-        EXPECT_TRUE(settings.boolValue(ZRUpdateChecker::firstUpdateCheckKey));
-    } else {
-        EXPECT_TRUE(ui.alertTitles().isEmpty());
+        EXPECT_EQ(alerts[0].title, "Check for updates automatically?");
+        EXPECT_TRUE(alerts[0].text.contains("Vorn"));
+        EXPECT_EQ(alerts[0].buttons, (QStringList{"OK", "Cancel"}));
     }
+    EXPECT_TRUE(settings.boolValue(ZRUpdateChecker::firstUpdateCheckKey));
     EXPECT_EQ(checker.checkAtStartup(), row.checkAtStartup);
     EXPECT_EQ(checkbox, row.checkAtStartup);
     EXPECT_EQ(checker.isChecking(), row.checks);
@@ -319,21 +223,18 @@ TEST_P(StartupCheck, RunsAtMostOnceADay)
         EXPECT_EQ(settings.value(ZRUpdateChecker::lastCheckSecondsKey), lastBefore);
         EXPECT_FALSE(settings.hasValue(ZRUpdateChecker::lastCheckDateKey));
     }
-    // A background check that finds nothing new says nothing.
-    EXPECT_EQ(ui.alertTitles().size(), row.firstRun ? 1 : 0);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Days, StartupCheck,
-    ::testing::Values(StartupCase{"FirstRunAgreed", true, 0, true, std::nullopt, true},
-                      StartupCase{"FirstRunDeclined", true, 1, false, std::nullopt, false},
-                      StartupCase{"NeverChecked", false, 0, true, std::nullopt, true},
-                      StartupCase{"CheckedAnHourAgo", false, 0, true, 3600, false},
-                      StartupCase{"CheckedExactlyADayAgo", false, 0, true, 86400, false},
-                      StartupCase{"CheckedADayAndASecondAgo", false, 0, true, 86401, true},
-                      StartupCase{"ClockWentBack", false, 0, true, -7200, false},
-                      StartupCase{"SwitchedOff", false, 0, false, std::nullopt, false}),
-    [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Days, StartupCheck,
+                         ::testing::Values(StartupCase{"FirstRunAgreed", true, true, std::nullopt, true},
+                                           StartupCase{"FirstRunDeclined", true, false, std::nullopt, false},
+                                           StartupCase{"NeverChecked", false, true, std::nullopt, true},
+                                           StartupCase{"CheckedAnHourAgo", false, true, 3600, false},
+                                           StartupCase{"CheckedExactlyADayAgo", false, true, 86400, false},
+                                           StartupCase{"CheckedADayAndASecondAgo", false, true, 86401, true},
+                                           StartupCase{"ClockWentBack", false, true, -7200, false},
+                                           StartupCase{"SwitchedOff", false, false, std::nullopt, false}),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(UpdateCheckerTest, SwitchingTheCheckOnDoesNotCheckAtOnce)
 {
@@ -351,19 +252,19 @@ TEST_F(UpdateCheckerTest, SwitchingTheCheckOnDoesNotCheckAtOnce)
 
 TEST_F(UpdateCheckerTest, TheMenuCommandJoinsABackgroundCheckAndReportsIt)
 {
-    stub.route("/macpad/list.plist", {200, xmlList(entry(QStringLiteral("1.0.0")))});
+    stub.route("/macpad/list.plist", listing("1.0.0"));
     checker.checkForUpdatesAndNotify(false);
     checker.checkForUpdates();
     ASSERT_TRUE(waitForResults(1));
     EXPECT_FALSE(waitUntil([&] { return results.size() > 1; }, 200));
     EXPECT_EQ(stub.count("/macpad/list.plist"), 1);
-    EXPECT_EQ(ui.alertTitles(), QStringList{QStringLiteral("You're up to date!")});
+    EXPECT_EQ(ui.alertTitles(), QStringList{"You're up to date!"});
     EXPECT_EQ(settings.dateValue(ZRUpdateChecker::lastCheckDateKey), clock.now());
 }
 
 TEST_F(UpdateCheckerTest, ACheckWaitingForItsReleaseNotesIsNotStartedTwice)
 {
-    stub.route("/macpad/list.plist", {200, xmlList(entry(QStringLiteral("2.0")))});
+    stub.route("/macpad/list.plist", listing("2.0"));
     stub.route("/macpad/Vorn.txt", {200, {}, true});
     ui.answerAlert(1);
     checker.checkForUpdatesAndNotify(false);
@@ -373,17 +274,14 @@ TEST_F(UpdateCheckerTest, ACheckWaitingForItsReleaseNotesIsNotStartedTwice)
     ASSERT_TRUE(waitForResults(1));
     EXPECT_FALSE(checker.isChecking());
     EXPECT_EQ(stub.count("/macpad/list.plist"), 1);
-    EXPECT_EQ(ui.alertTitles(), QStringList{QStringLiteral("Update available!")});
+    EXPECT_EQ(ui.alertTitles(), QStringList{"Update available!"});
 }
 
 TEST(UpdateCheckerDates, CountFromTheFirstOfJanuary2001)
 {
-    EXPECT_DOUBLE_EQ(
-        ZRUpdateChecker::referenceSeconds(QDateTime(QDate(2001, 1, 1), QTime(0, 1, 40), QTimeZone::utc())),
-        100.0);
-    EXPECT_DOUBLE_EQ(ZRUpdateChecker::referenceSeconds(
-                         QDateTime(QDate(2000, 12, 31), QTime(23, 59, 59, 500), QTimeZone::utc())),
-                     -0.5);
+    const auto utc = [](QDate d, QTime t) { return QDateTime(d, t, QTimeZone::utc()); };
+    EXPECT_DOUBLE_EQ(ZRUpdateChecker::referenceSeconds(utc({2001, 1, 1}, {0, 1, 40})), 100.0);
+    EXPECT_DOUBLE_EQ(ZRUpdateChecker::referenceSeconds(utc({2000, 12, 31}, {23, 59, 59, 500})), -0.5);
 }
 
 } // namespace
