@@ -2,37 +2,33 @@
 
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
-
-#include <QTimeZone>
+#include "tests/output/TestValues.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
 
 using namespace vorn;
+using namespace vorn::test;
 
 namespace {
 
 class CloneTest : public ::testing::Test
 {
 protected:
-    FixedClock clock{QDateTime(QDate(2026, 3, 1), QTime(10, 0), QTimeZone::utc())};
+    FixedClock clock{utc(2026, 3, 1, 10)};
     ObjectContext source{nullptr, clock};
     ObjectContext target{nullptr, clock};
 
     ManagedObject* document(int itemCount)
     {
         ManagedObject* invoice = source.insertNewObject(Entity::Invoice);
-        invoice->setValue(QStringLiteral("number"), QStringLiteral("RE-2026-007"));
-        invoice->setValue(QStringLiteral("amount"), 34.65f);
-        invoice->setValue(QStringLiteral("kind"), 1);
-        invoice->setValue(QStringLiteral("date"),
-                          QDateTime(QDate(2026, 2, 14), QTime(9, 30), QTimeZone::utc()));
-        invoice->setValue(QStringLiteral("misc1"), QVariant()); // absent must stay absent
+        // misc1 absent: it must stay absent
+        assign(*invoice, "number", "RE-2026-007", "amount", 34.65f, "kind", 1, "date",
+               utc(2026, 2, 14, 9, 30), "misc1", QVariant());
         for (int i = 0; i < itemCount; ++i) {
             ManagedObject* item = source.insertNewObject(Entity::Item);
-            item->setValue(QStringLiteral("title"), QStringLiteral("Line %1").arg(i));
-            item->setValue(QStringLiteral("unitCount"), float(i) + 0.5f);
+            assign(*item, "title", QStringLiteral("Line %1").arg(i), "unitCount", float(i) + 0.5f);
             invoice->insertObject(QStringLiteral("items"), item);
         }
         return invoice;

@@ -75,17 +75,12 @@ public:
             readText(QStringLiteral(VORN_DEFAULTS_DIR "/defaultPrefsEnglish.plist")).toUtf8());
         if (english.ok())
             settings.setValuesForKeys(english.value().toMap());
-        settings.setValue(QStringLiteral("prefsName"), QStringLiteral("Tandrelo Studio"));
-        settings.setValue(QStringLiteral("prefsSlogan"), QStringLiteral("Brand, type and print design"));
-        settings.setValue(
-            QStringLiteral("prefsContact"),
-            QStringLiteral("Mara Lindqvist\n12 Harbour Road\nPortsmouth PO1 3AX\n+44 23 9200 1234\n"
-                           "hello@tandrelo.example"));
-        settings.setValue(QStringLiteral("prefsLetterbox"),
-                          QStringLiteral("Tandrelo Studio · 12 Harbour Road · Portsmouth PO1 3AX"));
-        settings.setValue(QStringLiteral("prefsCurrency"), QStringLiteral("$"));
-        settings.setValue(QStringLiteral("tax2Title"), QStringLiteral("County Tax"));
-        settings.setValue(QStringLiteral("tax3Title"), QStringLiteral("Levy"));
+        assign(
+            settings, "prefsName", "Tandrelo Studio", "prefsSlogan", "Brand, type and print design",
+            "prefsContact",
+            "Mara Lindqvist\n12 Harbour Road\nPortsmouth PO1 3AX\n+44 23 9200 1234\nhello@tandrelo.example",
+            "prefsLetterbox", "Tandrelo Studio · 12 Harbour Road · Portsmouth PO1 3AX", "prefsCurrency", "$",
+            "tax2Title", "County Tax", "tax3Title", "Levy");
     }
 
     void use(const Design& design)
@@ -97,98 +92,70 @@ public:
 
     ManagedObject* make(const Variant& v)
     {
-        settings.setValue(QStringLiteral("tax1Enabled"), !v.noTaxes);
-        settings.setValue(QStringLiteral("tax2Enabled"), v.allTaxes);
-        settings.setValue(QStringLiteral("tax3Enabled"), v.allTaxes);
-        settings.setValue(QStringLiteral("tempUseSKU"), v.skus);
-        settings.setValue(QStringLiteral("prefsLogo"), v.logo ? logoData() : QByteArray());
+        assign(settings, "tax1Enabled", !v.noTaxes, "tax2Enabled", v.allTaxes, "tax3Enabled", v.allTaxes,
+               "tempUseSKU", v.skus, "prefsLogo", v.logo ? logoData() : QByteArray());
         const QString longText =
-            QStringLiteral("Redesign of the visual identity, including research, three directions, "
-                           "two rounds of revisions and the final artwork in every format");
+            QStringLiteral("Redesign of the visual identity, including research, three "
+                           "directions, two rounds of revisions and the final artwork in "
+                           "every format");
         ManagedObject* d = addDocument(
-            v.kind,
-            {{QStringLiteral("title"), v.kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
-             {QStringLiteral("number"),
-              v.kind ? QStringLiteral("INV-2025-0042") : QStringLiteral("Q-2025-0017")},
-             {QStringLiteral("currency"), QStringLiteral("$")},
-             {QStringLiteral("address"), v.longTexts
-                                             ? QStringLiteral("Department of Visual Communication and "
-                                                              "Brand Strategy\nHolloway, Erin\nQuarry & "
-                                                              "Sons International Ltd.\n7 Quarry Lane, "
-                                                              "Suite 400\nFernwood CA 93024\nUnited States")
-                                             : QStringLiteral("Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry "
-                                                              "Lane\nFernwood CA 93024")},
-             {QStringLiteral("clientNumber"), QStringLiteral("C-1047")},
-             {QStringLiteral("dispatchNumber"), v.shipping ? QStringLiteral("UPS 1Z 999 AA1") : QString()},
-             {QStringLiteral("subject"), v.longTexts ? longText : QStringLiteral("Spring campaign")},
-             {QStringLiteral("conditions"), settings.stringValue(QStringLiteral("tempInvConditions"))},
-             {QStringLiteral("footer"), QStringLiteral("Harbour Bank · IBAN GB00 HARB 1234 5678 9012 34 · "
-                                                       "BIC HARBGB2L\nThank you for your business!")}});
+            v.kind, "title", v.kind ? "Invoice" : "Quote", "number", v.kind ? "INV-2025-0042" : "Q-2025-0017",
+            "currency", "$", "address",
+            v.longTexts
+                ? "Department of Visual Communication and Brand Strategy\nHolloway, Erin\nQuarry & Sons "
+                  "International Ltd.\n7 Quarry Lane, Suite 400\nFernwood CA 93024\nUnited States"
+                : "Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry Lane\nFernwood CA 93024",
+            "clientNumber", "C-1047", "dispatchNumber", v.shipping ? "UPS 1Z 999 AA1" : "", "subject",
+            v.longTexts ? longText : QStringLiteral("Spring campaign"), "conditions",
+            settings.stringValue(QStringLiteral("tempInvConditions")), "footer",
+            "Harbour Bank · IBAN GB00 HARB 1234 5678 9012 34 · BIC HARBGB2L\nThank you for your business!");
         float sub = 0;
         float tax[3] = {0, 0, 0};
+        const float rates[3] = {0.07f, 0.02f, 0.01f};
         for (int i = 1; i <= v.items; ++i) {
             const float count = float(i % 4 + 1);
             const float price = 45.0f + float(i * 7 % 90);
             const float net = count * price;
             sub += net;
-            QVariantMap item{{QStringLiteral("title"),
-                              QStringLiteral("Item-%1 %2")
-                                  .arg(i, 2, 10, QLatin1Char('0'))
-                                  .arg(v.longTexts && i == 2 ? longText : QStringLiteral("Design work"))},
-                             {QStringLiteral("unitCount"), count},
-                             {QStringLiteral("unit"), QStringLiteral("h")},
-                             {QStringLiteral("baseAmount"), price},
-                             {QStringLiteral("subAmount"), net},
-                             {QStringLiteral("sku"), QStringLiteral("DW-%1").arg(100 + i)}};
+            ManagedObject* item =
+                addItem(d, "title",
+                        QStringLiteral("Item-%1 %2")
+                            .arg(i, 2, 10, QLatin1Char('0'))
+                            .arg(v.longTexts && i == 2 ? longText : QStringLiteral("Design work")),
+                        "unitCount", count, "unit", "h", "baseAmount", price, "subAmount", net, "sku",
+                        QStringLiteral("DW-%1").arg(100 + i));
             if (v.subtitles || v.longTexts)
-                item.insert(QStringLiteral("subtitle"),
-                            QStringLiteral("Concepts and layout, %1 pages").arg(i + 2));
+                assign(*item, "subtitle", QStringLiteral("Concepts and layout, %1 pages").arg(i + 2));
             float amount = net;
-            const float rates[3] = {0.07f, 0.02f, 0.01f};
             for (int t = 0; t < 3; ++t) {
                 const bool applied = t == 0 ? !v.noTaxes : v.allTaxes;
                 const QString n = QString::number(t + 1);
-                item.insert(QStringLiteral("isTax%1Applied").arg(n), applied);
-                item.insert(QStringLiteral("tax%1Title").arg(n),
-                            settings.stringValue(QStringLiteral("tax%1Title").arg(n)));
-                item.insert(QStringLiteral("tax%1Percent").arg(n), rates[t]);
+                assign(*item, "isTax" + n + "Applied", applied, "tax" + n + "Title",
+                       settings.stringValue("tax" + n + "Title"), "tax" + n + "Percent", rates[t]);
                 if (applied) {
-                    item.insert(QStringLiteral("tax%1Amount").arg(n), net * rates[t]);
+                    assign(*item, "tax" + n + "Amount", net * rates[t]);
                     tax[t] += net * rates[t];
                     amount += net * rates[t];
                 }
             }
-            item.insert(QStringLiteral("amount"), amount);
-            addItem(d, item);
+            assign(*item, "amount", amount);
         }
         float total = sub + tax[0] + tax[1] + tax[2];
-        QVariantMap values{{QStringLiteral("subAmount"), sub},
-                           {QStringLiteral("tax1Amount"), tax[0]},
-                           {QStringLiteral("tax2Amount"), tax[1]},
-                           {QStringLiteral("tax3Amount"), tax[2]},
-                           {QStringLiteral("tax1Percent"), 0.07f},
-                           {QStringLiteral("tax2Percent"), 0.02f},
-                           {QStringLiteral("tax3Percent"), 0.01f},
-                           {QStringLiteral("isShippingEnabled"), v.shipping},
-                           {QStringLiteral("isDiscountEnabled"), v.discountKind >= 0}};
+        assign(*d, "subAmount", sub, "tax1Amount", tax[0], "tax2Amount", tax[1], "tax3Amount", tax[2],
+               "tax1Percent", 0.07f, "tax2Percent", 0.02f, "tax3Percent", 0.01f, "isShippingEnabled",
+               v.shipping, "isDiscountEnabled", v.discountKind >= 0);
         if (v.shipping) {
-            values.insert(QStringLiteral("shippingTitle"), QStringLiteral("Courier"));
-            values.insert(QStringLiteral("shippingAmount"), 18.5f);
-            values.insert(QStringLiteral("hasShippingSubtitle"), v.subtitles);
-            values.insert(QStringLiteral("shippingSubtitle"), QStringLiteral("Printed proofs, next day"));
+            assign(*d, "shippingTitle", "Courier", "shippingAmount", 18.5f, "hasShippingSubtitle",
+                   v.subtitles, "shippingSubtitle", "Printed proofs, next day");
             total += 18.5f;
         }
         if (v.discountKind >= 0) {
-            values.insert(QStringLiteral("discountKind"), v.discountKind);
-            values.insert(QStringLiteral("discountAmount"), 50.0f);
-            values.insert(QStringLiteral("discountPercent"), 0.1f);
-            values.insert(QStringLiteral("hasDiscountSubtitle"), v.subtitles);
-            values.insert(QStringLiteral("discountTitle"), QStringLiteral("Loyalty discount"));
-            values.insert(QStringLiteral("discountSubtitle"), QStringLiteral("Thank you for five years"));
+            assign(*d, "discountKind", v.discountKind, "discountAmount", 50.0f, "discountPercent", 0.1f,
+                   "hasDiscountSubtitle", v.subtitles, "discountTitle", "Loyalty discount",
+                   "discountSubtitle", "Thank you for five years");
             total = v.discountKind ? total - total * 0.1f : total - 50.0f;
         }
-        values.insert(QStringLiteral("amount"), total);
-        setValues(d, values);
+        assign(*d, "amount", total);
         select(d);
         state.isReminderAction = v.reminder;
         if (v.reminder)

@@ -53,60 +53,57 @@ TEST_P(Golden, HtmlMatchesThePinnedFile)
 
 void items(OutputFixture& f, ManagedObject* d)
 {
-    f.addItem(d, {{QStringLiteral("title"), QStringLiteral("Brand workshop for %LOCINVOICE% and %TOTAL%")},
-                  {QStringLiteral("subtitle"), QStringLiteral("half a day")},
-                  {QStringLiteral("unit"), QStringLiteral("day")},
-                  {QStringLiteral("sku"), QStringLiteral("WS-1")},
-                  {QStringLiteral("unitCount"), 1.0f},
-                  {QStringLiteral("baseAmount"), 1200.0f},
-                  {QStringLiteral("subAmount"), 1200.0f},
-                  {QStringLiteral("amount"), 1284.0f},
-                  {QStringLiteral("isTax1Applied"), true},
-                  {QStringLiteral("tax1Title"), QStringLiteral("VAT")},
-                  {QStringLiteral("tax1Percent"), 0.07f},
-                  {QStringLiteral("tax1Amount"), 84.0f}});
-    f.addItem(d, {{QStringLiteral("title"), QStringLiteral("Printing <b>bold</b>")},
-                  {QStringLiteral("unit"), QStringLiteral("pc")},
-                  {QStringLiteral("sku"), QStringLiteral("PR-500")},
-                  {QStringLiteral("unitCount"), 2.5f},
-                  {QStringLiteral("baseAmount"), 0.125f},
-                  {QStringLiteral("subAmount"), 0.3125f},
-                  {QStringLiteral("amount"), 0.35f},
-                  {QStringLiteral("isTax1Applied"), true},
-                  {QStringLiteral("tax1Title"), QStringLiteral("VAT")},
-                  {QStringLiteral("tax1Percent"), 7.1f},
-                  {QStringLiteral("tax1Amount"), 0.0221875f},
-                  {QStringLiteral("isTax2Applied"), false},
-                  {QStringLiteral("tax2Title"), QStringLiteral("City Tax")},
-                  {QStringLiteral("tax2Percent"), 0.05f},
-                  {QStringLiteral("isTax3Applied"), true},
-                  {QStringLiteral("tax3Title"), QStringLiteral("Levy")},
-                  {QStringLiteral("tax3Percent"), 0.01f},
-                  {QStringLiteral("tax3Amount"), 0.003125f}});
-    f.addItem(d, {{QStringLiteral("title"), QStringLiteral("Licence")},
-                  {QStringLiteral("unitCount"), 1234.0f},
-                  {QStringLiteral("baseAmount"), 1.5f},
-                  {QStringLiteral("subAmount"), 1851.0f},
-                  {QStringLiteral("amount"), 1851.0f}});
+    f.addItem(d, values({"title",         "Brand workshop for %LOCINVOICE% and %TOTAL%",
+                         "subtitle",      "half a day",
+                         "unit",          "day",
+                         "sku",           "WS-1",
+                         "unitCount",     1.0f,
+                         "baseAmount",    1200.0f,
+                         "subAmount",     1200.0f,
+                         "amount",        1284.0f,
+                         "isTax1Applied", true,
+                         "tax1Title",     "VAT",
+                         "tax1Percent",   0.07f,
+                         "tax1Amount",    84.0f}));
+    f.addItem(d, values({"title",         "Printing <b>bold</b>",
+                         "unit",          "pc",
+                         "sku",           "PR-500",
+                         "unitCount",     2.5f,
+                         "baseAmount",    0.125f,
+                         "subAmount",     0.3125f,
+                         "amount",        0.35f,
+                         "isTax1Applied", true,
+                         "tax1Title",     "VAT",
+                         "tax1Percent",   7.1f,
+                         "tax1Amount",    0.0221875f,
+                         "isTax2Applied", false,
+                         "tax2Title",     "City Tax",
+                         "tax2Percent",   0.05f,
+                         "isTax3Applied", true,
+                         "tax3Title",     "Levy",
+                         "tax3Percent",   0.01f,
+                         "tax3Amount",    0.003125f}));
+    f.addItem(d, values({"title", "Licence", "unitCount", 1234.0f, "baseAmount", 1.5f, "subAmount", 1851.0f,
+                         "amount", 1851.0f}));
 }
 
 ManagedObject* invoice(OutputFixture& f, int kind)
 {
-    ManagedObject* d = f.addDocument(
-        kind, {{QStringLiteral("address"), QStringLiteral("Erin Holloway\nQuarry & Sons\n7 Quarry Lane")},
-               {QStringLiteral("clientNumber"), QStringLiteral("C-42")},
-               {QStringLiteral("dispatchNumber"), QStringLiteral("DHL 123")},
-               {QStringLiteral("subject"), QStringLiteral("Re: %TOTAL% for %COMPANY%, %LOCDUE%")},
-               {QStringLiteral("conditions"), QStringLiteral("Within 14 days.\nLate: %LOCOVERDUE%")},
-               {QStringLiteral("footer"), QStringLiteral("Bank: Harbour Bank\nIBAN: XX00 1234")},
-               {QStringLiteral("subAmount"), 3051.3125f},
-               {QStringLiteral("amount"), 3349.75f},
-               {QStringLiteral("tax1Amount"), 84.02219f},
-               {QStringLiteral("tax1Percent"), 0.07f},
-               {QStringLiteral("tax2Amount"), 0.0f},
-               {QStringLiteral("tax2Percent"), 0.05f},
-               {QStringLiteral("tax3Amount"), 0.003125f},
-               {QStringLiteral("tax3Percent"), 0.01f}});
+    ManagedObject* d =
+        f.addDocument(kind, values({"address",        "Erin Holloway\nQuarry & Sons\n7 Quarry Lane",
+                                    "clientNumber",   "C-42",
+                                    "dispatchNumber", "DHL 123",
+                                    "subject",        "Re: %TOTAL% for %COMPANY%, %LOCDUE%",
+                                    "conditions",     "Within 14 days.\nLate: %LOCOVERDUE%",
+                                    "footer",         "Bank: Harbour Bank\nIBAN: XX00 1234",
+                                    "subAmount",      3051.3125f,
+                                    "amount",         3349.75f,
+                                    "tax1Amount",     84.02219f,
+                                    "tax1Percent",    0.07f,
+                                    "tax2Amount",     0.0f,
+                                    "tax2Percent",    0.05f,
+                                    "tax3Amount",     0.003125f,
+                                    "tax3Percent",    0.01f}));
     items(f, d);
     f.select(d);
     return d;
@@ -116,34 +113,19 @@ const GoldenCase cases[] = {
     {"invoice.html",
      [](OutputFixture& f) {
          f.settings.setValue(QStringLiteral("prefsLogo"), OutputFixture::pngData());
-         ManagedObject* d = invoice(f, 1);
-         f.setValues(d, {{QStringLiteral("isDiscountEnabled"), true},
-                         {QStringLiteral("discountKind"), 1},
-                         {QStringLiteral("discountPercent"), 0.1f},
-                         {QStringLiteral("hasDiscountSubtitle"), true},
-                         {QStringLiteral("discountTitle"), QStringLiteral("Loyalty")},
-                         {QStringLiteral("discountSubtitle"), QStringLiteral("ten years")},
-                         {QStringLiteral("isShippingEnabled"), true},
-                         {QStringLiteral("shippingTitle"), QStringLiteral("Courier")},
-                         {QStringLiteral("hasShippingSubtitle"), true},
-                         {QStringLiteral("shippingSubtitle"), QStringLiteral("overnight")},
-                         {QStringLiteral("shippingAmount"), 6.99f}});
+         assign(*invoice(f, 1), "isDiscountEnabled", true, "discountKind", 1, "discountPercent", 0.1f,
+                "hasDiscountSubtitle", true, "discountTitle", "Loyalty", "discountSubtitle", "ten years",
+                "isShippingEnabled", true, "shippingTitle", "Courier", "hasShippingSubtitle", true,
+                "shippingSubtitle", "overnight", "shippingAmount", 6.99f);
          return f.preview.invoiceHTMLString();
      }},
     {"quote.html",
      [](OutputFixture& f) {
-         f.settings.setValue(QStringLiteral("tempUseSKU"), false);
-         f.settings.setValue(QStringLiteral("showItemSubAmount"), false);
-         f.settings.setValue(QStringLiteral("tax2Enabled"), false);
-         f.settings.setValue(QStringLiteral("tax3Enabled"), true);
-         ManagedObject* d = invoice(f, 0);
-         f.setValues(d, {{QStringLiteral("title"), QStringLiteral("Quote")},
-                         {QStringLiteral("isDiscountEnabled"), true},
-                         {QStringLiteral("discountKind"), 0},
-                         {QStringLiteral("discountAmount"), 50.0f},
-                         {QStringLiteral("discountTitle"), QStringLiteral("not shown without a subtitle")},
-                         {QStringLiteral("isShippingEnabled"), false},
-                         {QStringLiteral("shippingTitle"), QStringLiteral("Courier")}});
+         assign(f.settings, "tempUseSKU", false, "showItemSubAmount", false, "tax2Enabled", false,
+                "tax3Enabled", true);
+         assign(*invoice(f, 0), "title", "Quote", "isDiscountEnabled", true, "discountKind", 0,
+                "discountAmount", 50.0f, "discountTitle", "not shown without a subtitle", "isShippingEnabled",
+                false, "shippingTitle", "Courier");
          return f.preview.invoiceHTMLString();
      }},
     {"reminder.html",
@@ -157,11 +139,8 @@ const GoldenCase cases[] = {
      }},
     {"design-preview.html",
      [](OutputFixture& f) {
-         f.settings.setValue(QStringLiteral("invPattern"), QStringLiteral("RE-%YEAR%-%MONTH%-%DAY%/%COUNT%"));
-         f.settings.setValue(QStringLiteral("invCount"), 41);
-         f.settings.setValue(QStringLiteral("tax2Title"), QString());
-         f.settings.setValue(QStringLiteral("tempInvConditions"), QStringLiteral("Sample\nconditions"));
-         f.settings.setValue(QStringLiteral("tempInvFooter"), QStringLiteral("Sample footer"));
+         assign(f.settings, "invPattern", "RE-%YEAR%-%MONTH%-%DAY%/%COUNT%", "invCount", 41, "tax2Title",
+                QString(), "tempInvConditions", "Sample\nconditions", "tempInvFooter", "Sample footer");
          DesignPreview preview(f.preview);
          return preview.invoiceHTMLString();
      }},

@@ -5,6 +5,7 @@
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/PropertyList.h"
+#include "tests/output/TestValues.h"
 
 #include <QFile>
 #include <QJsonArray>
@@ -18,6 +19,7 @@
 #include <gtest/gtest.h>
 
 using namespace vorn;
+using namespace vorn::test;
 
 namespace {
 
@@ -34,11 +36,6 @@ QVariantMap classRecord(const QString& name, const QStringList& classes)
     for (const QString& c : classes)
         list.append(c);
     return {{"$classname", name}, {"$classes", list}};
-}
-
-QDateTime utc(int y, int m, int d, int h = 0, int min = 0, int s = 0, int ms = 0)
-{
-    return QDateTime(QDate(y, m, d), QTime(h, min, s, ms), QTimeZone::utc());
 }
 
 } // namespace
@@ -95,30 +92,18 @@ TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriter)
     auto created = Serialization::createManagedObjectFromDictionary(dictionary, context);
     ASSERT_TRUE(created.ok()) << created.error().fullText().toStdString();
     ManagedObject* document = created.value();
-    EXPECT_EQ(document->stringValue("uniqueID"), "DOC-PY-1");
-    EXPECT_EQ(document->stringValue("number"), "RE-2026-042");
-    EXPECT_EQ(document->dateValue("date"), utc(2026, 2, 14, 9, 30));
-    EXPECT_EQ(document->dateValue("due"), utc(2026, 3, 16));
-    EXPECT_EQ(document->intValue("status"), 1);
-    EXPECT_EQ(document->floatValue("amount"), 232.53f);
-    EXPECT_EQ(document->intValue("misc2"), -3);
-    EXPECT_EQ(document->stringValue("notes"), QString::fromUtf8("Grüße 😀"));
+    EXPECT_EQ(fields(*document, {"uniqueID", "number", "date", "due", "status", "amount", "misc2", "notes"}),
+              QString::fromUtf8(
+                  "DOC-PY-1|RE-2026-042|2026-02-14T09:30:00.000Z|2026-03-16T00:00:00.000Z|1|232.53|-3|"
+                  "Grüße 😀"));
     ASSERT_EQ(document->items().size(), 2);
-    const ManagedObject* first = document->items()[0];
-    const ManagedObject* second = document->items()[1];
-    EXPECT_EQ(first->stringValue("title"), "Design work");
-    EXPECT_EQ(first->floatValue("unitCount"), 2.5f);
-    EXPECT_TRUE(first->boolValue("isTax1Applied"));
-    EXPECT_EQ(second->stringValue("title"), "Hosting");
-    EXPECT_EQ(second->floatValue("unitCount"), 12.0f);
-    EXPECT_EQ(second->floatValue("baseAmount"), 4.75f);
-    EXPECT_FALSE(second->boolValue("isTax1Applied"));
+    EXPECT_EQ(fields(*document->items()[0], {"title", "unitCount", "isTax1Applied"}), "Design work|2.5|true");
+    EXPECT_EQ(fields(*document->items()[1], {"title", "unitCount", "baseAmount", "isTax1Applied"}),
+              "Hosting|12|4.75|false");
 
     auto design = InterchangeFile::readDesignFile(dataDir + "/python-design.design");
     ASSERT_TRUE(design.ok());
-    EXPECT_EQ(design.value().value("class").toString(), "Design");
-    EXPECT_EQ(design.value().value("title").toString(), "From Python");
-    EXPECT_EQ(design.value().value("isDefault"), QVariant(true));
+    EXPECT_EQ(fields(design.value(), {"class", "title", "isDefault"}), "Design|From Python|true");
 }
 
 TEST(KeyedArchive, PlainPropertyListsAreReadToo)
@@ -138,15 +123,11 @@ TEST(KeyedArchive, DocumentFileReadsBackWithAnIndependentReader)
     FixedClock clock(utc(2026, 3, 1));
     ObjectContext context(nullptr, clock);
     ManagedObject* document = context.insertNewObject(Entity::Invoice);
-    document->setValue("number", QString::fromUtf8("RE-1 «ü»"));
-    document->setValue("amount", 34.65f);
-    document->setValue("kind", 1);
-    document->setValue("isPaid", true);
-    document->setValue("date", utc(2026, 2, 14, 9, 30, 12, 250));
+    assign(*document, "number", QString::fromUtf8("RE-1 «ü»"), "amount", 34.65f, "kind", 1, "isPaid", true,
+           "date", utc(2026, 2, 14, 9, 30, 12, 250));
     for (const char* title : {"First", "Second"}) {
         ManagedObject* item = context.insertNewObject(Entity::Item);
-        item->setValue("title", title);
-        item->setValue("misc3", 0.1f);
+        assign(*item, "title", title, "misc3", 0.1f);
         document->insertObject("items", item);
     }
     QTemporaryDir dir;

@@ -19,32 +19,20 @@ const char* const labels[] = {
 
 OutputFixture::OutputFixture()
     : locations(FileLocations::fromEnvironment()), settings(locations.settingsFile()),
-      clock(QDateTime(QDate(2025, 3, 5), QTime(9, 30), QTimeZone::utc())), context(nullptr, clock),
-      state(settings, ui, clock, locations), preview(state, renderer)
+      clock(utc(2025, 3, 5, 9, 30)), context(nullptr, clock), state(settings, ui, clock, locations),
+      preview(state, renderer)
 {
     qputenv("LC_ALL", "en_US.UTF-8");
     state.setContext(&context);
     state.pdfPath = locations.scratchPdf();
     for (const char* key : labels)
         settings.setValue(QLatin1String(key), QStringLiteral("{%1}").arg(QLatin1String(key)));
-    settings.setValue(QStringLiteral("locPageOf"), QStringLiteral("Page %ld of %ld"));
-    settings.setValue(QStringLiteral("prefsName"), QStringLiteral("Tandrelo Studio"));
-    settings.setValue(QStringLiteral("prefsSlogan"), QStringLiteral("Type & Layout"));
-    settings.setValue(QStringLiteral("prefsContact"),
-                      QStringLiteral("12 Harbour Road\nPortsmouth\nhello@tandrelo.test"));
-    settings.setValue(QStringLiteral("prefsLetterbox"),
-                      QStringLiteral("Tandrelo Studio · 12 Harbour Road · Portsmouth"));
-    settings.setValue(QStringLiteral("prefsDatePattern"), QStringLiteral("%DAY%.%MONTHSHORT%.%YEARLONG%"));
-    settings.setValue(QStringLiteral("prefsCurrency"), QStringLiteral("EUR"));
-    settings.setValue(QStringLiteral("tax1Title"), QStringLiteral("VAT"));
-    settings.setValue(QStringLiteral("tax2Title"), QStringLiteral("City Tax"));
-    settings.setValue(QStringLiteral("tax3Title"), QStringLiteral("Levy"));
-    settings.setValue(QStringLiteral("tax1Enabled"), true);
-    settings.setValue(QStringLiteral("tax2Enabled"), true);
-    settings.setValue(QStringLiteral("tax3Enabled"), false);
-    settings.setValue(QStringLiteral("tempUseSKU"), true);
-    settings.setValue(QStringLiteral("showItemSubAmount"), true);
-    settings.setValue(QStringLiteral("tempPaperSize"), 2);
+    assign(settings, "locPageOf", "Page %ld of %ld", "prefsName", "Tandrelo Studio", "prefsSlogan",
+           "Type & Layout", "prefsContact", "12 Harbour Road\nPortsmouth\nhello@tandrelo.test",
+           "prefsLetterbox", "Tandrelo Studio · 12 Harbour Road · Portsmouth", "prefsDatePattern",
+           "%DAY%.%MONTHSHORT%.%YEARLONG%", "prefsCurrency", "EUR", "tax1Title", "VAT", "tax2Title",
+           "City Tax", "tax3Title", "Levy", "tax1Enabled", true, "tax2Enabled", true, "tax3Enabled", false,
+           "tempUseSKU", true, "showItemSubAmount", true, "tempPaperSize", 2);
 }
 
 OutputFixture::~OutputFixture()
@@ -62,25 +50,15 @@ ManagedObject* OutputFixture::addDesign(const QString& page, const QString& item
                                         bool isDefault)
 {
     ManagedObject* design = context.insertNewObject(Entity::Design);
-    setValues(design, {{QStringLiteral("title"), QStringLiteral("Test")},
-                       {QStringLiteral("invoice"), page},
-                       {QStringLiteral("item"), item},
-                       {QStringLiteral("css"), css},
-                       {QStringLiteral("isDefault"), isDefault}});
+    assign(*design, "title", "Test", "invoice", page, "item", item, "css", css, "isDefault", isDefault);
     return design;
 }
 
 ManagedObject* OutputFixture::addDocument(int kind, const QVariantMap& values)
 {
     ManagedObject* document = context.insertNewObject(Entity::Invoice);
-    setValues(document,
-              {{QStringLiteral("kind"), kind},
-               {QStringLiteral("status"), 0},
-               {QStringLiteral("title"), kind ? QStringLiteral("Invoice") : QStringLiteral("Quote")},
-               {QStringLiteral("number"), QStringLiteral("INV-2025-17")},
-               {QStringLiteral("currency"), QStringLiteral("EUR")},
-               {QStringLiteral("date"), QDateTime(QDate(2025, 3, 5), QTime(10, 0), QTimeZone::utc())},
-               {QStringLiteral("due"), QDateTime(QDate(2025, 3, 19), QTime(10, 0), QTimeZone::utc())}});
+    assign(*document, "kind", kind, "status", 0, "title", kind ? "Invoice" : "Quote", "number", "INV-2025-17",
+           "currency", "EUR", "date", utc(2025, 3, 5, 10), "due", utc(2025, 3, 19, 10));
     setValues(document, values);
     return document;
 }
@@ -107,10 +85,10 @@ QString OutputFixture::html()
     return text;
 }
 
-QByteArray OutputFixture::pngData(int width, int height)
+QByteArray OutputFixture::pngData(int width, int height, QColor colour)
 {
     QImage image(width, height, QImage::Format_RGB32);
-    image.fill(QColor(200, 40, 40));
+    image.fill(colour);
     QByteArray data;
     QBuffer buffer(&data);
     buffer.open(QIODevice::WriteOnly);

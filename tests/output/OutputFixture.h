@@ -6,20 +6,14 @@
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
+#include "tests/output/TestValues.h"
 #include "tests/support/ScriptedUserInterface.h"
 #include "tests/support/TestEnvironment.h"
 
+#include <QColor>
 #include <QVariantMap>
 
 #include <gtest/gtest.h>
-
-#include <ostream>
-
-// Readable strings in failure messages.
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace vorn::test {
 
@@ -35,12 +29,28 @@ public:
     ManagedObject* addDesign(const QString& page, const QString& item, const QString& css = {},
                              bool isDefault = true);
     ManagedObject* addDocument(int kind, const QVariantMap& values = {});
+    // addDocument(kind, key, value, key, value ...)
+    template <class... Values>
+    ManagedObject* addDocument(int kind, const QString& key, const Values&... values)
+    {
+        ManagedObject* document = addDocument(kind);
+        assign(*document, key, values...);
+        return document;
+    }
     ManagedObject* addItem(ManagedObject* document, const QVariantMap& values);
+    // addItem(document, key, value, key, value ...)
+    template <class... Values>
+    ManagedObject* addItem(ManagedObject* document, const QString& key, const Values&... values)
+    {
+        ManagedObject* item = addItem(document, QVariantMap());
+        assign(*item, key, values...);
+        return item;
+    }
     void select(ManagedObject* document);
     // The current document's HTML with the scratch HOME written as "$HOME".
     QString html();
-    // A small PNG for the logo setting.
-    static QByteArray pngData(int width = 8, int height = 4);
+    // A small PNG of one colour, as for the logo setting.
+    static QByteArray pngData(int width = 8, int height = 4, QColor colour = QColor(200, 40, 40));
     void setValues(ManagedObject* object, const QVariantMap& values);
 
     TestEnvironment environment;

@@ -1,6 +1,6 @@
+#include "output/Template.h"
 #include "output/PdfRenderer.h"
 #include "output/StringFormat.h"
-#include "output/Template.h"
 #include "tests/output/OutputFixture.h"
 
 #include <QFile>
@@ -11,12 +11,14 @@
 namespace vorn::test {
 namespace {
 
-QVariantMap map(std::initializer_list<std::pair<const char*, QVariant>> values)
+// A set-up step that sets values on the document: with(key, value, key, value ...).
+template <class... Values> auto with(const Values&... values)
 {
-    QVariantMap m;
-    for (const auto& [key, value] : values)
-        m.insert(QLatin1String(key), value);
-    return m;
+    const QVariantList list{QVariant(values)...};
+    return [list](OutputFixture&, ManagedObject* d) {
+        for (qsizetype i = 0; i + 1 < list.size(); i += 2)
+            d->setValue(list[i].toString(), list[i + 1]);
+    };
 }
 
 struct PageCase
@@ -43,67 +45,27 @@ TEST_P(PageTemplates, FillTheTokensInTheOrderOfTheLanguage)
     EXPECT_EQ(html(), QString::fromUtf8(c.expected)) << c.name;
 }
 
-auto set(std::initializer_list<std::pair<const char*, QVariant>> values)
-{
-    const QVariantMap m = map(values);
-    return [m](OutputFixture& f, ManagedObject* d) {
-        for (auto it = m.cbegin(); it != m.cend(); ++it)
-            d->setValue(it.key(), it.value());
-        (void)f;
-    };
-}
-
 void threeItems(OutputFixture& f, ManagedObject* d)
 {
     for (const char* title : {"Alpha", "Bravo", "Charlie"})
-        f.addItem(d, map({{"title", QString::fromLatin1(title)}, {"unitCount", 1.0f}, {"amount", 10.0f}}));
+        f.addItem(d, "title", title, "unitCount", 1.0f, "amount", 10.0f);
 }
 
+// What the golden pages pin (every token filled) is not repeated here.
 const PageCase pageCases[] = {
     {"no tokens", "<p>plain 100% text</p>", "", {}, "<p>plain 100% text</p>"},
     {"a token several times", "%NUMBER%/%NUMBER% %NUMBER%", "", {}, "INV-2025-17/INV-2025-17 INV-2025-17"},
     {"tokens are case-sensitive", "%number% %Number%", "", {}, "%number% %Number%"},
     {"css first, so tokens in it are filled", "<style>%CSS%</style>", "", {}, "<style>/* css */</style>"},
-    {"dates in the user's pattern", "%DATE%|%DUEDATE%", "", {}, "05.03.2025|19.03.2025"},
     {"absent texts are empty",
      "[%DISPATCHED%|%CLIENTNUMBER%|%SUBJECT%|%CONDITIONS%|%FOOTER%]",
      "",
      {},
      "[||||]"},
     {"discount off leaves only the template's text", "[%LOCDISCOUNT%|%DISCOUNTKINDCHAR%|%DISCOUNT%]", "",
-     set({{"isDiscountEnabled", false}, {"discountAmount", 5.0f}}), "[||]"},
-    {"fixed discount: minus and two digits", "[%LOCDISCOUNT%|%DISCOUNTKINDCHAR%|%DISCOUNT%]", "",
-     set({{"isDiscountEnabled", true},
-          {"discountKind", 0},
-          {"discountAmount", 5.0f},
-          {"discountTitle", "Own"}}),
-     "[{locDiscount}|-|5.00]"},
-    {"percentage discount: percent sign, plain number", "[%LOCDISCOUNT%|%DISCOUNTKINDCHAR%|%DISCOUNT%]", "",
-     set({{"isDiscountEnabled", true}, {"discountKind", 1}, {"discountPercent", 10.0f}}),
-     "[{locDiscount}|%|10]"},
-    {"discount subtitle labels with the document's texts", "[%LOCDISCOUNT%]", "",
-     set({{"isDiscountEnabled", true},
-          {"hasDiscountSubtitle", true},
-          {"discountTitle", "Loyalty"},
-          {"discountSubtitle", "ten years"}}),
-     "[Loyalty<br /><small>ten years</small>]"},
-    {"shipping labelled by its own title", "[%LOCSHIPPING%|%SHIPPING%]", "",
-     set({{"isShippingEnabled", true}, {"shippingTitle", "Courier"}, {"shippingAmount", 6.99f}}),
-     "[Courier|6.99]"},
-    {"shipping subtitle", "[%LOCSHIPPING%]", "",
-     set({{"isShippingEnabled", true},
-          {"hasShippingSubtitle", true},
-          {"shippingTitle", "Courier"},
-          {"shippingSubtitle", "overnight"}}),
-     "[Courier<br /><small>overnight</small>]"},
-    {"shipping off", "[%LOCSHIPPING%|%SHIPPING%]", "",
-     set({{"isShippingEnabled", false}, {"shippingTitle", "Courier"}, {"shippingAmount", 6.99f}}), "[|]"},
-    {"an invoice is due", "%LOCDUE%", "", {}, "{locDue}"},
-    {"a quote expires", "%LOCDUE%", "", set({{"kind", 0}}), "{locExpiration}"},
+     with("isDiscountEnabled", false, "discountAmount", 5.0f), "[||]"},
     {"the quote label only reaches a due label brought in later", "%LOCDUE% / %SUBJECT%", "",
-     set({{"subject", "see %LOCDUE%"}}), "{locDue} / see {locQuote}"},
-    {"a subject is filled by later steps only", "%SUBJECT%", "",
-     set({{"subject", "%TOTAL% for %COMPANY%"}, {"amount", 1234.5f}}), "1,234.50 for %COMPANY%"},
+     with("subject", "see %LOCDUE%"), "{locDue} / see {locQuote}"},
     {"line breaks in contact and address, not in name and subject",
      "%COMPANYCONTACT%#%CLIENTADDRESS%#%COMPANY%#%SUBJECT%", "",
      [](OutputFixture& f, ManagedObject* d) {
@@ -112,22 +74,9 @@ const PageCase pageCases[] = {
          d->setValue(QStringLiteral("subject"), QStringLiteral("S\nT"));
      },
      "12 Harbour Road<br />Portsmouth<br />hello@tandrelo.test#Erin Holloway\r<br />7 Quarry Lane#A\nB#S\nT"},
-    {"conditions and footer get line breaks", "%CONDITIONS%|%FOOTER%", "",
-     set({{"conditions", "Pay\nsoon"}, {"footer", "Bank\nIBAN"}}), "Pay<br />soon|Bank<br />IBAN"},
-    {"taxes switched by the preferences",
-     "%TAX1TITLE% %TAX1% %TAX1RATE%|%TAX2TITLE% %TAX2%|[%TAX3TITLE%%TAX3%%TAX3RATE%]", "",
-     set({{"tax1Amount", 21.0f}, {"tax1Percent", 0.07f}, {"tax2Amount", 3.0f}, {"tax3Amount", 9.0f}}),
-     "VAT 21.00 0.07|City Tax 3.00|[]"},
     {"a value holding its own token ends", "%SUBJECT%|%CONDITIONS%", "",
-     set({{"subject", "a %SUBJECT% b"}, {"conditions", "%CONDITIONS%%CONDITIONS%"}}),
+     with("subject", "a %SUBJECT% b", "conditions", "%CONDITIONS%%CONDITIONS%"),
      "a %SUBJECT% b|%CONDITIONS%%CONDITIONS%"},
-    {"no logo: the notice",
-     "%LOGO%",
-     "",
-     {},
-     "<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the 'LOGO' substitute "
-     "from the "
-     "design/template.</small></small>"},
     {"a logo that is no image: the notice", "[%LOGO%]", "",
      [](OutputFixture& f, ManagedObject*) {
          f.settings.setValue(QStringLiteral("prefsLogo"), QByteArray("GIF89a-garbage"));
@@ -135,98 +84,38 @@ const PageCase pageCases[] = {
      "[<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the 'LOGO' substitute "
      "from the "
      "design/template.</small></small>]"},
-    {"a logo image", "%LOGO%", "",
-     [](OutputFixture& f, ManagedObject*) {
-         f.settings.setValue(QStringLiteral("prefsLogo"), OutputFixture::pngData());
-     },
-     "<img src=\"file://$HOME/.cache/com.tandrelo.Orvandel/Logo.png\" alt=\"logo\">"},
-    {"the letterbox line", "%WINDOW%", "", {}, "Tandrelo Studio · 12 Harbour Road · Portsmouth"},
     {"no items, no rows", "[%ITEMSLIST%]", "<tr>%ITEMSTITLE%</tr>", {}, "[]"},
-    {"rows numbered in displayed order", "[%ITEMSLIST%]", "%ITEMNUMBER%:%ITEMSTITLE%;", threeItems,
-     "[1:Alpha;2:Bravo;3:Charlie;]"},
     {"rows follow the item list's sort order", "[%ITEMSLIST%]", "%ITEMNUMBER%:%ITEMSTITLE%;",
      [](OutputFixture& f, ManagedObject* d) {
          threeItems(f, d);
          f.state.itemsController().setSortDescriptors({{QStringLiteral("title"), false}});
      },
      "[1:Charlie;2:Bravo;3:Alpha;]"},
-    {"later page tokens are filled in rows, earlier ones stay", "%ITEMSLIST%",
-     "<%LOCINVOICE%|%TOTAL%|%WINDOW%>",
-     [](OutputFixture& f, ManagedObject* d) {
-         f.addItem(d, map({{"title", "x"}}));
-     },
-     "<{locInvoice}|%TOTAL%|Tandrelo Studio · 12 Harbour Road · Portsmouth>"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, PageTemplates, ::testing::ValuesIn(pageCases));
 
-struct RowCase
-{
-    const char* name;
-    QVariantMap item;
-    std::function<void(Settings&)> setup;
-    const char* expected;
-};
-
-class ItemRows : public OutputFixture, public ::testing::WithParamInterface<RowCase>
+class TemplateEdges : public OutputFixture
 {
 };
 
-const char* const rowTemplate =
-    "%ITEMNUMBER%|%ITEMSQUANTITY% %ITEMSUNIT%|%ITEMSBASEAMOUNT%|%ITEMSSKU%|%ITEMSSUBAMOUNT%|%ITEMSTITLE%/"
-    "%ITEMSSUBTITLE%|%ITEMSAMOUNT%|1[%ITEMSTAX1TITLE% %ITEMSTAX1PERCENT% %ITEMSTAX1AMOUNT%]"
-    "2[%ITEMSTAX2TITLE% %ITEMSTAX2PERCENT% %ITEMSTAX2AMOUNT%]3[%ITEMSTAX3TITLE% %ITEMSTAX3PERCENT% "
-    "%ITEMSTAX3AMOUNT%]|%LOCSHORTNUMBER% %LOCUNIT% %LOCUNITPRICE% %LOCNET% %LOCSKUNUMBER% %LOCDESCRIPTION% "
-    "%LOCQUANTITY% %LOCTAXES%|%CURRENCY%";
-
-TEST_P(ItemRows, FillEveryRowToken)
+// Every row token of an item without values (and without the number label):
+// zeros and empty texts. The golden pages pin the rows of full items.
+TEST_F(TemplateEdges, AnEmptyItemFillsEveryRowTokenWithNothing)
 {
-    const RowCase& c = GetParam();
-    addDesign(QStringLiteral("%ITEMSLIST%"), QString::fromLatin1(rowTemplate));
+    addDesign(
+        QStringLiteral("%ITEMSLIST%"),
+        QStringLiteral(
+            "%ITEMNUMBER%|%ITEMSQUANTITY% %ITEMSUNIT%|%ITEMSBASEAMOUNT%|%ITEMSSKU%|%ITEMSSUBAMOUNT%|"
+            "%ITEMSTITLE%/%ITEMSSUBTITLE%|%ITEMSAMOUNT%|1[%ITEMSTAX1TITLE% %ITEMSTAX1PERCENT% "
+            "%ITEMSTAX1AMOUNT%]2[%ITEMSTAX2TITLE% %ITEMSTAX2PERCENT% %ITEMSTAX2AMOUNT%]3[%ITEMSTAX3TITLE% "
+            "%ITEMSTAX3PERCENT% %ITEMSTAX3AMOUNT%]|%LOCSHORTNUMBER% %LOCUNIT%|%CURRENCY%"));
     ManagedObject* document = addDocument(1);
-    addItem(document, c.item);
-    if (c.setup)
-        c.setup(settings);
+    addItem(document, QVariantMap());
+    settings.removeValue(QStringLiteral("locNo"));
     select(document);
-    EXPECT_EQ(html(), QString::fromUtf8(c.expected)) << c.name;
+    EXPECT_EQ(html(), QStringLiteral("1|0 |0.00||0.00|/|0.00|1[  ]2[  ]3[  ]| {locUnit}|EUR"));
 }
-
-const QVariantMap fullItem =
-    map({{"title", "Logo design"}, {"subtitle", "two rounds"}, {"unit", "h"},          {"sku", "LD-1"},
-         {"unitCount", 2.5f},      {"baseAmount", 80.0f},      {"subAmount", 200.0f},  {"amount", 230.0f},
-         {"isTax1Applied", true},  {"tax1Title", "VAT"},       {"tax1Percent", 7.1f},  {"tax1Amount", 14.2f},
-         {"isTax2Applied", false}, {"tax2Title", "City Tax"},  {"tax2Percent", 0.05f}, {"tax2Amount", 10.0f},
-         {"isTax3Applied", true},  {"tax3Title", ""},          {"tax3Percent", 0.01f}, {"tax3Amount", 2.0f}});
-
-const RowCase rowCases[] = {
-    {"every token",
-     fullItem,
-     {},
-     "1|2.5 h|80.00|LD-1|200.00|Logo design/two rounds|230.00|1[VAT 7.1 14.20]2[  ]3[ 0.01 2.00]|{locNo} "
-     "{locUnit} "
-     "{locUnitPrice} {locNet} {locSKUNumber} {locDescription} {locQuantity} {locTaxes}|EUR"},
-    {"article numbers and net amounts switched off", fullItem,
-     [](Settings& s) {
-         s.setValue(QStringLiteral("tempUseSKU"), false);
-         s.setValue(QStringLiteral("showItemSubAmount"), false);
-     },
-     "1|2.5 h|80.00|||Logo design/two rounds|230.00|1[VAT 7.1 14.20]2[  ]3[ 0.01 2.00]|{locNo} {locUnit} "
-     "{locUnitPrice} {locNet} {locSKUNumber} {locDescription} {locQuantity} {locTaxes}|EUR"},
-    {"tax switches of the preferences do not touch rows", fullItem,
-     [](Settings& s) {
-         s.setValue(QStringLiteral("tax1Enabled"), false);
-         s.setValue(QStringLiteral("tax2Enabled"), true);
-     },
-     "1|2.5 h|80.00|LD-1|200.00|Logo design/two rounds|230.00|1[VAT 7.1 14.20]2[  ]3[ 0.01 2.00]|{locNo} "
-     "{locUnit} "
-     "{locUnitPrice} {locNet} {locSKUNumber} {locDescription} {locQuantity} {locTaxes}|EUR"},
-    {"an empty item", QVariantMap(), [](Settings& s) { s.removeValue(QStringLiteral("locNo")); },
-     "1|0 |0.00||0.00|/|0.00|1[  ]2[  ]3[  ]| {locUnit} {locUnitPrice} {locNet} {locSKUNumber} "
-     "{locDescription} "
-     "{locQuantity} {locTaxes}|EUR"},
-};
-
-INSTANTIATE_TEST_SUITE_P(Cases, ItemRows, ::testing::ValuesIn(rowCases));
 
 TEST(TemplateReplace, RepeatsUntilTheTokenIsGoneAndEndsOnSelfReference)
 {
@@ -251,10 +140,6 @@ TEST(TemplateReplace, RepeatsUntilTheTokenIsGoneAndEndsOnSelfReference)
     }
 }
 
-class TemplateEdges : public OutputFixture
-{
-};
-
 TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
 {
     addDesign(QStringLiteral("<p>no logo token</p>"), {});
@@ -271,7 +156,7 @@ TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
 TEST_F(TemplateEdges, ReminderTakesTheSheetsTextsAndTheOverdueLabel)
 {
     addDesign(QStringLiteral("%LETTERTITLE%|%LOCDUE%|%CONDITIONS%|%FOOTER%|%LOCREMINDER%"), {});
-    select(addDocument(0, map({{"conditions", "doc"}, {"footer", "doc"}})));
+    select(addDocument(0, "conditions", "doc", "footer", "doc"));
     preview.setReminderTexts(
         {QStringLiteral("Reminder"), QStringLiteral("Please pay\nnow"), QStringLiteral("Thanks")});
     state.isReminderAction = true;
@@ -295,10 +180,10 @@ TEST_F(TemplateEdges, RowsOfADocumentThatIsNotShownKeepTheirStoredOrder)
 {
     addDesign(QStringLiteral("%ITEMSLIST%"), QStringLiteral("%ITEMNUMBER%%ITEMSTITLE% "));
     ManagedObject* shown = addDocument(1);
-    addItem(shown, map({{"title", "shown"}}));
+    addItem(shown, "title", "shown");
     ManagedObject* other = addDocument(1);
-    addItem(other, map({{"title", "b"}}));
-    addItem(other, map({{"title", "a"}}));
+    addItem(other, "title", "b");
+    addItem(other, "title", "a");
     select(shown);
     EXPECT_EQ(preview.documentHTMLString(*other, preview.displayedItems(*other)), QStringLiteral("1b 2a "));
     EXPECT_EQ(html(), QStringLiteral("1shown "));
