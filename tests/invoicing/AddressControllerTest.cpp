@@ -71,7 +71,7 @@ protected:
     AddressControllerTest()
     {
         assign(settings, key::prefsAddressPattern, "%FIRSTNAME% %LASTNAME%\n%CITY%",
-               key::prefsContactsFolders, env.home() + QStringLiteral("/nowhere"));
+               key::prefsContactsFolders, env.home() + "/nowhere");
         doc = document(1);
         select(doc);
     }

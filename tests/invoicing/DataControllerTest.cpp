@@ -10,13 +10,11 @@ class DataControllerTest : public InvoicingFixture
 protected:
     DataControllerTest()
     {
-        assign(settings, key::invPattern, QStringLiteral("RE-%YEAR%-%COUNT%"), key::invCount, 100,
-               key::quotPattern, QStringLiteral("Q-%COUNT%"), key::quotCount, 10, key::locInvoice,
-               QStringLiteral("Invoice"), key::locQuote, QStringLiteral("Quote"), key::tempInvConditions,
-               QStringLiteral("Pay soon"), key::tempInvFooter, QStringLiteral("Thanks"),
-               key::tempQuotConditions, QStringLiteral("Valid a while"), key::tempQuotFooter,
-               QStringLiteral("Hope to hear"), key::prefsCurrency, QStringLiteral("€"), key::tax1Rate, 0.19,
-               key::tax2Rate, 0.07, key::tax3Rate, 0.0);
+        assign(settings, key::invPattern, "RE-%YEAR%-%COUNT%", key::invCount, 100, key::quotPattern,
+               "Q-%COUNT%", key::quotCount, 10, key::locInvoice, "Invoice", key::locQuote, "Quote",
+               key::tempInvConditions, "Pay soon", key::tempInvFooter, "Thanks", key::tempQuotConditions,
+               "Valid a while", key::tempQuotFooter, "Hope to hear", key::prefsCurrency, "€", key::tax1Rate,
+               0.19, key::tax2Rate, 0.07, key::tax3Rate, 0.0);
     }
     DataController& data() { return controllers->data(); }
 };
@@ -167,8 +165,7 @@ TEST_P(Converting, QuoteBecomesInvoice)
     document(1, 1, 10); // one invoice listed before
     ManagedObject* doc = document(c.kind, 3, 77);
     const QDateTime date = at(2025, 2, 1), due = doc->dateValue(key::due);
-    assign(*doc, key::date, date, key::number, QStringLiteral("Q-5"), key::title, QStringLiteral("Quote"),
-           key::subAmount, 70.0f);
+    assign(*doc, key::date, date, key::number, "Q-5", key::title, "Quote", key::subAmount, 70.0f);
     if (c.kind == 0)
         controllers->filter().selectFilterAction(FilterController::Quotes);
     select(doc);
@@ -279,9 +276,8 @@ TEST_F(DataControllerTest, DeletingUnderAFilterDeletesTheSelectedDocument)
 TEST_F(DataControllerTest, DuplicateOfAPaidInvoiceStartsFresh)
 {
     ManagedObject* doc = document(1, 3, 119);
-    assign(*doc, key::number, QStringLiteral("RE-7"), key::dispatchNumber, QStringLiteral("D-1"),
-           key::address, QStringLiteral("Ada\nStreet 1"), key::isDispatched, true, key::isShippingEnabled,
-           true, key::shippingAmount, 4.5f);
+    assign(*doc, key::number, "RE-7", key::dispatchNumber, "D-1", key::address, "Ada\nStreet 1",
+           key::isDispatched, true, key::isShippingEnabled, true, key::shippingAmount, 4.5f);
     for (int i = 0; i < 3; ++i)
         item(doc, 10.0f * float(i + 1), 1)->setValue(key::title, QStringLiteral("Line %1").arg(i));
     calculator().calculateInvoice(doc);
