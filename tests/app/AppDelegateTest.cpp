@@ -1,227 +1,140 @@
-#include "app/AppDelegate.h"
-#include "store/Clock.h"
-#include "store/Settings.h"
-#include "tests/support/ScriptedUserInterface.h"
-#include "tests/support/TestEnvironment.h"
-
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTimeZone>
-
-#include <gtest/gtest.h>
-
-#include <sqlite3.h>
+#include "tests/app/AppHarness.h"
 
 namespace vorn::test {
 namespace {
 
-QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
-
-void executeOn(const QString& path, const char* sql)
-{
-    sqlite3* db = nullptr;
-    ASSERT_EQ(sqlite3_open_v2(QFile::encodeName(path).constData(), &db, SQLITE_OPEN_READWRITE, nullptr),
-              SQLITE_OK);
-    char* message = nullptr;
-    EXPECT_EQ(sqlite3_exec(db, sql, nullptr, nullptr, &message), SQLITE_OK) << (message ? message : "");
-    sqlite3_free(message);
-    sqlite3_close(db);
-}
-
-// One launch of the application core in a scratch home, as the window
-// system would drive it.
+// One launch after another of the application core in a scratch home, as
+// the window system would drive it, counting the design seeding.
 class AppDelegateTest : public ::testing::Test
 {
 protected:
-    void launch()
+    AppDelegateTest()
     {
-        m_app.reset();
-        m_settings = std::make_unique<Settings>(m_env.locations().settingsFile());
-        m_settingsLoad = m_settings->load();
-        m_app = std::make_unique<AppDelegate>(*m_settings, m_ui, m_clock, m_env.locations());
-        m_app->setTemplateLoader([this] { ++m_templateLoads; });
-        m_app->awakeFromNib();
-        m_app->applicationDidFinishLaunching();
+        h.templateLoader = [this] { ++templateLoads; };
     }
-    // A setting as it is on disk.
-    QVariant storedSetting(const QString& key) const
-    {
-        Settings s(m_env.locations().settingsFile());
-        if (!s.load())
-            return {};
-        return s.dictionaryRepresentation().value(key);
-    }
+    AppDelegate& app() { return *h.app; }
     ManagedObject* addDocument(int kind, int status = 0)
     {
-        ManagedObject* doc = m_app->managedObjectContext()->insertNewObject(Entity::Invoice);
-        doc->setValue(QStringLiteral("kind"), kind);
-        doc->setValue(QStringLiteral("status"), status);
-        doc->setValue(QStringLiteral("date"), m_clock.now());
-        m_app->state().invoicesController().addObject(doc);
+        ManagedObject* doc = h.context()->insertNewObject(Entity::Invoice);
+        doc->setValue("kind", kind);
+        doc->setValue("status", status);
+        doc->setValue("date", h.clock.now());
+        app().state().invoicesController().addObject(doc);
         return doc;
     }
 
-    TestEnvironment m_env;
-    FixedClock m_clock{QDateTime(QDate(2026, 11, 21), QTime(9, 52), QTimeZone::utc())};
-    ScriptedUserInterface m_ui;
-    std::unique_ptr<Settings> m_settings;
-    Status m_settingsLoad;
-    std::unique_ptr<AppDelegate> m_app;
-    int m_templateLoads = 0;
+    AppHarness h;
+    int templateLoads = 0;
 };
+
+const char* const refuseInserts =
+    "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk says no'); END";
 
 TEST_F(AppDelegateTest, FirstLaunchCreatesTheStoreAndSeedsOnce)
 {
-    const FileLocations l = m_env.locations();
+    const FileLocations l = h.env.locations();
     ASSERT_FALSE(QFileInfo::exists(l.filesDirectory));
-    launch();
-    EXPECT_TRUE(m_ui.errors().isEmpty()) << qPrintable(m_ui.errors().value(0).fullText());
-    EXPECT_TRUE(QFileInfo(l.filesDirectory).isDir());
+    h.launch();
+    EXPECT_TRUE(h.ui.errors().isEmpty()) << qPrintable(h.ui.errors().value(0).fullText());
     EXPECT_TRUE(QFileInfo(l.storeFile()).isFile());
-    EXPECT_EQ(m_app->state().storeURL, l.storeFile());
-    EXPECT_EQ(QFileInfo(l.filesDirectory).fileName(), QStringLiteral("com.tandrelo.Orvandel"));
-    ASSERT_NE(m_app->managedObjectContext(), nullptr);
-    EXPECT_EQ(m_templateLoads, 1);
-    EXPECT_EQ(m_ui.calls(QStringLiteral("center")).size(), 1);
-    EXPECT_EQ(m_ui.calls(QStringLiteral("preferences")).size(), 1);
-    EXPECT_TRUE(m_app->state().isReminderButtonHidden);
-    EXPECT_EQ(m_app->state().pdfPath, l.cachesDirectory + QStringLiteral("/Invoice.pdf"));
-    EXPECT_TRUE(m_app->state().pdfPath.contains(QLatin1String("/com.tandrelo.Orvandel/")));
-    EXPECT_NE(QFileInfo(m_app->state().pdfPath).absolutePath(), l.filesDirectory);
-    EXPECT_EQ(m_app->state().backupPath, l.documentsDirectory + QStringLiteral("/Vorn_Backup.vndb"));
+    EXPECT_EQ(QFileInfo(l.filesDirectory).fileName(), "com.tandrelo.Orvandel");
+    EXPECT_EQ(app().state().storeURL, l.storeFile());
+    // The store stack is built once and shared.
+    ObjectContext* context = app().managedObjectContext();
+    ASSERT_NE(context, nullptr);
+    EXPECT_EQ(app().managedObjectContext(), context);
+    EXPECT_EQ(app().persistentStoreCoordinator(), context->store());
+    EXPECT_EQ(h.context(), context);
+    EXPECT_EQ(templateLoads, 1);
+    EXPECT_EQ(h.ui.calls("center").size(), 1);
+    EXPECT_EQ(h.ui.calls("preferences").size(), 1);
+    EXPECT_TRUE(app().state().isReminderButtonHidden);
+    // The PDF goes to the caches, not beside the store.
+    EXPECT_EQ(app().state().pdfPath, l.cachesDirectory + "/Invoice.pdf");
+    EXPECT_TRUE(app().state().pdfPath.contains("/com.tandrelo.Orvandel/"));
+    EXPECT_NE(QFileInfo(app().state().pdfPath).absolutePath(), l.filesDirectory);
+    EXPECT_EQ(app().state().backupPath, l.documentsDirectory + "/Vorn_Backup.vndb");
 
     // The English list is written as real settings, on disk.
-    EXPECT_EQ(storedSetting(QStringLiteral("locInvoice")), QVariant(QStringLiteral("Invoice")));
-    EXPECT_EQ(storedSetting(QStringLiteral("tax1Title")), QVariant(QStringLiteral("Sales Tax")));
-    EXPECT_EQ(storedSetting(QStringLiteral("firstStartEverDone")), QVariant(true));
-    EXPECT_EQ(storedSetting(QStringLiteral("firstCenter")), QVariant(true));
-    const auto english = AppDelegate::defaultList(QStringLiteral("defaultPrefsEnglish"));
+    EXPECT_EQ(h.storedSetting("locInvoice"), "Invoice");
+    EXPECT_EQ(h.storedSetting("tax1Title"), "Sales Tax");
+    EXPECT_EQ(h.storedSetting("firstStartEverDone"), true);
+    EXPECT_EQ(h.storedSetting("firstCenter"), true);
+    const auto english = AppDelegate::defaultList("defaultPrefsEnglish");
     ASSERT_TRUE(english.ok());
     for (auto it = english.value().cbegin(); it != english.value().cend(); ++it)
-        EXPECT_TRUE(m_settings->hasValue(it.key())) << qPrintable(it.key());
+        EXPECT_TRUE(h.settings->hasValue(it.key())) << qPrintable(it.key());
 
     // The second launch seeds nothing and keeps what the user changed.
-    m_settings->setValue(QStringLiteral("locInvoice"), QStringLiteral("Bill"));
-    m_settings->removeValue(QStringLiteral("tax1Title"));
-    ASSERT_TRUE(m_settings->synchronize());
-    m_ui.clear();
-    launch();
-    EXPECT_EQ(m_templateLoads, 1);
-    EXPECT_TRUE(m_ui.calls(QStringLiteral("center")).isEmpty());
-    EXPECT_EQ(m_ui.calls(QStringLiteral("preferences")).size(), 1);
-    EXPECT_EQ(m_settings->stringValue(QStringLiteral("locInvoice")), QStringLiteral("Bill"));
-    EXPECT_FALSE(m_settings->hasValue(QStringLiteral("tax1Title")));
-    EXPECT_TRUE(m_ui.errors().isEmpty());
-}
-
-TEST_F(AppDelegateTest, StoreStackIsBuiltOnce)
-{
-    launch();
-    ObjectContext* context = m_app->managedObjectContext();
-    EXPECT_EQ(m_app->managedObjectContext(), context);
-    EXPECT_EQ(m_app->persistentStoreCoordinator(), context->store());
-    EXPECT_EQ(m_app->managedObjectModel(), &ObjectModel::vorn());
-    EXPECT_EQ(m_app->state().context(), context);
+    h.settings->setValue("locInvoice", "Bill");
+    h.settings->removeValue("tax1Title");
+    ASSERT_TRUE(h.settings->synchronize());
+    h.ui.clear();
+    h.launch();
+    EXPECT_EQ(templateLoads, 1);
+    EXPECT_TRUE(h.ui.calls("center").isEmpty());
+    EXPECT_EQ(h.ui.calls("preferences").size(), 1);
+    EXPECT_EQ(h.settings->stringValue("locInvoice"), "Bill");
+    EXPECT_FALSE(h.settings->hasValue("tax1Title"));
+    EXPECT_TRUE(h.ui.errors().isEmpty());
 }
 
 TEST_F(AppDelegateTest, AFileWhereTheFolderShouldBe)
 {
-    const FileLocations l = m_env.locations();
-    writeFile(l.filesDirectory, "I am a file, not a folder.\n");
-    launch();
-    const QList<Error> errors = m_ui.errors();
+    const QString folder = h.env.locations().filesDirectory;
+    writeFile(folder, "I am a file, not a folder.\n");
+    h.launch();
+    const QList<Error> errors = h.ui.errors();
     ASSERT_GE(errors.size(), 2);
-    EXPECT_EQ(errors[0].domain, QStringLiteral("YOUR_ERROR_DOMAIN"));
+    EXPECT_EQ(errors[0].domain, "YOUR_ERROR_DOMAIN");
     EXPECT_EQ(errors[0].code, 101);
     EXPECT_EQ(errors[0].message,
-              QStringLiteral("Expected a folder to store application data, found a file (%1).")
-                  .arg(l.filesDirectory));
-    EXPECT_EQ(errors[1].domain, QStringLiteral("YOUR_ERROR_DOMAIN"));
+              QString("Expected a folder to store application data, found a file (%1).").arg(folder));
+    EXPECT_EQ(errors[1].domain, "YOUR_ERROR_DOMAIN");
     EXPECT_EQ(errors[1].code, 9999);
-    EXPECT_EQ(errors[1].message, QStringLiteral("Failed to initialize the store"));
-    EXPECT_EQ(errors[1].reason, QStringLiteral("There was an error building up the data file."));
-    EXPECT_EQ(m_app->managedObjectContext(), nullptr);
-    EXPECT_EQ(m_app->state().context(), nullptr);
-    EXPECT_EQ(m_ui.errorCodes().count(9999), 1) << "the stack is not rebuilt on later use";
+    EXPECT_EQ(errors[1].message, "Failed to initialize the store");
+    EXPECT_EQ(errors[1].reason, "There was an error building up the data file.");
+    EXPECT_EQ(app().managedObjectContext(), nullptr);
+    EXPECT_EQ(h.context(), nullptr);
+    EXPECT_EQ(h.ui.errorCodes().count(9999), 1) << "the stack is not rebuilt on later use";
 
     // The application stays up without a store.
-    EXPECT_EQ(m_app->state().currentInvoice(), nullptr);
-    EXPECT_FALSE(m_app->state().isCurrentInvoiceSent());
-    m_app->saveAction();
-    m_app->fadeViewIn();
-    EXPECT_EQ(m_app->applicationShouldTerminate(), AppDelegate::TerminateReply::Now);
-    EXPECT_EQ(storedSetting(QStringLiteral("isTerminatedFine")), QVariant(true));
-    EXPECT_EQ(storedSetting(QStringLiteral("fetchedObjectsCount")), QVariant(qint64(0)));
-    EXPECT_EQ(fileBytes(l.filesDirectory), QByteArray("I am a file, not a folder.\n"));
+    EXPECT_EQ(app().state().currentInvoice(), nullptr);
+    EXPECT_FALSE(app().state().isCurrentInvoiceSent());
+    app().saveAction();
+    app().fadeViewIn();
+    EXPECT_EQ(app().applicationShouldTerminate(), AppDelegate::TerminateReply::Now);
+    EXPECT_EQ(h.storedSetting("isTerminatedFine"), true);
+    EXPECT_EQ(h.storedSetting("fetchedObjectsCount"), qint64(0));
+    EXPECT_EQ(fileBytes(folder), "I am a file, not a folder.\n");
 }
 
-struct BadStoreCase
+// The store file itself is sound enough to open, but damaged: nothing may
+// write to it, not even a log beside it.
+TEST_F(AppDelegateTest, ADamagedStoreIsReportedThenTheStoreFailureAndTheFileIsKept)
 {
-    const char* name;
-    void (*make)(const QString& path);
-    int code;
-};
-
-const BadStoreCase badStoreCases[] = {
-    {"NotSqlite",
-     [](const QString& path) { writeFile(path, QByteArray("%PDF-1.4 not a database\n").repeated(50)); },
-     ErrorCode::StoreNotVorn},
-    {"Truncated",
-     [](const QString& path) {
-         QDir().mkpath(QFileInfo(path).absolutePath());
-         {
-             FixedClock clock(QDateTime::currentDateTimeUtc());
-             auto store = SqliteStore::open(path, ObjectModel::vorn());
-             ASSERT_TRUE(store.ok());
-             ObjectContext ctx(std::move(store.value()), clock);
-             for (int i = 0; i < 300; ++i)
-                 ctx.insertNewObject(Entity::Invoice)
-                     ->setValue(QStringLiteral("notes"), QString(200, QLatin1Char('x')));
-             ASSERT_TRUE(ctx.save());
-         }
-         const QByteArray bytes = fileBytes(path);
-         writeFile(path, bytes.left(bytes.size() / 2));
-     },
-     ErrorCode::StoreDamaged},
-};
-
-class BadStoreLaunchTest : public AppDelegateTest, public ::testing::WithParamInterface<BadStoreCase>
-{
-};
-
-TEST_P(BadStoreLaunchTest, ErrorThenStoreFailureAndTheFileIsKept)
-{
-    const QString path = m_env.locations().storeFile();
-    GetParam().make(path);
-    if (HasFatalFailure())
-        return;
+    const QString path = h.storePath();
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    {
+        auto store = SqliteStore::open(path, ObjectModel::vorn());
+        ASSERT_TRUE(store.ok());
+        ObjectContext ctx(std::move(store.value()), h.clock);
+        for (int i = 0; i < 300; ++i)
+            ctx.insertNewObject(Entity::Invoice)->setValue("notes", QString(200, 'x'));
+        ASSERT_TRUE(ctx.save());
+    }
+    writeFile(path, fileBytes(path).left(QFileInfo(path).size() / 2));
     const QByteArray before = fileBytes(path);
-    launch();
-    ASSERT_EQ(m_ui.errorCodes().mid(0, 2), (QList<int>{GetParam().code, 9999}));
-    EXPECT_TRUE(m_ui.errors()[0].message.contains(path)) << qPrintable(m_ui.errors()[0].message);
-    EXPECT_EQ(m_app->managedObjectContext(), nullptr);
-    m_app->saveAction();
-    EXPECT_EQ(m_app->applicationShouldTerminate(), AppDelegate::TerminateReply::Now);
-    m_app.reset();
+    h.launch();
+    ASSERT_EQ(h.ui.errorCodes().mid(0, 2), (QList<int>{ErrorCode::StoreDamaged, 9999}));
+    EXPECT_TRUE(h.ui.errors()[0].message.contains(path)) << qPrintable(h.ui.errors()[0].message);
+    EXPECT_EQ(app().managedObjectContext(), nullptr);
+    app().saveAction();
+    EXPECT_EQ(app().applicationShouldTerminate(), AppDelegate::TerminateReply::Now);
+    h.crash();
     EXPECT_EQ(fileBytes(path), before);
-    EXPECT_FALSE(QFileInfo::exists(path + QStringLiteral("-wal")));
+    EXPECT_FALSE(QFileInfo::exists(path + "-wal"));
 }
-
-INSTANTIATE_TEST_SUITE_P(Files, BadStoreLaunchTest, ::testing::ValuesIn(badStoreCases),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 // ---------------------------------------------------------------- quit
 
@@ -246,14 +159,17 @@ struct QuitCase
     qint64 count;
 };
 
+const auto Now = AppDelegate::TerminateReply::Now;
+const auto Cancel = AppDelegate::TerminateReply::Cancel;
+
 const QuitCase quitCases[] = {
-    {"NoContext", Setup::NoStore, -1, -1, AppDelegate::TerminateReply::Now, true, false, 0},
-    {"CommitFails", Setup::CommitFails, -1, -1, AppDelegate::TerminateReply::Cancel, false, false, 4},
-    {"NoChanges", Setup::NoChanges, -1, -1, AppDelegate::TerminateReply::Now, true, false, 3},
-    {"SaveSucceeds", Setup::Changes, -1, -1, AppDelegate::TerminateReply::Now, true, false, 4},
-    {"SaveFailsRecovered", Setup::SaveFails, 1, -1, AppDelegate::TerminateReply::Cancel, false, false, 4},
-    {"SaveFailsQuitAnyway", Setup::SaveFails, 0, 0, AppDelegate::TerminateReply::Now, true, true, 4},
-    {"SaveFailsCancel", Setup::SaveFails, 0, 1, AppDelegate::TerminateReply::Now, true, true, 4},
+    {"NoContext", Setup::NoStore, -1, -1, Now, true, false, 0},
+    {"CommitFails", Setup::CommitFails, -1, -1, Cancel, false, false, 4},
+    {"NoChanges", Setup::NoChanges, -1, -1, Now, true, false, 3},
+    {"SaveSucceeds", Setup::Changes, -1, -1, Now, true, false, 4},
+    {"SaveFailsRecovered", Setup::SaveFails, 1, -1, Cancel, false, false, 4},
+    {"SaveFailsQuitAnyway", Setup::SaveFails, 0, 0, Now, true, true, 4},
+    {"SaveFailsCancel", Setup::SaveFails, 0, 1, Now, true, true, 4},
 };
 
 class QuitTest : public AppDelegateTest, public ::testing::WithParamInterface<QuitCase>
@@ -263,56 +179,51 @@ class QuitTest : public AppDelegateTest, public ::testing::WithParamInterface<Qu
 TEST_P(QuitTest, QuitProtocol)
 {
     const QuitCase& c = GetParam();
-    const QString storeFile = m_env.locations().storeFile();
     if (c.setup == Setup::NoStore)
-        writeFile(m_env.locations().filesDirectory, "file");
-    launch();
+        writeFile(h.env.locations().filesDirectory, "file");
+    h.launch();
     QObject editor;
     if (c.setup != Setup::NoStore) {
-        ASSERT_NE(m_app->managedObjectContext(), nullptr);
+        ASSERT_NE(h.context(), nullptr);
         addDocument(1);
         addDocument(0);
         addDocument(1, 3);
-        m_app->saveAction();
-        ASSERT_FALSE(m_app->managedObjectContext()->hasChanges());
+        app().saveAction();
+        ASSERT_FALSE(h.context()->hasChanges());
         if (c.setup != Setup::NoChanges)
-            addDocument(1)->setValue(QStringLiteral("title"), QStringLiteral("pending"));
+            addDocument(1)->setValue("title", "pending");
         if (c.setup == Setup::CommitFails)
-            m_app->managedObjectContext()->registerEditor(&editor, [] { return false; });
-        if (c.setup == Setup::SaveFails)
-            executeOn(storeFile,
-                      "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk "
-                      "says no'); END");
+            h.context()->registerEditor(&editor, [] { return false; });
+        if (c.setup == Setup::SaveFails) {
+            EXPECT_TRUE(execOn(h.storePath(), refuseInserts));
+        }
     }
     // The opposite of what must be written, so that writing it shows.
-    m_settings->setValue(QStringLiteral("isTerminatedFine"), !c.terminatedFine);
-    m_settings->setValue(QStringLiteral("fetchedObjectsCount"), qint64(-1));
-    ASSERT_TRUE(m_settings->synchronize());
+    h.settings->setValue("isTerminatedFine", !c.terminatedFine);
+    h.settings->setValue("fetchedObjectsCount", qint64(-1));
+    ASSERT_TRUE(h.settings->synchronize());
     if (c.errorAnswer >= 0)
-        m_ui.answerErrorRecovered(c.errorAnswer == 1);
+        h.ui.answerErrorRecovered(c.errorAnswer == 1);
     if (c.alertAnswer >= 0)
-        m_ui.answerAlert(c.alertAnswer);
-    m_ui.clear();
+        h.ui.answerAlert(c.alertAnswer);
+    h.ui.clear();
 
-    EXPECT_EQ(m_app->applicationShouldTerminate(), c.reply);
-    EXPECT_EQ(storedSetting(QStringLiteral("isTerminatedFine")), QVariant(c.terminatedFine));
-    EXPECT_EQ(storedSetting(QStringLiteral("fetchedObjectsCount")), QVariant(c.count));
-    const auto alerts = m_ui.calls(QStringLiteral("alert"));
+    EXPECT_EQ(app().applicationShouldTerminate(), c.reply);
+    EXPECT_EQ(h.storedSetting("isTerminatedFine"), c.terminatedFine);
+    EXPECT_EQ(h.storedSetting("fetchedObjectsCount"), c.count);
+    const QStringList quitAnyway{
+        "Could not save changes while quitting. Quit anyway?",
+        "Quitting now will lose any changes you have made since the last successful save",
+        "Quit anyway|Cancel"};
+    const auto alerts = h.ui.calls("alert");
+    ASSERT_EQ(alerts.size(), c.alertShown ? 1 : 0);
     if (c.alertShown) {
-        ASSERT_EQ(alerts.size(), 1);
-        EXPECT_EQ(alerts[0].title, QStringLiteral("Could not save changes while quitting. Quit anyway?"));
-        EXPECT_EQ(alerts[0].text,
-                  QStringLiteral(
-                      "Quitting now will lose any changes you have made since the last successful save"));
-        EXPECT_EQ(alerts[0].buttons, (QStringList{"Quit anyway", "Cancel"}));
-    } else {
-        EXPECT_TRUE(alerts.isEmpty());
+        EXPECT_EQ(shown(alerts[0]), quitAnyway);
     }
-    EXPECT_EQ(m_ui.errors().size(), c.setup == Setup::SaveFails ? 1 : 0);
+    EXPECT_EQ(h.ui.errors().size(), c.setup == Setup::SaveFails ? 1 : 0);
     if (c.setup == Setup::Changes) {
-        m_app.reset();
-        launch();
-        EXPECT_EQ(m_app->managedObjectContext()->fetch(Entity::Invoice).size(), 4);
+        h.launch();
+        EXPECT_EQ(h.context()->fetch(Entity::Invoice).size(), 4);
     }
 }
 
@@ -321,105 +232,78 @@ INSTANTIATE_TEST_SUITE_P(Cases, QuitTest, ::testing::ValuesIn(quitCases),
 
 TEST_F(AppDelegateTest, SaveActionPresentsAFailure)
 {
-    launch();
+    h.launch();
     addDocument(1);
-    executeOn(
-        m_env.locations().storeFile(),
-        "CREATE TRIGGER refuse BEFORE INSERT ON Invoice BEGIN SELECT RAISE(ABORT, 'disk says no'); END");
+    EXPECT_TRUE(execOn(h.storePath(), refuseInserts));
     QObject editor;
-    m_app->managedObjectContext()->registerEditor(&editor, [] { return false; });
-    m_app->saveAction();
-    ASSERT_EQ(m_ui.errors().size(), 1);
-    EXPECT_TRUE(m_ui.errors()[0].fullText().contains(QLatin1String("disk says no")));
-    EXPECT_TRUE(m_app->managedObjectContext()->hasChanges());
+    h.context()->registerEditor(&editor, [] { return false; });
+    app().saveAction();
+    ASSERT_EQ(h.ui.errors().size(), 1);
+    EXPECT_TRUE(h.ui.errors()[0].fullText().contains("disk says no"));
+    EXPECT_TRUE(h.context()->hasChanges());
 }
 
 // ---------------------------------------------------------------- state
 
 TEST_F(AppDelegateTest, OpeningAFileFromOutsideOnlyExplains)
 {
-    launch();
-    m_ui.clear();
-    EXPECT_TRUE(m_app->applicationOpenFile(m_env.home() + QStringLiteral("/Invoice.vorn")));
-    const auto alerts = m_ui.calls(QStringLiteral("alert"));
-    ASSERT_EQ(alerts.size(), 1);
-    EXPECT_EQ(alerts[0].title, QStringLiteral("Vorn, Vorn Documents, and the Vorn Database"));
-    EXPECT_EQ(alerts[0].text,
-              QStringLiteral(
-                  "In order to avoid duplicate entries, hiccups, and to keep the database intact - please "
-                  "use the 'File Menu' to open documents and to restore the Vorn database."));
-    EXPECT_EQ(alerts[0].buttons, QStringList{"OK"});
-    EXPECT_TRUE(m_app->managedObjectContext()->fetch(Entity::Invoice).isEmpty());
-    EXPECT_TRUE(m_app->applicationShouldHandleReopen());
+    h.launch();
+    h.ui.clear();
+    EXPECT_TRUE(app().applicationOpenFile(h.env.home() + "/Invoice.vorn"));
+    ASSERT_EQ(h.ui.calls("alert").size(), 1);
+    EXPECT_EQ(
+        shown(h.ui.calls("alert")[0]),
+        (QStringList{"Vorn, Vorn Documents, and the Vorn Database",
+                     "In order to avoid duplicate entries, hiccups, and to keep the database intact - please "
+                     "use the 'File Menu' to open documents and to restore the Vorn database.",
+                     "OK"}));
+    EXPECT_TRUE(h.context()->fetch(Entity::Invoice).isEmpty());
+    EXPECT_TRUE(app().applicationShouldHandleReopen());
 }
 
-TEST_F(AppDelegateTest, CurrentInvoiceFollowsTheSelection)
+TEST_F(AppDelegateTest, CurrentInvoiceFollowsTheSelectionAndTheToolbarTheList)
 {
-    launch();
-    AppState& state = m_app->state();
+    h.launch();
+    h.ui.clear();
+    AppState& state = app().state();
     EXPECT_EQ(state.currentInvoice(), nullptr);
     EXPECT_FALSE(state.isCurrentInvoiceSent());
-    struct
-    {
-        int status;
-        bool sent;
-    } const cases[] = {{0, false}, {1, true}, {2, true}, {3, true}, {4, true}};
-    for (const auto& c : cases) {
-        ManagedObject* doc = addDocument(c.status % 2, c.status);
+    app().fadeViewIn();
+    // Every status but the first counts as sent.
+    for (int status = 0; status < 5; ++status) {
+        ManagedObject* doc = addDocument(status % 2, status);
         state.invoicesController().setSelectedObjects({doc});
         EXPECT_EQ(state.currentInvoice(), doc);
-        EXPECT_EQ(state.isCurrentInvoiceSent(), c.sent) << "status " << c.status;
+        EXPECT_EQ(state.isCurrentInvoiceSent(), status > 0) << "status " << status;
     }
+    app().fadeViewIn();
     state.invoicesController().setSelectionIndexes({});
     EXPECT_EQ(state.currentInvoice(), nullptr);
     EXPECT_FALSE(state.isCurrentInvoiceSent());
+    QStringList toolbar;
+    for (const auto& call : h.ui.calls("toolbar"))
+        toolbar << call.title;
+    EXPECT_EQ(toolbar, (QStringList{"addressItem", "infoItem"}))
+        << "for an empty list, then one with documents";
 }
 
-TEST_F(AppDelegateTest, ToolbarItemDependsOnTheList)
+TEST_F(AppDelegateTest, LoadDefaultsSwitchesToTheListOfTheLanguage)
 {
-    launch();
-    m_ui.clear();
-    m_app->fadeViewIn();
-    addDocument(1);
-    m_app->fadeViewIn();
-    const auto calls = m_ui.calls(QStringLiteral("toolbar"));
-    ASSERT_EQ(calls.size(), 2);
-    EXPECT_EQ(calls[0].title, QStringLiteral("addressItem"));
-    EXPECT_EQ(calls[1].title, QStringLiteral("infoItem"));
+    h.launch();
+    const char* const lists[] = {"defaultPrefsEnglish", "defaultPrefsGerman", "defaultPrefsFrench",
+                                 "defaultPrefsSpanish"};
+    const char* const quotes[] = {"Quote", "Angebot", "Devis", "Presupuesto"};
+    for (int language = 0; language < 4; ++language) {
+        SCOPED_TRACE(lists[language]);
+        EXPECT_EQ(AppDelegate::defaultListName(language), lists[language]);
+        ASSERT_TRUE(app().loadDefaults(language));
+        EXPECT_EQ(h.storedSetting("locQuote"), QString::fromUtf8(quotes[language]));
+        const auto list = AppDelegate::defaultList(lists[language]);
+        ASSERT_TRUE(list.ok());
+        for (auto it = list.value().cbegin(); it != list.value().cend(); ++it)
+            EXPECT_EQ(h.settings->value(it.key()), it.value()) << qPrintable(it.key());
+    }
 }
-
-struct LanguageCase
-{
-    int language;
-    const char* listName;
-    const char* locInvoice;
-    const char* locQuote;
-};
-
-class LoadDefaultsTest : public AppDelegateTest, public ::testing::WithParamInterface<LanguageCase>
-{
-};
-
-TEST_P(LoadDefaultsTest, SwitchesTheTexts)
-{
-    launch();
-    const LanguageCase& c = GetParam();
-    EXPECT_EQ(AppDelegate::defaultListName(c.language), QLatin1String(c.listName));
-    ASSERT_TRUE(m_app->loadDefaults(c.language));
-    EXPECT_EQ(m_settings->stringValue(QStringLiteral("locInvoice")), QString::fromUtf8(c.locInvoice));
-    EXPECT_EQ(storedSetting(QStringLiteral("locQuote")), QVariant(QString::fromUtf8(c.locQuote)));
-    const auto list = AppDelegate::defaultList(QLatin1String(c.listName));
-    ASSERT_TRUE(list.ok());
-    for (auto it = list.value().cbegin(); it != list.value().cend(); ++it)
-        EXPECT_EQ(m_settings->value(it.key()), it.value()) << qPrintable(it.key());
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, LoadDefaultsTest,
-                         ::testing::Values(LanguageCase{0, "defaultPrefsEnglish", "Invoice", "Quote"},
-                                           LanguageCase{1, "defaultPrefsGerman", "Rechnung", "Angebot"},
-                                           LanguageCase{2, "defaultPrefsFrench", "Facture", "Devis"},
-                                           LanguageCase{3, "defaultPrefsSpanish", "Factura", "Presupuesto"}),
-                         [](const auto& info) { return std::string(info.param.listName); });
 
 } // namespace
 } // namespace vorn::test

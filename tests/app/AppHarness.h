@@ -9,6 +9,7 @@
 
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QTimeZone>
 #include <QUrl>
 
@@ -18,7 +19,6 @@
 
 #ifdef Q_OS_LINUX
 #include <linux/capability.h>
-#include <sys/stat.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 #endif
@@ -34,6 +34,32 @@ inline void PrintTo(const QString& text, std::ostream* out)
 
 namespace vorn::test {
 
+inline QByteArray fileBytes(const QString& path)
+{
+    QFile f(path);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+inline void writeFile(const QString& path, const QByteArray& bytes)
+{
+    QDir().mkpath(QFileInfo(path).absolutePath());
+    QFile f(path);
+    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(bytes);
+}
+
+// "A1 A2" as the list {"A1", "A2"}.
+inline QStringList words(const char* text)
+{
+    return QString::fromUtf8(text).split(QLatin1Char(' '), Qt::SkipEmptyParts);
+}
+
+// An alert or a panel as the user saw it: title, text and buttons.
+inline QStringList shown(const ScriptedUserInterface::Call& call)
+{
+    return {call.title, call.text, call.buttons.join(QLatin1Char('|'))};
+}
+
 // Runs of the application over one scratch home: launch (as the desktop
 // does), work, and end with a clean quit or a crash (no quit protocol).
 class AppHarness
@@ -43,10 +69,13 @@ public:
 
     AppDelegate& launch(bool launchChecks = true)
     {
+        app.reset();
         settings = std::make_unique<Settings>(env.locations().settingsFile());
         static_cast<void>(settings->load());
         app = std::make_unique<AppDelegate>(*settings, ui, clock, env.locations());
         app->setLaunchChecksEnabled(launchChecks);
+        if (templateLoader)
+            app->setTemplateLoader(templateLoader);
         app->awakeFromNib();
         app->applicationDidFinishLaunching();
         return *app;
@@ -54,8 +83,7 @@ public:
     void quit()
     {
         app->applicationShouldTerminate();
-        app.reset();
-        settings.reset();
+        crash();
     }
     // The process ends without the quit protocol (settings already written stay).
     void crash()
@@ -69,6 +97,12 @@ public:
     QString backupPath() const
     {
         return env.locations().documentsDirectory + QStringLiteral("/Vorn_Backup.vndb");
+    }
+    // A setting as the file holds it.
+    QVariant storedSetting(const QString& key) const
+    {
+        Settings stored(env.locations().settingsFile());
+        return stored.load() ? stored.dictionaryRepresentation().value(key) : QVariant();
     }
 
     // A document with two items, added to the list (not saved).
@@ -93,6 +127,13 @@ public:
             EXPECT_TRUE(context()->save().ok());
         }
     }
+    ManagedObject* documentNumbered(const QString& number) const
+    {
+        for (ManagedObject* doc : app->state().invoicesController().arrangedObjects())
+            if (doc->stringValue(QStringLiteral("number")) == number)
+                return doc;
+        return nullptr;
+    }
 
     // The document numbers the window's list shows, sorted.
     QStringList listedNumbers() const
@@ -109,48 +150,33 @@ public:
     ScriptedUserInterface ui;
     std::unique_ptr<Settings> settings;
     std::unique_ptr<AppDelegate> app;
+    std::function<void()> templateLoader;
 };
 
-// Reads a store file read-only through SQLite, without changing it.
-class StoreProbe
+// The first column a query answers on a store file, read through SQLite
+// without changing it: read-only unless the file has a log to fold in (a
+// read-only reader cannot set up the log's index).
+inline QStringList queryColumn(const QString& path, const char* sql, bool writable = false)
 {
-public:
-    // Read-only unless the file has a log to fold in (a read-only reader
-    // cannot set up the log's index).
-    explicit StoreProbe(const QString& path, bool writable = false)
-    {
-        const QByteArray uri = QByteArrayLiteral("file:") + QUrl::toPercentEncoding(path, "/") +
-                               (writable ? "?mode=rw" : "?mode=ro");
-        const int flags = (writable ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_URI;
-        if (sqlite3_open_v2(uri.constData(), &m_db, flags, nullptr) != SQLITE_OK) {
-            sqlite3_close(m_db);
-            m_db = nullptr;
-        }
-    }
-    ~StoreProbe() { sqlite3_close(m_db); }
-    bool isOpen() const { return m_db; }
+    const QByteArray uri =
+        "file:" + QUrl::toPercentEncoding(path, "/") + (writable ? "?mode=rw" : "?mode=ro");
+    const int flags = (writable ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_URI;
+    sqlite3* db = nullptr;
+    sqlite3_stmt* stmt = nullptr;
+    QStringList values;
+    if (sqlite3_open_v2(uri.constData(), &db, flags, nullptr) != SQLITE_OK ||
+        sqlite3_prepare_v2(db, sql, -1, &stmt, nullptr) != SQLITE_OK)
+        values << QStringLiteral("<unreadable>");
+    while (stmt && sqlite3_step(stmt) == SQLITE_ROW)
+        values << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
+    sqlite3_finalize(stmt);
+    sqlite3_close(db);
+    return values;
+}
 
-    QStringList column(const char* sql) const
-    {
-        QStringList values;
-        sqlite3_stmt* stmt = nullptr;
-        if (!m_db || sqlite3_prepare_v2(m_db, sql, -1, &stmt, nullptr) != SQLITE_OK)
-            return {QStringLiteral("<unreadable>")};
-        while (sqlite3_step(stmt) == SQLITE_ROW)
-            values << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 0)));
-        sqlite3_finalize(stmt);
-        return values;
-    }
-    QStringList numbers() const { return column("SELECT number FROM Invoice ORDER BY number"); }
-    QString journalMode() const { return column("PRAGMA journal_mode").value(0); }
-
-private:
-    sqlite3* m_db = nullptr;
-};
-
-inline QStringList numbersIn(const QString& path)
+inline QStringList numbersIn(const QString& path, bool writable = false)
 {
-    return StoreProbe(path).numbers();
+    return queryColumn(path, "SELECT number FROM Invoice ORDER BY number", writable);
 }
 
 inline QStringList sequence(const QString& prefix, int n)
@@ -187,9 +213,8 @@ class ReadOnlyFolder
 public:
     explicit ReadOnlyFolder(QString path) : m_path(std::move(path))
     {
-        QFile::setPermissions(m_path, QFileDevice::ReadOwner | QFileDevice::ExeOwner |
-                                          QFileDevice::ReadGroup | QFileDevice::ExeGroup |
-                                          QFileDevice::ReadOther | QFileDevice::ExeOther);
+        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
+                                          QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
 #ifdef Q_OS_LINUX
         if (geteuid() == 0)
             m_dropped = setOverride(false);
@@ -201,10 +226,9 @@ public:
         if (m_dropped)
             setOverride(true);
 #endif
-        QFile::setPermissions(m_path, QFileDevice::ReadOwner | QFileDevice::WriteOwner |
-                                          QFileDevice::ExeOwner | QFileDevice::ReadGroup |
-                                          QFileDevice::ExeGroup | QFileDevice::ReadOther |
-                                          QFileDevice::ExeOther);
+        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
+                                          QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
+                                          QFile::ExeOther);
     }
     // Whether writing there really fails (checked by trying).
     bool holds() const

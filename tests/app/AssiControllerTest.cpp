@@ -13,10 +13,10 @@ using namespace vorn::test;
 
 namespace {
 
-const QString alreadySetUp = QStringLiteral("It seems that you've already setup Vorn and have run the setup "
-                                            "assistant at least once before. Doing this again "
-                                            "will delete all your customizations and replace them with the "
-                                            "default values. Do you really want to continue?");
+const QString alreadySetUp = QString("It seems that you've already setup Vorn and have run the setup "
+                                     "assistant at least once before. Doing this again "
+                                     "will delete all your customizations and replace them with the "
+                                     "default values. Do you really want to continue?");
 
 class AssiTest : public ::testing::Test
 {
@@ -29,7 +29,7 @@ protected:
     void launchWith(bool assiDone, bool launchChecks = true)
     {
         h.launch(false);
-        settings().setValue(QStringLiteral("isAssiDone"), assiDone);
+        settings().setValue("isAssiDone", assiDone);
         h.quit();
         h.ui.clear();
         h.launch(launchChecks);
@@ -86,19 +86,17 @@ TEST_P(OpenAssi, RerunsOnlyACompletedAssistantAfterTheWarning)
 {
     const OpenCase& row = GetParam();
     launchWith(row.assiDone, false);
-    settings().setValue(QStringLiteral("assiIndex"), 3);
-    assi().setSubscriptionEmail(QStringLiteral("old@example.org"));
+    settings().setValue("assiIndex", 3);
+    assi().setSubscriptionEmail("old@example.org");
     const QVariantMap before = settings().dictionaryRepresentation();
     h.ui.answerAlert(row.answer);
 
     assi().openAssi();
 
-    const auto alerts = h.ui.calls(QStringLiteral("alert"));
+    const auto alerts = h.ui.calls("alert");
     ASSERT_EQ(alerts.size(), row.warns ? 1 : 0);
     if (row.warns) {
-        EXPECT_EQ(alerts[0].title, QStringLiteral("Warning!"));
-        EXPECT_EQ(alerts[0].text, alreadySetUp);
-        EXPECT_EQ(alerts[0].buttons, (QStringList{QStringLiteral("Continue…"), QStringLiteral("Cancel")}));
+        EXPECT_EQ(shown(alerts[0]), (QStringList{"Warning!", alreadySetUp, "Continue…|Cancel"}));
     }
     EXPECT_EQ(assi().isSheetVisible(), row.opens);
     if (row.opens) {
@@ -106,7 +104,7 @@ TEST_P(OpenAssi, RerunsOnlyACompletedAssistantAfterTheWarning)
         EXPECT_TRUE(assi().subscriptionEmail().isEmpty());
     } else {
         EXPECT_EQ(settings().dictionaryRepresentation(), before);
-        EXPECT_EQ(assi().subscriptionEmail(), QStringLiteral("old@example.org"));
+        EXPECT_EQ(assi().subscriptionEmail(), "old@example.org");
     }
 }
 
@@ -116,46 +114,17 @@ INSTANTIATE_TEST_SUITE_P(Answers, OpenAssi,
                                            OpenCase{"Cancel", true, 1, true, false}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-class LanguagePage : public AssiTest, public ::testing::WithParamInterface<int>
-{
-};
-
-TEST_P(LanguagePage, WritesEveryValueOfTheChosenList)
-{
-    launchWith(true, false);
-    const auto list = AppDelegate::defaultList(AppDelegate::defaultListName(GetParam()));
-    ASSERT_TRUE(list.ok());
-    ASSERT_FALSE(list.value().isEmpty());
-    for (auto it = list.value().cbegin(); it != list.value().cend(); ++it)
-        settings().setValue(it.key(), QStringLiteral("customized"));
-    assi().setLanguage(GetParam());
-
-    EXPECT_TRUE(assi().firstAssiTabAction());
-
-    for (auto it = list.value().cbegin(); it != list.value().cend(); ++it)
-        EXPECT_EQ(settings().value(it.key()), it.value()) << it.key().toStdString();
-    EXPECT_EQ(assi().pageIndex(), int(AssiController::CompanyPage));
-    const auto focus = h.ui.calls(QStringLiteral("focus"));
-    ASSERT_EQ(focus.size(), 1);
-    EXPECT_EQ(focus[0].title, AssiController::firstField(AssiController::CompanyPage));
-    // Written to the file, not only in memory.
-    Settings reread(h.env.locations().settingsFile());
-    ASSERT_TRUE(reread.load().ok());
-    const QString someKey = list.value().firstKey();
-    EXPECT_EQ(reread.value(someKey), list.value().value(someKey));
-}
-
-INSTANTIATE_TEST_SUITE_P(Languages, LanguagePage, ::testing::Values(0, 1, 2, 3), [](const auto& info) {
-    return std::string(AppDelegate::defaultListName(info.param).mid(12).toStdString());
-});
-
-TEST_F(AssiTest, EnglishThenGermanSeedsTheDesignsOnce)
+TEST_F(AssiTest, TheLanguagePageWritesItsListAndSeedsTheDesignsOnce)
 {
     launchWith(false);
     assi().setLanguage(0);
     ASSERT_TRUE(assi().firstAssiTabAction());
     EXPECT_EQ(seeded, 1);
-    EXPECT_TRUE(settings().boolValue(QStringLiteral("isFirstStoreLoadEverDone")));
+    EXPECT_TRUE(settings().boolValue("isFirstStoreLoadEverDone"));
+    EXPECT_EQ(assi().pageIndex(), int(AssiController::CompanyPage));
+    const auto focus = h.ui.calls("focus");
+    ASSERT_EQ(focus.size(), 1);
+    EXPECT_EQ(focus[0].title, AssiController::firstField(AssiController::CompanyPage));
 
     assi().openAssi(); // not completed yet: nothing happens
     assi().closeAssi();
@@ -164,12 +133,15 @@ TEST_F(AssiTest, EnglishThenGermanSeedsTheDesignsOnce)
     assi().setLanguage(1);
     ASSERT_TRUE(assi().firstAssiTabAction());
     EXPECT_EQ(seeded, 1);
-    const auto german = AppDelegate::defaultList(QStringLiteral("defaultPrefsGerman"));
-    const auto english = AppDelegate::defaultList(QStringLiteral("defaultPrefsEnglish"));
+    const auto german = AppDelegate::defaultList("defaultPrefsGerman");
+    const auto english = AppDelegate::defaultList("defaultPrefsEnglish");
     ASSERT_TRUE(german.ok() && english.ok());
+    // Written to the file, not only in memory.
+    Settings stored(h.env.locations().settingsFile());
+    ASSERT_TRUE(stored.load().ok());
     int differing = 0;
     for (auto it = german.value().cbegin(); it != german.value().cend(); ++it) {
-        EXPECT_EQ(settings().value(it.key()), it.value()) << it.key().toStdString();
+        EXPECT_EQ(stored.value(it.key()), it.value()) << it.key().toStdString();
         differing += english.value().value(it.key()) != it.value();
     }
     EXPECT_GT(differing, 10);
@@ -179,10 +151,7 @@ TEST_F(AssiTest, WithoutAStoreTheDefaultsAreWrittenAndSeedingWaits)
 {
     h.launch(false);
     h.quit();
-    QFile garbage(h.storePath());
-    ASSERT_TRUE(garbage.open(QIODevice::WriteOnly));
-    garbage.write(QByteArray(10000, 'g'));
-    garbage.close();
+    writeFile(h.storePath(), QByteArray(10000, 'g'));
     h.launch(false);
     ASSERT_EQ(h.context(), nullptr);
     h.app->setTemplateLoader([this] { ++seeded; });
@@ -190,11 +159,10 @@ TEST_F(AssiTest, WithoutAStoreTheDefaultsAreWrittenAndSeedingWaits)
 
     EXPECT_TRUE(assi().firstAssiTabAction());
     EXPECT_EQ(seeded, 0);
-    EXPECT_FALSE(settings().boolValue(QStringLiteral("isFirstStoreLoadEverDone")));
-    const auto french = AppDelegate::defaultList(QStringLiteral("defaultPrefsFrench"));
+    EXPECT_FALSE(settings().boolValue("isFirstStoreLoadEverDone"));
+    const auto french = AppDelegate::defaultList("defaultPrefsFrench");
     ASSERT_TRUE(french.ok());
-    EXPECT_EQ(settings().value(QStringLiteral("locInvoice")),
-              french.value().value(QStringLiteral("locInvoice")));
+    EXPECT_EQ(settings().value("locInvoice"), french.value().value("locInvoice"));
 }
 
 TEST_F(AssiTest, PagesAdvanceToTheLastAndFocusTheirFirstField)
@@ -207,10 +175,9 @@ TEST_F(AssiTest, PagesAdvanceToTheLastAndFocusTheirFirstField)
     EXPECT_EQ(pages, (QList<int>{1, 2, 3, 3, 3}));
     EXPECT_EQ(assi().pageIndex(), AssiController::pageCount - 1);
     QStringList focused;
-    for (const auto& call : h.ui.calls(QStringLiteral("focus")))
+    for (const auto& call : h.ui.calls("focus"))
         focused << call.title;
-    EXPECT_EQ(focused,
-              (QStringList{QStringLiteral("assiCompanyField"), QStringLiteral("assiSubscriptionField")}));
+    EXPECT_EQ(focused, (QStringList{"assiCompanyField", "assiSubscriptionField"}));
 }
 
 class CloseAssi : public AssiTest, public ::testing::WithParamInterface<int>
@@ -220,8 +187,8 @@ class CloseAssi : public AssiTest, public ::testing::WithParamInterface<int>
 TEST_P(CloseAssi, CompletesTheAssistantAndOffersTheVideo)
 {
     launchWith(false);
-    assi().setCompanyName(QStringLiteral("Kim Design"));
-    assi().setContact(QStringLiteral("Kim Berger\nMain St. 1"));
+    assi().setCompanyName("Kim Design");
+    assi().setContact("Kim Berger\nMain St. 1");
     int videos = 0;
     QObject::connect(&assi(), &AssiController::screenCastRequested, [&] { ++videos; });
     h.ui.answerAlert(GetParam());
@@ -229,21 +196,18 @@ TEST_P(CloseAssi, CompletesTheAssistantAndOffersTheVideo)
     assi().closeAssi();
 
     EXPECT_FALSE(assi().isSheetVisible());
-    const auto alerts = h.ui.calls(QStringLiteral("alert"));
+    const auto alerts = h.ui.calls("alert");
     ASSERT_EQ(alerts.size(), 1);
-    EXPECT_EQ(alerts[0].title, QStringLiteral("30 Second Introduction"));
-    EXPECT_EQ(alerts[0].text,
-              QStringLiteral("Do you want to see the 30 second introduction video before creating "
-                             "your first invoice?"));
-    EXPECT_EQ(alerts[0].buttons, (QStringList{QStringLiteral("Yes, please!"),
-                                              QStringLiteral("No, I prefer to suffer in silence.")}));
+    EXPECT_EQ(shown(alerts[0]),
+              (QStringList{
+                  "30 Second Introduction",
+                  "Do you want to see the 30 second introduction video before creating your first invoice?",
+                  "Yes, please!|No, I prefer to suffer in silence."}));
     EXPECT_EQ(videos, GetParam() == 0 ? 1 : 0);
 
-    Settings reread(h.env.locations().settingsFile());
-    ASSERT_TRUE(reread.load().ok());
-    EXPECT_TRUE(reread.boolValue(QStringLiteral("isAssiDone")));
-    EXPECT_EQ(reread.stringValue(QStringLiteral("prefsName")), QStringLiteral("Kim Design"));
-    EXPECT_EQ(reread.stringValue(QStringLiteral("prefsContact")), QStringLiteral("Kim Berger\nMain St. 1"));
+    EXPECT_EQ(h.storedSetting("isAssiDone"), true);
+    EXPECT_EQ(h.storedSetting("prefsName"), "Kim Design");
+    EXPECT_EQ(h.storedSetting("prefsContact"), "Kim Berger\nMain St. 1");
 
     // The next launch leaves the assistant closed.
     h.quit();
@@ -258,13 +222,12 @@ TEST_F(AssiTest, QuitEndsTheSheetThenAsksToQuit)
 {
     launchWith(false);
     QStringList events;
-    QObject::connect(&assi(), &AssiController::sheetVisibleChanged, [&](bool visible) {
-        events << (visible ? QStringLiteral("shown") : QStringLiteral("hidden"));
-    });
-    QObject::connect(&assi(), &AssiController::quitRequested, [&] { events << QStringLiteral("quit"); });
+    QObject::connect(&assi(), &AssiController::sheetVisibleChanged,
+                     [&](bool visible) { events << (visible ? "shown" : "hidden"); });
+    QObject::connect(&assi(), &AssiController::quitRequested, [&] { events << "quit"; });
     assi().quitAssi();
-    EXPECT_EQ(events, (QStringList{QStringLiteral("hidden"), QStringLiteral("quit")}));
-    EXPECT_FALSE(settings().boolValue(QStringLiteral("isAssiDone")));
+    EXPECT_EQ(events, (QStringList{"hidden", "quit"}));
+    EXPECT_FALSE(settings().boolValue("isAssiDone"));
 }
 
 TEST_F(AssiTest, SubscriptionSendsTheContactAndTheAddress)
@@ -273,14 +236,14 @@ TEST_F(AssiTest, SubscriptionSendsTheContactAndTheAddress)
     HttpStub stub;
     stub.route("/news", {200, "ok"});
     launchWith(false);
-    settings().setValue(ServiceUrls::newsletter, stub.url(QStringLiteral("/news")).toString());
-    assi().setContact(QStringLiteral("Kim"));
-    assi().setSubscriptionEmail(QStringLiteral("kim@example.org"));
+    settings().setValue(ServiceUrls::newsletter, stub.url("/news").toString());
+    assi().setContact("Kim");
+    assi().setSubscriptionEmail("kim@example.org");
     ASSERT_TRUE(assi().subscribeAction());
     ASSERT_TRUE(waitUntil([&] { return !assi().newsletter().isBusy(); }));
     ASSERT_EQ(stub.requests().size(), 1);
     EXPECT_TRUE(stub.requests()[0].body.contains("&name=Kim&email=kim@example.org&"));
-    EXPECT_EQ(h.ui.alertTitles(), QStringList{QStringLiteral("Success!")});
+    EXPECT_EQ(h.ui.alertTitles(), QStringList{"Success!"});
 }
 
 } // namespace
