@@ -289,6 +289,7 @@ const ChangeCase changes[] = {
     {"DeleteLastItem", 1, [](auto& x) { x.ctx()->deleteObject(x.item("E")); }},
     {"DeleteFirstItem", 5, [](auto& x) { x.ctx()->deleteObject(x.item("A")); }},
     {"InsertDocument", 1, [](auto& x) { x.ctx()->insertNewObject(Entity::Invoice); }},
+    // The items were never read: the delete loads them to take them along.
     {"DeleteDocumentWithItems", 3, [](auto& x) { x.ctx()->deleteObject(x.o); }},
 };
 
@@ -369,19 +370,6 @@ TEST_F(StoreFixture, SaveDoesNotOverwriteRowsOrColumnsItDidNotChange)
     document("D")->setValue(kTitle, "edited");
     ASSERT_TRUE(context()->save());
     EXPECT_EQ(sql("SELECT title, subject, notes FROM Invoice ORDER BY _id"), "edited||also behind,O|behind|");
-}
-
-TEST_F(StoreFixture, DeletingADocumentWithUnreadItemsDeletesTheItemsInTheStore)
-{
-    newDocument("D", "ABC");
-    newDocument("O", "X");
-    ASSERT_TRUE(context()->save());
-    reopen();
-    context()->deleteObject(document("D"));
-    EXPECT_TRUE(context()->hasChanges());
-    ASSERT_TRUE(context()->save());
-    EXPECT_EQ(sql("SELECT count(*) FROM Invoice"), "1");
-    EXPECT_EQ(sql("SELECT title FROM Item"), "X");
 }
 
 // ---------------------------------------------------------------- rollback
