@@ -216,6 +216,9 @@ void MainWindow::createDocumentActions()
 
 void MainWindow::createOutputWindows()
 {
+    // Saving, quitting and the preview command work from the preview window too.
+    for (QAction* action : {m_saveAction, m_quitAction, command(QStringLiteral("showPreview"))})
+        action->setShortcutContext(Qt::ApplicationShortcut);
     m_previewWindow = new PreviewWindow(m_app, this);
     m_exportSheet = new ExportSheet(m_app, this);
     m_reminderSheet = new ReminderSheet(m_app, this);

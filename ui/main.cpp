@@ -74,6 +74,18 @@ int main(int argc, char** argv)
 
     // The update check belongs to the window's start, once it is on screen;
     // its question and results come through the same dialogs as the rest.
+    // The web engine takes a second or two to start; it starts while the
+    // user looks at the list, so the first preview or export is as quick as
+    // every later one.
+    QTimer::singleShot(1500, &app, [&app] {
+        if (app.state().context())
+            app.renderer().render(
+                {QStringLiteral("<html></html>"),
+                 PdfRenderer::pageLayout(app.settings().intValue(QStringLiteral("tempPaperSize"))),
+                 {}},
+                [](Result<QByteArray>) {});
+    });
+
     ZRUpdateChecker updateChecker(settings, ui, Clock::system());
     QTimer::singleShot(0, &updateChecker, [&updateChecker] { updateChecker.awakeFromNib(); });
 
