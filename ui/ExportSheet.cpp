@@ -81,6 +81,13 @@ ExportSheet::~ExportSheet() = default;
 
 void ExportSheet::present(QWidget* window)
 {
+    // A command of the other window while the sheet is open takes it over
+    // where it is.
+    if (isVisible()) {
+        updateTexts();
+        raise();
+        return;
+    }
     if (window && parentWidget() != window) {
         setParent(window, windowFlags());
         setWindowModality(Qt::WindowModal);

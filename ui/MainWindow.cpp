@@ -134,15 +134,21 @@ void MainWindow::createMenus()
     connect(m_documentMenu, &QMenu::aboutToShow, this, &MainWindow::validateCommands);
 }
 
+QToolBar* MainWindow::addFixedToolBar(QMainWindow& window, const QString& title, const QString& name)
+{
+    QToolBar* bar = window.addToolBar(title);
+    bar->setObjectName(name);
+    bar->setMovable(false);
+    bar->setFloatable(false);
+    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
+    bar->setIconSize(QSize(24, 24));
+    bar->toggleViewAction()->setEnabled(false);
+    return bar;
+}
+
 void MainWindow::createToolBar()
 {
-    m_toolBar = addToolBar(tr("Toolbar"));
-    m_toolBar->setObjectName(QStringLiteral("mainToolBar"));
-    m_toolBar->setMovable(false);
-    m_toolBar->setFloatable(false);
-    m_toolBar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    m_toolBar->setIconSize(QSize(24, 24));
-    m_toolBar->toggleViewAction()->setEnabled(false);
+    m_toolBar = addFixedToolBar(*this, tr("Toolbar"), QStringLiteral("mainToolBar"));
     m_toolBar->addAction(command(QStringLiteral("addInvoice")));
     m_toolBar->addAction(command(QStringLiteral("addQuote")));
     m_toolBar->addAction(command(QStringLiteral("deleteInvoice")));

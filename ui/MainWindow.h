@@ -47,6 +47,9 @@ public:
     QAction* undoAction() const { return m_undoAction; }
     QAction* redoAction() const { return m_redoAction; }
 
+    // A toolbar that stays where it is, with labels under its icons.
+    static QToolBar* addFixedToolBar(QMainWindow& window, const QString& title, const QString& name);
+
     void centerOnScreen();
     // Toolbar items and focus targets the core can name.
     void registerToolbarItem(const QString& identifier, QAction* action);

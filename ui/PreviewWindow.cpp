@@ -5,6 +5,7 @@
 #include "output/PreviewController.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
+#include "ui/MainWindow.h"
 #include "ui/PdfPages.h"
 #include "ui/UiLog.h"
 
@@ -130,13 +131,7 @@ int PreviewWindow::pageCount() const
 
 void PreviewWindow::createToolBar()
 {
-    QToolBar* bar = addToolBar(tr("Preview"));
-    bar->setObjectName(QStringLiteral("previewToolBar"));
-    bar->setMovable(false);
-    bar->setFloatable(false);
-    bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
-    bar->setIconSize(QSize(24, 24));
-    bar->toggleViewAction()->setEnabled(false);
+    QToolBar* bar = MainWindow::addFixedToolBar(*this, tr("Preview"), QStringLiteral("previewToolBar"));
 
     const auto add = [this, bar](const char* theme, QStyle::StandardPixmap fallback, const QString& text,
                                  void (ExportController::*command)(bool)) {
