@@ -22,6 +22,7 @@
 #include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTimer>
 #include <QToolBar>
 
 namespace vorn {
@@ -215,20 +216,36 @@ void PreviewWindow::showPdf(const QString& path)
 void PreviewWindow::fillThumbnails()
 {
     m_thumbnails->clear();
-    const qreal ratio = devicePixelRatioF();
+    ++m_thumbnailGeneration;
     for (int page = 0; page < m_pages->pageCount(); ++page) {
-        const QImage image = m_pages->pageImage(page, m_thumbnails->iconSize(), ratio);
-        // The same picture when selected: the selection shows in the page
-        // number, not as a tint over the page.
-        const QPixmap picture = QPixmap::fromImage(image);
-        QIcon icon(picture);
-        icon.addPixmap(picture, QIcon::Selected);
-        auto* item = new QListWidgetItem(icon, QString::number(page + 1));
+        auto* item = new QListWidgetItem(QString::number(page + 1));
         item->setTextAlignment(Qt::AlignHCenter);
+        item->setSizeHint(m_thumbnails->iconSize() + QSize(8, fontMetrics().height() + 8));
         m_thumbnails->addItem(item);
     }
     QSignalBlocker block(m_thumbnails);
     m_thumbnails->setCurrentRow(0);
+    drawThumbnails(m_thumbnailGeneration, 0);
+}
+
+void PreviewWindow::drawThumbnails(quint64 generation, int first)
+{
+    // A long document gets its pictures a few pages at a time, so the window
+    // stays responsive; a newer preview stops the older drawing.
+    if (generation != m_thumbnailGeneration)
+        return;
+    const qreal ratio = devicePixelRatioF();
+    const int last = qMin(first + 6, m_thumbnails->count());
+    for (int page = first; page < last; ++page) {
+        // The same picture when selected: the selection shows in the page
+        // number, not as a tint over the page.
+        const QPixmap picture = QPixmap::fromImage(m_pages->pageImage(page, m_thumbnails->iconSize(), ratio));
+        QIcon icon(picture);
+        icon.addPixmap(picture, QIcon::Selected);
+        m_thumbnails->item(page)->setIcon(icon);
+    }
+    if (last < m_thumbnails->count())
+        QTimer::singleShot(0, this, [this, generation, last] { drawThumbnails(generation, last); });
 }
 
 void PreviewWindow::setGenerating(bool generating)
@@ -244,6 +261,7 @@ void PreviewWindow::setGenerating(bool generating)
 void PreviewWindow::showPlaceholder(const QString& text)
 {
     m_pages->clear();
+    ++m_thumbnailGeneration;
     m_thumbnails->clear();
     m_placeholder->setText(text);
     m_stack->setCurrentIndex(0);

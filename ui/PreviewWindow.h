@@ -38,6 +38,7 @@ private:
     void showPdf(const QString& path);
     void setGenerating(bool generating);
     void fillThumbnails();
+    void drawThumbnails(quint64 generation, int first);
     void showPlaceholder(const QString& text);
     void updateTitle();
 
@@ -50,6 +51,7 @@ private:
     QProgressBar* m_indicator = nullptr;
     QLabel* m_pageLabel = nullptr;
     bool m_closingFromController = false;
+    quint64 m_thumbnailGeneration = 0;
 };
 
 } // namespace vorn
