@@ -56,8 +56,13 @@ PdfRenderer& AppDelegate::renderer()
 
 PreviewController& AppDelegate::preview()
 {
-    if (!m_preview)
+    if (!m_preview) {
         m_preview = std::make_unique<PreviewController>(m_state, renderer());
+        // The preview shows one document; once the list changes it may no
+        // longer be listed, so the window closes.
+        connect(&m_invoicing->data(), &DataController::previewShouldClose, m_preview.get(),
+                &PreviewController::previewWindowClosed);
+    }
     return *m_preview;
 }
 
