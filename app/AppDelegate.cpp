@@ -6,6 +6,7 @@
 #include "designs/DesignController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
+#include "output/InterchangeController.h"
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
 #include "store/Clock.h"
@@ -41,6 +42,7 @@ AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clo
 
 AppDelegate::~AppDelegate()
 {
+    m_interchange.reset();
     m_exporter.reset();
     m_preview.reset();
     m_renderer.reset();
@@ -76,6 +78,13 @@ ExportController& AppDelegate::exporter()
             [this](ManagedObject* document) { m_invoicing->calculator().calculateInvoice(document); });
     }
     return *m_exporter;
+}
+
+InterchangeController& AppDelegate::interchange()
+{
+    if (!m_interchange)
+        m_interchange = std::make_unique<InterchangeController>(m_state);
+    return *m_interchange;
 }
 
 void AppDelegate::generateReminder()

@@ -17,6 +17,7 @@ class AssiController;
 class BackupController;
 class Clock;
 class ExportController;
+class InterchangeController;
 class InvoicingControllers;
 class PdfRenderer;
 class PreviewController;
@@ -57,6 +58,8 @@ public:
     PdfRenderer& renderer();
     PreviewController& preview();
     ExportController& exporter();
+    // Importing a document file; exporting the listed or all documents as XML.
+    InterchangeController& interchange();
     // The reminder sheet's confirming button: the sheet closes and the
     // preview window shows the current invoice as a payment reminder.
     void generateReminder();
@@ -114,6 +117,7 @@ private:
     std::unique_ptr<PdfRenderer> m_renderer;
     std::unique_ptr<PreviewController> m_preview;
     std::unique_ptr<ExportController> m_exporter;
+    std::unique_ptr<InterchangeController> m_interchange;
 };
 
 } // namespace vorn

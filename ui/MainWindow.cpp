@@ -1,11 +1,14 @@
 #include "ui/MainWindow.h"
 
 #include "app/AppDelegate.h"
+#include "app/BackupController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
+#include "output/InterchangeController.h"
 #include "output/PreviewController.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
+#include "store/UserInterface.h"
 #include "ui/DocumentListModel.h"
 #include "ui/DocumentListView.h"
 #include "ui/ExportSheet.h"
@@ -57,7 +60,6 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     connect(&m_app.invoicing().gui(), &GUIController::toolbarChanged, this, &MainWindow::validateCommands);
     createOutputWindows();
     contextChanged();
-    validateCommands();
     restoreFrame();
 }
 
@@ -111,6 +113,13 @@ void MainWindow::createMenus()
     m_fileMenu->addAction(command(QStringLiteral("pdfInvoice")));
     m_fileMenu->addAction(command(QStringLiteral("emailInvoice")));
     m_fileMenu->addAction(command(QStringLiteral("exportInvoice")));
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(command(QStringLiteral("importInvoice")));
+    m_fileMenu->addAction(command(QStringLiteral("exportItems")));
+    m_fileMenu->addAction(command(QStringLiteral("exportVornDataXML")));
+    m_fileMenu->addSeparator();
+    m_fileMenu->addAction(command(QStringLiteral("backupVornData")));
+    m_fileMenu->addAction(command(QStringLiteral("restoreVornData")));
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_quitAction);
 
@@ -178,6 +187,14 @@ QAction* MainWindow::addCommand(const QString& name, const char* theme, int fall
     return action;
 }
 
+void MainWindow::presentFailure(const Status& status)
+{
+    // The exports only answer their failure; a file the user asked for and
+    // did not get (a full disk, a read-only folder) must be told.
+    if (!status)
+        m_app.ui().presentError(status.error());
+}
+
 void MainWindow::createDocumentActions()
 {
     InvoicingControllers& invoicing = m_app.invoicing();
@@ -200,6 +217,20 @@ void MainWindow::createDocumentActions()
     addCommand(QStringLiteral("openReminderSheet"), "appointment-soon", QStyle::SP_MessageBoxWarning,
                tr("Payment &Reminder…"), {}, [&invoicing] { invoicing.gui().openReminderSheet(); })
         ->setIconText(tr("Reminder"));
+
+    // Documents and the database as files.
+    addCommand(QStringLiteral("importInvoice"), "document-import", QStyle::SP_DialogOpenButton,
+               tr("&Import Document…"), QKeySequence::Open, [this] { m_app.interchange().importInvoice(); });
+    addCommand(QStringLiteral("exportItems"), "document-export", QStyle::SP_DialogSaveButton,
+               tr("Export &Listed Documents as XML…"), {},
+               [this] { presentFailure(m_app.interchange().exportItems()); });
+    addCommand(QStringLiteral("exportVornDataXML"), "document-export", QStyle::SP_DialogSaveButton,
+               tr("Export &All Documents as XML…"), {},
+               [this] { presentFailure(m_app.interchange().exportVornDataXML()); });
+    addCommand(QStringLiteral("backupVornData"), "document-save-as", QStyle::SP_DriveHDIcon,
+               tr("&Back Up Database…"), {}, [this] { m_app.backupController().backupVornData(); });
+    addCommand(QStringLiteral("restoreVornData"), "document-revert", QStyle::SP_BrowserReload,
+               tr("&Restore Database…"), {}, [this] { m_app.backupController().restoreVornData(); });
 
     // The output commands of the main window put their sheet on it.
     addCommand(QStringLiteral("showPreview"), "document-print-preview", QStyle::SP_FileDialogContentsView,
@@ -249,8 +280,9 @@ void MainWindow::validateCommands()
             action->setText(*validation.title);
     }
     command(QStringLiteral("deleteInvoice"))->setIconText(command(QStringLiteral("deleteInvoice"))->text());
-    command(QStringLiteral("addInvoice"))->setEnabled(hasStore);
-    command(QStringLiteral("addQuote"))->setEnabled(hasStore);
+    for (const char* name :
+         {"addInvoice", "addQuote", "importInvoice", "exportItems", "exportVornDataXML", "backupVornData"})
+        command(QLatin1String(name))->setEnabled(hasStore);
     command(QStringLiteral("duplicateInvoice"))->setEnabled(document != nullptr);
     command(QStringLiteral("convertQuoteToInvoice"))
         ->setEnabled(document && document->intValue(QStringLiteral("kind")) == 0);
@@ -299,6 +331,7 @@ void MainWindow::contextChanged()
                                    : tr("The Vorn database could not be opened, so there are no documents "
                                         "to show."));
     updateUndoActions();
+    validateCommands();
 }
 
 void MainWindow::updateUndoActions()

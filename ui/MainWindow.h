@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Result.h"
+
 #include <QHash>
 #include <QMainWindow>
 #include <QPointer>
@@ -76,6 +78,7 @@ private:
     void createCentralArea();
     void createDocumentActions();
     void createOutputWindows();
+    void presentFailure(const Status& status);
     QAction* addCommand(const QString& name, const char* theme, int fallback, const QString& text,
                         const QKeySequence& keys, std::function<void()> run);
     void contextChanged();
