@@ -7,7 +7,7 @@
 
 namespace vorn {
 
-PdfPages::PdfPages(QObject* parent) : QObject(parent), m_document(this) {}
+PdfPages::PdfPages(QObject* parent) : QObject(parent) {}
 
 bool PdfPages::load(const QString& path)
 {

@@ -27,8 +27,10 @@ Q_SIGNALS:
     void changed();
 
 private:
-    QPdfDocument m_document;
+    // The document reads its pages from the buffer, also from the view's
+    // rendering thread, so the buffer is made before it and outlives it.
     QBuffer m_buffer;
+    QPdfDocument m_document;
 };
 
 } // namespace vorn

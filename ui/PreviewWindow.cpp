@@ -123,7 +123,13 @@ PreviewWindow::PreviewWindow(AppDelegate& app, QWidget* parent) : QMainWindow(pa
     updateTitle();
 }
 
-PreviewWindow::~PreviewWindow() = default;
+PreviewWindow::~PreviewWindow()
+{
+    // The view renders pages on a thread of its own; it goes (and stops that
+    // thread) before the document it reads from.
+    m_view->setDocument(nullptr);
+    delete m_view;
+}
 
 int PreviewWindow::pageCount() const
 {
