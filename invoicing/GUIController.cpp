@@ -40,6 +40,23 @@ GUIController::Validation GUIController::validateUserInterfaceItem(const QString
     return {true, std::nullopt};
 }
 
+bool GUIController::hasPrerequisites(const QString& action) const
+{
+    static const QStringList needStore{QStringLiteral("addInvoice"),        QStringLiteral("addQuote"),
+                                       QStringLiteral("importInvoice"),     QStringLiteral("exportItems"),
+                                       QStringLiteral("exportVornDataXML"), QStringLiteral("backupVornData")};
+    static const QStringList needDocument{QStringLiteral("duplicateInvoice"),
+                                          QStringLiteral("setDispatched")};
+    const ManagedObject* doc = m_state.currentInvoice();
+    if (needStore.contains(action))
+        return m_state.context() != nullptr;
+    if (needDocument.contains(action))
+        return doc != nullptr;
+    if (action == QLatin1String("convertQuoteToInvoice"))
+        return doc && doc->intValue(key::kind) == 0;
+    return true;
+}
+
 void GUIController::delayedToolbarLabel()
 {
     const ManagedObject* doc = m_state.currentInvoice();

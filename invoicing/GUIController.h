@@ -31,6 +31,10 @@ public:
         std::optional<QString> title; // a new title, or keep the item's own
     };
     Validation validateUserInterfaceItem(const QString& action) const;
+    // Whether a command has what it works on, before the rules above: a
+    // store for those that create documents or write files, a current
+    // document for those that act on it, a quote for converting.
+    bool hasPrerequisites(const QString& action) const;
 
     // Labels the delete toolbar item and shows or hides the reminder button
     // for the current document.

@@ -6,7 +6,6 @@
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
 #include "output/PreviewController.h"
-#include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
 #include "ui/DocumentListModel.h"
@@ -268,25 +267,15 @@ void MainWindow::createOutputWindows()
 
 void MainWindow::validateCommands()
 {
-    const AppState& state = m_app.state();
-    const ManagedObject* document = state.currentInvoice();
     const GUIController& gui = m_app.invoicing().gui();
-    const bool hasStore = state.context() != nullptr;
-    for (const QString& name : {QStringLiteral("deleteInvoice"), QStringLiteral("openReminderSheet")}) {
-        QAction* action = command(name);
-        const GUIController::Validation validation = gui.validateUserInterfaceItem(name);
-        action->setEnabled(validation.enabled);
-        if (validation.title)
-            action->setText(*validation.title);
+    for (auto it = m_commands.cbegin(); it != m_commands.cend(); ++it) {
+        const GUIController::Validation validation = gui.validateUserInterfaceItem(it.key());
+        it.value()->setEnabled(validation.enabled && gui.hasPrerequisites(it.key()));
+        if (validation.title) {
+            it.value()->setText(*validation.title);
+            it.value()->setIconText(*validation.title);
+        }
     }
-    command(QStringLiteral("deleteInvoice"))->setIconText(command(QStringLiteral("deleteInvoice"))->text());
-    for (const char* name :
-         {"addInvoice", "addQuote", "importInvoice", "exportItems", "exportVornDataXML", "backupVornData"})
-        command(QLatin1String(name))->setEnabled(hasStore);
-    command(QStringLiteral("duplicateInvoice"))->setEnabled(document != nullptr);
-    command(QStringLiteral("convertQuoteToInvoice"))
-        ->setEnabled(document && document->intValue(QStringLiteral("kind")) == 0);
-    command(QStringLiteral("setDispatched"))->setEnabled(document != nullptr);
 }
 
 void MainWindow::createCentralArea()

@@ -151,6 +151,10 @@ TEST_P(WindowState, MenusToolbarAndReminder)
     EXPECT_EQ(gui.validateUserInterfaceItem(GUIController::openReminderSheetAction).enabled, c.reminder);
     EXPECT_TRUE(gui.validateUserInterfaceItem(QStringLiteral("addInvoice")).enabled);
     EXPECT_FALSE(gui.validateUserInterfaceItem(QStringLiteral("addInvoice")).title.has_value());
+    EXPECT_TRUE(gui.hasPrerequisites(QStringLiteral("addInvoice")));
+    EXPECT_TRUE(gui.hasPrerequisites(QStringLiteral("printInvoice")));
+    EXPECT_EQ(gui.hasPrerequisites(QStringLiteral("duplicateInvoice")), c.kind >= 0);
+    EXPECT_EQ(gui.hasPrerequisites(QStringLiteral("convertQuoteToInvoice")), c.kind == 0);
 
     gui.delayedToolbarLabel();
     EXPECT_EQ(gui.deleteToolbarLabel(), QString::fromUtf8(c.deleteTitle));
