@@ -1,8 +1,8 @@
 #include "designs/DesignController.h"
 
 #include "designs/DesignsLog.h"
-#include "output/InterchangeFile.h"
-#include "output/Serialization.h"
+#include "documents/InterchangeFile.h"
+#include "documents/Serialization.h"
 #include "store/AtomicFile.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"

@@ -5,9 +5,9 @@
 // Invariant checked beyond "no crash": whatever is accepted and inserted
 // writes back into a document file that reads and inserts again.
 
-#include "output/InterchangeFile.h"
-#include "output/KeyedArchive.h"
-#include "output/Serialization.h"
+#include "documents/InterchangeFile.h"
+#include "documents/KeyedArchive.h"
+#include "documents/Serialization.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/PropertyList.h"

@@ -6,7 +6,7 @@
 #include "invoicing/Keys.h"
 #include "invoicing/NumberingController.h"
 #include "invoicing/SaveLog.h"
-#include "output/Clone.h"
+#include "store/Clone.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
 #include "store/Settings.h"

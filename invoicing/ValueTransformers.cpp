@@ -1,7 +1,7 @@
 #include "invoicing/ValueTransformers.h"
 
 #include "invoicing/Keys.h"
-#include "output/Formatter.h"
+#include "documents/Formatter.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 

@@ -1,6 +1,6 @@
 #include "output/ExportController.h"
 
-#include "output/InterchangeFile.h"
+#include "documents/InterchangeFile.h"
 #include "output/OutputLog.h"
 #include "output/PdfImageView.h"
 #include "output/PdfRenderer.h"

@@ -1,8 +1,8 @@
 #include "output/InterchangeController.h"
 
-#include "output/InterchangeFile.h"
+#include "documents/InterchangeFile.h"
 #include "output/OutputLog.h"
-#include "output/Serialization.h"
+#include "documents/Serialization.h"
 #include "store/ObjectContext.h"
 #include "store/UserInterface.h"
 

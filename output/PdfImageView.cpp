@@ -1,6 +1,6 @@
 #include "output/PdfImageView.h"
 
-#include "output/StringFormat.h"
+#include "documents/StringFormat.h"
 #include "store/Settings.h"
 
 #include <QFontMetricsF>

@@ -1,4 +1,5 @@
 #include "output/PreviewController.h"
+#include "output/Logo.h"
 
 #include "output/OutputLog.h"
 #include "store/AppState.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "output/Formatter.h"
+#include "documents/Formatter.h"
 #include "output/PdfRenderer.h"
-#include "output/TemplateValues.h"
+#include "documents/TemplateValues.h"
 
 #include <QObject>
 

@@ -6,7 +6,7 @@
 // The folder holds invoice.html (the page), item.html (one item row),
 // style.css, title.txt and uniqueID.txt (each a single line).
 
-#include "output/KeyedArchive.h"
+#include "documents/KeyedArchive.h"
 #include "store/AtomicFile.h"
 
 #include <QCoreApplication>

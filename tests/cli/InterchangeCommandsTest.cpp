@@ -1,4 +1,4 @@
-#include "output/KeyedArchive.h"
+#include "documents/KeyedArchive.h"
 #include "store/PropertyList.h"
 #include "tests/cli/CliProcess.h"
 

@@ -1,7 +1,7 @@
 #include "designs/DesignController.h"
 
-#include "output/InterchangeFile.h"
-#include "output/KeyedArchive.h"
+#include "documents/InterchangeFile.h"
+#include "documents/KeyedArchive.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"

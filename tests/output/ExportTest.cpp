@@ -1,5 +1,5 @@
 #include "output/ExportController.h"
-#include "output/InterchangeFile.h"
+#include "documents/InterchangeFile.h"
 #include "output/PdfImageView.h"
 #include "tests/output/OutputFixture.h"
 #include "tests/output/PdfSupport.h"

@@ -1,4 +1,4 @@
-#include "output/Formatter.h"
+#include "documents/Formatter.h"
 #include "store/Settings.h"
 
 #include <QTemporaryDir>

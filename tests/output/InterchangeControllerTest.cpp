@@ -1,6 +1,6 @@
 #include "output/InterchangeController.h"
-#include "output/InterchangeFile.h"
-#include "output/KeyedArchive.h"
+#include "documents/InterchangeFile.h"
+#include "documents/KeyedArchive.h"
 
 #include "store/AppState.h"
 #include "store/Clock.h"

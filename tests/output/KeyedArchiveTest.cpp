@@ -1,6 +1,6 @@
-#include "output/KeyedArchive.h"
-#include "output/InterchangeFile.h"
-#include "output/Serialization.h"
+#include "documents/KeyedArchive.h"
+#include "documents/InterchangeFile.h"
+#include "documents/Serialization.h"
 
 #include "store/Clock.h"
 #include "store/ObjectContext.h"

@@ -1,6 +1,6 @@
-#include "output/Template.h"
+#include "documents/Template.h"
 #include "output/PdfRenderer.h"
-#include "output/StringFormat.h"
+#include "documents/StringFormat.h"
 #include "tests/output/OutputFixture.h"
 
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "output/Template.h"
+#include "documents/Template.h"
 
-#include "output/OutputLog.h"
+#include "documents/DocumentsLog.h"
 
 namespace vorn::Template {
 
@@ -24,7 +24,7 @@ void replace(QString& text, const QString& token, const QString& value)
     int passes = 0;
     while (text.contains(token)) {
         if (++passes > maximumPasses) {
-            qCWarning(lcOutput) << "Gave up replacing" << token << "after" << maximumPasses << "passes";
+            qCWarning(lcDocuments) << "Gave up replacing" << token << "after" << maximumPasses << "passes";
             return;
         }
         text.replace(token, value);

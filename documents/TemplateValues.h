@@ -1,6 +1,6 @@
 #pragma once
 
-#include "output/Template.h"
+#include "documents/Template.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -153,16 +153,5 @@ Template::Steps itemSteps(const ItemValues& item, int row, const ItemRowSettings
 // Every row filled and joined without separator; empty without items.
 QString fillItemsList(const QString& itemTemplate, const QList<ItemValues>& items,
                       const ItemRowSettings& settings, const QString& currency, const Formatter& formatter);
-
-// The company logo for "%LOGO%": with image data in "prefsLogo" the image is
-// written as PNG to logoPath and referenced by its file address; without
-// (or when the data is no image) a notice asks for one.
-class Logo
-{
-    Q_DECLARE_TR_FUNCTIONS(Logo)
-public:
-    static QString element(const Settings& settings, const QString& logoPath);
-    static QString notice();
-};
 
 } // namespace vorn

@@ -1,4 +1,4 @@
-#include "output/Clone.h"
+#include "store/Clone.h"
 
 namespace vorn {
 

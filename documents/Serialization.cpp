@@ -1,6 +1,6 @@
-#include "output/Serialization.h"
+#include "documents/Serialization.h"
 
-#include "output/OutputLog.h"
+#include "documents/DocumentsLog.h"
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -138,7 +138,7 @@ public:
             const int index = entity.attributeIndex(key);
             if (index < 0) {
                 // A newer Vorn may know more keys; what this one does not know is left out.
-                qCDebug(lcOutput) << "skipping unknown key" << key << "of" << entity.name();
+                qCDebug(lcDocuments) << "skipping unknown key" << key << "of" << entity.name();
                 continue;
             }
             const AttributeDescription& attribute = entity.attributes()[size_t(index)];

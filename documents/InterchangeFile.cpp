@@ -1,7 +1,7 @@
-#include "output/InterchangeFile.h"
+#include "documents/InterchangeFile.h"
 
-#include "output/KeyedArchive.h"
-#include "output/Serialization.h"
+#include "documents/KeyedArchive.h"
+#include "documents/Serialization.h"
 #include "store/AtomicFile.h"
 #include "store/PropertyList.h"
 

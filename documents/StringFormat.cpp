@@ -1,4 +1,4 @@
-#include "output/StringFormat.h"
+#include "documents/StringFormat.h"
 
 namespace vorn {
 

@@ -1,0 +1,3 @@
+#include "documents/DocumentsLog.h"
+
+Q_LOGGING_CATEGORY(lcDocuments, "vorn.documents", QtInfoMsg)
