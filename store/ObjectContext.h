@@ -6,6 +6,7 @@
 #include "store/SqliteStore.h"
 #include "store/UndoManager.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
@@ -99,7 +100,10 @@ private:
     void deleteObject(ManagedObject* object, bool fromOwner);
     void undelete(ManagedObject* object);
     void markChanged(ManagedObject* object) { m_changed.insert(object); }
-    qint64 ownerIdOf(const ManagedObject* object, int* position) const;
+    // Positions found are kept in positions, a whole list at a time, so that
+    // asking for every member of a long list stays linear.
+    using PositionCache = QHash<const ManagedObject*, int>;
+    qint64 ownerIdOf(const ManagedObject* object, int* position, PositionCache& positions) const;
 
     const ObjectModel& m_model;
     const Clock& m_clock;
