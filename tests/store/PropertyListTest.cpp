@@ -153,6 +153,10 @@ const HostileCase hostileCases[] = {
     {"BinarySelfReference", binary({array({0})})},
     // The dictionary's key is the one-letter text "k".
     {"BinaryLongCycle", binary({array({1}), container(0xD, {2, 3}), "\x51k", array({0})})},
+    // Four objects unfolding to a million values: within the absolute
+    // limit, far past what so small a file may stand for.
+    {"BinarySharedPastItsSize", binary({array(QList<quint64>(100, 1)), array(QList<quint64>(100, 2)),
+                                        array(QList<quint64>(100, 3)), integer(1)})},
     {"BinaryTruncated", twoThirds(PropertyList::toBinary(sampleTree(true)))},
     {"BinaryOnlyHeader", QByteArray("bplist00")},
     {"BinaryOffsetPastEnd",
