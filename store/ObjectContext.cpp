@@ -403,6 +403,7 @@ Status ObjectContext::save()
         if (!status) {
             m_store->rollback();
             qCWarning(lcStore) << "save failed:" << status.error().fullText();
+            Q_EMIT saveFailed(status.error());
             return status;
         }
     }

@@ -78,6 +78,8 @@ Q_SIGNALS:
     void objectsDeleted(const QList<vorn::ManagedObject*>& objects);
     void objectChanged(vorn::ManagedObject* object, const QString& key);
     void didSave();
+    // A save to the store failed (nothing of it was written; the changes stay pending).
+    void saveFailed(const vorn::Error& error);
     // Every object was dropped or restored: lists must fetch again.
     void contextDidReset();
 
