@@ -33,6 +33,10 @@ AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clo
     : QObject(parent), m_state(settings, ui, clock, std::move(locations)),
       m_backup(std::make_unique<BackupController>(*this)), m_assi(std::make_unique<AssiController>(*this))
 {
+    // The English list declares every key's type and its default, which is
+    // what a value of the wrong type reads as.
+    if (auto english = defaultList(defaultListName(0)))
+        settings.setDeclaredDefaults(english.value());
     m_invoicing = std::make_unique<InvoicingControllers>(m_state);
     setTemplateLoader([this] {
         if (Status s = DesignController(m_state).loadTemplates(); !s)

@@ -308,6 +308,12 @@ private:
             return ok ? std::optional<QVariant>(QVariant(qint64(v))) : std::nullopt;
         }
         if (element == QLatin1String("real")) {
+            // libplist and the platform write infinities as words.
+            const QString word = trimmed.toLower();
+            if (word == QLatin1String("infinity") || word == QLatin1String("+infinity"))
+                return QVariant(std::numeric_limits<double>::infinity());
+            if (word == QLatin1String("-infinity"))
+                return QVariant(-std::numeric_limits<double>::infinity());
             const double v = trimmed.toDouble(&ok);
             return ok ? std::optional<QVariant>(QVariant(v)) : std::nullopt;
         }

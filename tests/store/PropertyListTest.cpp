@@ -15,6 +15,7 @@ QVariantMap sampleTree(bool withUid)
                       {"big", std::numeric_limits<qint64>::max()},
                       {"rate", 0.19},
                       {"tiny", 1e-300},
+                      {"infinite", -std::numeric_limits<double>::infinity()},
                       {"yes", true},
                       {"no", false},
                       {"when", utc(2026, 11, 21, 9, 52, 0)},
