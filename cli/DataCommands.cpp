@@ -37,13 +37,14 @@ int check(CommandContext& c)
         c.out = QStringLiteral("copied\n");
         break;
     case Result::Repaired:
-        c.out = BackupController::repairQuestionText() + QStringLiteral("\nrepaired\n");
+        c.asked = BackupController::repairQuestionText() + QLatin1Char('\n');
+        c.out = QStringLiteral("repaired\n");
         break;
     case Result::RepairDeclined:
     case Result::RepairFailed:
         // The question came first; what ended the repair (the missing-copy
         // alert, an error) follows from the interface and ends the run.
-        c.out = BackupController::repairQuestionText() + QLatin1Char('\n');
+        c.asked = BackupController::repairQuestionText() + QLatin1Char('\n');
         break;
     case Result::Skipped:
         return c.fail(
