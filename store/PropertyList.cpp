@@ -8,6 +8,7 @@
 #include <plist/plist.h>
 
 #include <algorithm>
+#include <bit>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -621,15 +622,202 @@ QByteArray PropertyList::toXml(const QVariant& root)
     return result;
 }
 
+namespace {
+
+// Binary property lists are written here: libplist's writer finds shared
+// values in a table of fixed size, which makes it quadratic in the number of
+// objects (seconds for a document of some thousand items). Equal strings,
+// numbers, dates, data and references are written once, containers each time.
+class BinaryWriter
+{
+public:
+    QByteArray write(const QVariant& root)
+    {
+        const quint64 top = add(root);
+        const quint64 count = m_objects.size();
+        const int refSize = bytesFor(count);
+        QByteArray out = "bplist00";
+        std::vector<quint64> offsets;
+        offsets.reserve(m_objects.size());
+        for (const Object& object : m_objects) {
+            offsets.push_back(quint64(out.size()));
+            if (!object.container) {
+                out += object.bytes;
+                continue;
+            }
+            const quint64 n = object.type == 0xD ? object.refs.size() / 2 : object.refs.size();
+            appendMarker(out, object.type, n);
+            for (quint64 ref : object.refs)
+                appendBigEndian(out, ref, refSize);
+        }
+        const quint64 tableOffset = quint64(out.size());
+        const int offsetSize = bytesFor(tableOffset + 1);
+        for (quint64 offset : offsets)
+            appendBigEndian(out, offset, offsetSize);
+        out += QByteArray(6, '\0');
+        out += char(offsetSize);
+        out += char(refSize);
+        appendBigEndian(out, count, 8);
+        appendBigEndian(out, top, 8);
+        appendBigEndian(out, tableOffset, 8);
+        return out;
+    }
+
+private:
+    struct Object
+    {
+        bool container = false;
+        int type = 0;
+        QByteArray bytes;
+        std::vector<quint64> refs;
+    };
+
+    static int bytesFor(quint64 value)
+    {
+        return value <= 0xFF ? 1 : value <= 0xFFFF ? 2 : value <= 0xFFFFFFFFULL ? 4 : 8;
+    }
+    static void appendBigEndian(QByteArray& out, quint64 value, int bytes)
+    {
+        for (int i = bytes - 1; i >= 0; --i)
+            out += char((value >> (8 * i)) & 0xFF);
+    }
+    static void appendInteger(QByteArray& out, qint64 value)
+    {
+        // Negative numbers take all eight bytes, as readers expect.
+        const int bytes = value < 0 ? 8 : bytesFor(quint64(value));
+        out += char(0x10 | std::countr_zero(unsigned(bytes)));
+        appendBigEndian(out, quint64(value), bytes);
+    }
+    static void appendMarker(QByteArray& out, int type, quint64 count)
+    {
+        if (count < 15) {
+            out += char((type << 4) | int(count));
+            return;
+        }
+        out += char((type << 4) | 0xF);
+        appendInteger(out, qint64(count));
+    }
+    static void appendDouble(QByteArray& out, int marker, double value)
+    {
+        out += char(marker);
+        appendBigEndian(out, std::bit_cast<quint64>(value), 8);
+    }
+
+    quint64 leaf(QByteArray bytes)
+    {
+        auto found = m_leaves.constFind(bytes);
+        if (found != m_leaves.cend())
+            return *found;
+        const quint64 index = m_objects.size();
+        m_leaves.insert(bytes, index);
+        m_objects.push_back(Object{false, 0, std::move(bytes), {}});
+        return index;
+    }
+
+    quint64 string(const QString& text)
+    {
+        QByteArray out;
+        const bool ascii =
+            std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
+        if (ascii) {
+            appendMarker(out, 0x5, quint64(text.size()));
+            out += text.toLatin1();
+        } else {
+            appendMarker(out, 0x6, quint64(text.size()));
+            for (QChar c : text)
+                appendBigEndian(out, c.unicode(), 2);
+        }
+        return leaf(std::move(out));
+    }
+
+    quint64 container(int type, std::vector<quint64> refs)
+    {
+        const quint64 index = m_objects.size();
+        m_objects.push_back(Object{true, type, {}, std::move(refs)});
+        return index;
+    }
+
+    quint64 add(const QVariant& v)
+    {
+        QByteArray out;
+        switch (v.typeId()) {
+        case QMetaType::Bool:
+            out += char(v.toBool() ? 0x09 : 0x08);
+            return leaf(std::move(out));
+        case QMetaType::Int:
+        case QMetaType::UInt:
+        case QMetaType::LongLong:
+        case QMetaType::ULongLong:
+        case QMetaType::Long:
+        case QMetaType::Short:
+            appendInteger(out, v.toLongLong());
+            return leaf(std::move(out));
+        case QMetaType::Float:
+        case QMetaType::Double:
+            appendDouble(out, 0x23, v.toDouble());
+            return leaf(std::move(out));
+        case QMetaType::QByteArray: {
+            const QByteArray data = v.toByteArray();
+            appendMarker(out, 0x4, quint64(data.size()));
+            out += data;
+            return leaf(std::move(out));
+        }
+        case QMetaType::QDateTime: {
+            // Readers keep whole seconds in 32 bits (1933 to 2069 around the
+            // 2001 epoch); a date beyond that is pinned to the nearest end
+            // rather than wrapped into another century.
+            const qint64 ms = v.toDateTime().toMSecsSinceEpoch() - referenceDateOffset * 1000;
+            constexpr qint64 limit = qint64(std::numeric_limits<int32_t>::max()) * 1000;
+            const qint64 clamped = std::clamp<qint64>(ms, -limit - 1000, limit);
+            appendDouble(out, 0x33, double(clamped) / 1000.0);
+            return leaf(std::move(out));
+        }
+        case QMetaType::QVariantList:
+        case QMetaType::QStringList: {
+            const QVariantList list = v.toList();
+            std::vector<quint64> refs;
+            refs.reserve(size_t(list.size()));
+            const quint64 index = container(0xA, {});
+            for (const QVariant& element : list)
+                refs.push_back(add(element));
+            m_objects[index].refs = std::move(refs);
+            return index;
+        }
+        case QMetaType::QVariantMap:
+        case QMetaType::QVariantHash: {
+            const QVariantMap map = v.toMap();
+            std::vector<quint64> refs;
+            refs.reserve(size_t(map.size()) * 2);
+            const quint64 index = container(0xD, {});
+            for (auto it = map.cbegin(); it != map.cend(); ++it)
+                refs.push_back(string(it.key()));
+            for (auto it = map.cbegin(); it != map.cend(); ++it)
+                refs.push_back(add(it.value()));
+            m_objects[index].refs = std::move(refs);
+            return index;
+        }
+        default:
+            break;
+        }
+        if (v.typeId() == qMetaTypeId<PlistUid>()) {
+            const quint64 uid = v.value<PlistUid>().value;
+            const int bytes = bytesFor(uid);
+            out += char(0x80 | (bytes - 1));
+            appendBigEndian(out, uid, bytes);
+            return leaf(std::move(out));
+        }
+        return string(v.toString());
+    }
+
+    std::vector<Object> m_objects;
+    QHash<QByteArray, quint64> m_leaves;
+};
+
+} // namespace
+
 QByteArray PropertyList::toBinary(const QVariant& root)
 {
-    PlistPtr node(fromVariant(root));
-    char* bin = nullptr;
-    uint32_t length = 0;
-    plist_to_bin(static_cast<plist_t>(node.get()), &bin, &length);
-    QByteArray result(bin, qsizetype(length));
-    plist_to_bin_free(bin);
-    return result;
+    return BinaryWriter().write(root);
 }
 
 } // namespace vorn
