@@ -1,6 +1,7 @@
 #include "store/ObjectContext.h"
 
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ListCompare.h"
 #include "store/StoreLog.h"
 
@@ -104,7 +105,8 @@ void ObjectContext::undelete(ManagedObject* object)
     if (object->m_state == ManagedObject::State::Gone) {
         // Deleted and saved since: it comes back as a new row with its old key.
         const EntityDescription& entity = object->entity();
-        auto it = std::find_if(m_gone.begin(), m_gone.end(), [object](const auto& p) { return p.get() == object; });
+        auto it =
+            std::find_if(m_gone.begin(), m_gone.end(), [object](const auto& p) { return p.get() == object; });
         if (it != m_gone.end()) {
             objectsOf(entity).objects.emplace(object->m_id, std::move(*it));
             m_gone.erase(it);
@@ -182,7 +184,8 @@ ManagedObject* ObjectContext::materialize(const EntityDescription& entity, Sqlit
     auto found = eo.objects.find(row.id);
     if (found != eo.objects.end())
         return nullptr;
-    auto owned = std::unique_ptr<ManagedObject>(new ManagedObject(entity, this, row.id, std::move(row.values)));
+    auto owned =
+        std::unique_ptr<ManagedObject>(new ManagedObject(entity, this, row.id, std::move(row.values)));
     ManagedObject* object = owned.get();
     object->m_savedOwnerId = row.ownerId;
     object->m_savedPosition = row.position;
@@ -199,7 +202,8 @@ Status ObjectContext::loadAll(const EntityDescription& entity)
     }
     const RelationshipDescription* owner = entity.ownerRelationship();
     if (!owner) {
-        Status s = m_store->loadAll(entity, [&](SqliteStore::Row&& row) { materialize(entity, std::move(row)); });
+        Status s =
+            m_store->loadAll(entity, [&](SqliteStore::Row&& row) { materialize(entity, std::move(row)); });
         if (s)
             eo.allLoaded = true;
         return s;
@@ -259,7 +263,8 @@ void ObjectContext::ensureListLoaded(ManagedObject* object, int ri)
     object->m_lists[size_t(ri)] = list;
 }
 
-Result<QList<ManagedObject*>> ObjectContext::fetchObjects(const QString& entityName, const Predicate& predicate)
+Result<QList<ManagedObject*>> ObjectContext::fetchObjects(const QString& entityName,
+                                                          const Predicate& predicate)
 {
     const EntityDescription* entity = m_model.entity(entityName);
     if (!entity)
@@ -291,7 +296,7 @@ QList<ManagedObject*> ObjectContext::fetch(const QString& entityName, const Pred
 QList<ManagedObject*> ObjectContext::fetchNamed(const QString& templateName)
 {
     if (templateName == QLatin1String("defaultDesign"))
-        return fetch(Entity::Design, [](const ManagedObject& o) { return o.boolValue(QStringLiteral("isDefault")); });
+        return fetch(Entity::Design, [](const ManagedObject& o) { return o.boolValue(key::isDefault); });
     qCWarning(lcStore) << "no fetch template named" << templateName;
     return {};
 }
@@ -307,14 +312,14 @@ bool ObjectContext::commitEditing()
 void ObjectContext::registerEditor(QObject* owner, std::function<bool()> commit)
 {
     m_editors.emplace_back(owner, std::move(commit));
-    connect(owner, &QObject::destroyed, this, [this, owner] {
-        std::erase_if(m_editors, [owner](const auto& e) { return e.first == owner; });
-    });
+    connect(owner, &QObject::destroyed, this,
+            [this, owner] { std::erase_if(m_editors, [owner](const auto& e) { return e.first == owner; }); });
 }
 
 bool ObjectContext::hasChanges() const
 {
-    return std::any_of(m_changed.begin(), m_changed.end(), [](ManagedObject* o) { return o->hasChanges(); }) ||
+    return std::any_of(m_changed.begin(), m_changed.end(),
+                       [](ManagedObject* o) { return o->hasChanges(); }) ||
            std::any_of(m_positionCheck.begin(), m_positionCheck.end(), [this](ManagedObject* o) {
                int position = -1;
                const qint64 owner = ownerIdOf(o, &position);
