@@ -94,16 +94,21 @@ QString DesignBuilder::templateText(EditorCommands::Editor editor) const
 
 void DesignBuilder::setTemplateText(EditorCommands::Editor editor, const QString& text)
 {
-    ManagedObject* design = m_state.designsController().selectedObject();
+    if (ManagedObject* design = m_state.designsController().selectedObject())
+        setTemplateText(*design, editor, text);
+}
+
+void DesignBuilder::setTemplateText(ManagedObject& design, EditorCommands::Editor editor, const QString& text)
+{
     ObjectContext* context = m_state.context();
     const QString key = attributeFor(editor);
-    if (!design || !context || design->stringValue(key) == text)
+    if (!context || design.stringValue(key) == text)
         return;
     {
         UndoGroup group(context->undoManager(), tr("Edit Design"));
-        design->setValue(key, text);
+        design.setValue(key, text);
     }
-    if (design->boolValue(QStringLiteral("isDefault")))
+    if (design.boolValue(QStringLiteral("isDefault")))
         Q_EMIT designChanged();
 }
 

@@ -31,6 +31,7 @@ public:
     // (one undoable change per editing pause is the editor's business).
     QString templateText(EditorCommands::Editor editor) const;
     void setTemplateText(EditorCommands::Editor editor, const QString& text);
+    void setTemplateText(ManagedObject& design, EditorCommands::Editor editor, const QString& text);
 
     // Asks for an image file and keeps its data under "prefsLogo". A file
     // that is no image is refused with a message and changes nothing.
