@@ -14,15 +14,17 @@ namespace vorn {
 
 namespace {
 
-// A tile of grey noise, drawn very faintly over the ruler.
+// A tile of grey noise at 4 % opacity, laid very faintly over the ruler.
 QPixmap grainTile()
 {
-    QImage image(64, 64, QImage::Format_RGB32);
+    QImage image(64, 64, QImage::Format_ARGB32_Premultiplied);
     QRandomGenerator random(7);
+    constexpr double opacity = 0.04;
+    const int alpha = int(255 * opacity);
     for (int y = 0; y < image.height(); ++y)
         for (int x = 0; x < image.width(); ++x) {
-            const int v = int(random.bounded(256));
-            image.setPixel(x, y, qRgb(v, v, v));
+            const int v = int(random.bounded(256) * opacity);
+            image.setPixel(x, y, qRgba(v, v, v, alpha));
         }
     return QPixmap::fromImage(image);
 }
@@ -47,8 +49,24 @@ LineNumberRuler::LineNumberRuler(TemplateEditor* editor)
     updateThickness();
 }
 
+const QStaticText& LineNumberRuler::label(int number)
+{
+    auto it = m_labels.find(number);
+    if (it == m_labels.end()) {
+        // Labels are laid out once; scrolling only draws them.
+        if (m_labels.size() > 4096)
+            m_labels.clear();
+        QStaticText text(QString::number(number));
+        text.setTextFormat(Qt::PlainText);
+        text.prepare(QTransform(), m_font);
+        it = m_labels.insert(number, text);
+    }
+    return *it;
+}
+
 void LineNumberRuler::setLabelFont(const QFont& font)
 {
+    m_labels.clear();
     m_font = font;
     updateThickness();
     update();
@@ -118,7 +136,6 @@ void LineNumberRuler::paintEvent(QPaintEvent* event)
                          QPointF(bounds.right() + 0.5, bounds.bottom()));
     }
     painter.setFont(m_font);
-    const QFontMetricsF metrics(m_font);
     const QPointF offset = m_editor->textOffset();
     const qreal top = event->rect().top();
     const qreal bottom = event->rect().bottom();
@@ -133,9 +150,8 @@ void LineNumberRuler::paintEvent(QPaintEvent* event)
                                      ? block.layout()->lineAt(0).height()
                                      : r.height();
         const int line = block.blockNumber();
-        const QString label = QString::number(line + 1);
-        const QSizeF size(metrics.horizontalAdvance(label), metrics.height());
-        const QRectF labelRect = LineNumberIndex::labelRect(width(), size, r.top(), lineHeight);
+        const QStaticText& label = this->label(line + 1);
+        const QRectF labelRect = LineNumberIndex::labelRect(width(), label.size(), r.top(), lineHeight);
         const bool marked = m_index.markerAtLine(line).has_value();
         if (marked) {
             const QRectF marker(2, r.top() + 1, width() - 3, lineHeight - 2);
@@ -145,9 +161,8 @@ void LineNumberRuler::paintEvent(QPaintEvent* event)
             painter.drawRoundedRect(marker, 3, 3);
         }
         painter.setPen(marked ? m_alternateTextColor : m_textColor);
-        painter.drawText(labelRect, Qt::AlignRight | Qt::AlignVCenter, label);
+        painter.drawStaticText(labelRect.topLeft(), label);
     }
-    painter.setOpacity(0.04);
     painter.drawTiledPixmap(event->rect(), m_grain, event->rect().topLeft());
 }
 

@@ -4,7 +4,9 @@
 
 #include <QColor>
 #include <QFont>
+#include <QHash>
 #include <QPixmap>
+#include <QStaticText>
 #include <QWidget>
 
 namespace vorn {
@@ -60,6 +62,7 @@ protected:
 
 private:
     void updateThickness();
+    const QStaticText& label(int number);
     void editorUpdated(const QRect& rect, int dy);
 
     TemplateEditor* m_editor;
@@ -69,6 +72,7 @@ private:
     QColor m_alternateTextColor;
     QColor m_backgroundColor;
     QPixmap m_grain;
+    QHash<int, QStaticText> m_labels;
     int m_thickness = 0;
 };
 
