@@ -128,9 +128,10 @@ void MainWindow::createMenus()
     m_editMenu->addAction(m_undoAction);
     m_editMenu->addAction(m_redoAction);
     m_editMenu->addSeparator();
-    m_editMenu->addAction(tr("Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this, [this] {
-        PreferencesWindow::showShared(m_app, this);
-    })->setMenuRole(QAction::PreferencesRole);
+    m_editMenu
+        ->addAction(tr("Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                    [this] { PreferencesWindow::showShared(m_app, this); })
+        ->setMenuRole(QAction::PreferencesRole);
     // Edits made in this pass of the event loop may not have announced
     // themselves yet.
     connect(m_editMenu, &QMenu::aboutToShow, this, &MainWindow::updateUndoActions);

@@ -147,7 +147,12 @@ PreferencesWindow::PreferencesWindow(AppDelegate& app, QWidget* parent)
         move(screen->availableGeometry().center() - rect().center());
 }
 
-PreferencesWindow::~PreferencesWindow() = default;
+PreferencesWindow::~PreferencesWindow()
+{
+    // The panes use the design library, which goes with this window's
+    // members, before the base class would delete them.
+    delete takeCentralWidget();
+}
 
 void PreferencesWindow::addPane(const QString& identifier, int tag, const QString& label, const char* theme,
                                 QWidget* view)

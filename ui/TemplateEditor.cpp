@@ -114,6 +114,16 @@ void TemplateEditor::commentAction()
 
 void TemplateEditor::keyPressEvent(QKeyEvent* event)
 {
+    // Tab types a tab; Ctrl+Tab leaves the editor, so the window works
+    // without a mouse.
+    if (event->key() == Qt::Key_Tab && event->modifiers() == Qt::ControlModifier) {
+        focusNextChild();
+        return;
+    }
+    if (event->key() == Qt::Key_Backtab && event->modifiers() & Qt::ControlModifier) {
+        focusPreviousChild();
+        return;
+    }
     const bool newLine = (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) &&
                          !(event->modifiers() & (Qt::ControlModifier | Qt::AltModifier));
     if (!newLine || !m_highlighter->colorizer().maintainIndentation()) {

@@ -27,6 +27,7 @@
 #include <QTabWidget>
 #include <QTableView>
 #include <QTest>
+#include <QTextLayout>
 #include <QTimeZone>
 #include <QToolBar>
 
@@ -75,6 +76,32 @@ public:
     {
         PreferencesLivePreview& p = *builder().preview();
         return QTest::qWaitFor([&] { return !p.isPending() && p.lastHtml().contains(text); }, 60000);
+    }
+    // The coloured runs of every line as drawn, and as the engine has them.
+    static QString shownColours(const TemplateEditor& editor)
+    {
+        QString out;
+        for (QTextBlock b = editor.document()->begin(); b.isValid(); b = b.next())
+            for (const QTextLayout::FormatRange& r : b.layout()->formats())
+                out += QStringLiteral("%1+%2 %3;")
+                           .arg(b.position() + r.start)
+                           .arg(r.length)
+                           .arg(r.format.foreground().color().name());
+        return out;
+    }
+    static QString engineColours(const TemplateEditor& editor)
+    {
+        const SyntaxColorizer& engine = editor.highlighter()->colorizer();
+        QString out;
+        for (QTextBlock b = editor.document()->begin(); b.isValid(); b = b.next())
+            for (const SyntaxRun& r : engine.runs(b.position(), b.length() - 1)) {
+                const SyntaxColor c = engine.definition().modeColor(r.mode);
+                out += QStringLiteral("%1+%2 %3;")
+                           .arg(r.start)
+                           .arg(r.length)
+                           .arg(QColor::fromRgbF(float(c.red), float(c.green), float(c.blue)).name());
+            }
+        return out;
     }
     void selectLines(TemplateEditor& editor, int first, int count)
     {
@@ -164,6 +191,17 @@ TEST_F(PreferencesWindowTest, EditingTheSettingsAndADesignShowsInThePreview)
     EXPECT_EQ(css().toPlainText(), original);
     EXPECT_GE(css().ruler()->width(), 22);
     EXPECT_NE(css().highlighter()->colorizer().runs(0, int(original.size())).size(), 0u);
+
+    // Opening a comment recolours the lines below it on screen as the
+    // engine coloured them, and undoing it brings their colours back.
+    const QString before = shownColours(css());
+    EXPECT_EQ(before, engineColours(css()));
+    QTextCursor opened(css().document()->findBlockByNumber(4));
+    opened.insertText("/*");
+    EXPECT_EQ(shownColours(css()), engineColours(css()));
+    EXPECT_NE(shownColours(css()), before);
+    css().undo();
+    EXPECT_EQ(shownColours(css()), before);
 
     // Indent and comment a block, each one undo step.
     selectLines(css(), 0, 3);
