@@ -11,6 +11,7 @@
 #include "ui/DocumentListModel.h"
 #include "ui/DocumentListView.h"
 #include "ui/ExportSheet.h"
+#include "ui/HelpMenu.h"
 #include "ui/PreviewWindow.h"
 #include "ui/ReminderSheet.h"
 #include "ui/SelectionSync.h"
@@ -60,6 +61,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     createOutputWindows();
     contextChanged();
     restoreFrame();
+    HelpMenu::install(*this, m_app);
 }
 
 MainWindow::~MainWindow() = default;
