@@ -35,13 +35,12 @@ set(CPACK_STRIP_FILES ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://vorn.tandrelo.com/")
-set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Invoices, quotes and payment reminders
- Vorn writes invoices, quotes and payment reminders for freelancers and small
+set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Vorn writes invoices, quotes and payment reminders for freelancers and small
  businesses, keeps them in one local database and renders them through
  editable designs into previews, PDF files, print jobs and e-mails.")
 # The libraries come from dpkg-shlibdeps; what is loaded at run time (the web
-# engine's helper process, the platform plugins) is named here.
+# engine's helper process, the desktop's URL and mail helpers) is named here.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6webenginecore6-bin, libqt6network6, qt6-qpa-plugins, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6webenginecore6-bin, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, shared-mime-info, desktop-file-utils")
 include(CPack)

@@ -3,6 +3,7 @@
 #include "store/Settings.h"
 #include "ui/UiLog.h"
 
+#include <QEvent>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
@@ -59,6 +60,7 @@ bool Translations::install(int language)
     g_language = qBound(0, language, 3);
     if (g_language == 0) {
         // Removing the translators told every window to show English again.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
         return true;
     }
     const QString lang = code(g_language);
@@ -74,6 +76,9 @@ bool Translations::install(int language)
     }
     QCoreApplication::installTranslator(ours.get());
     installed().push_back(std::move(ours));
+    // Open windows retranslate now, not at the next turn of the event loop,
+    // so that what follows the choice already speaks the new language.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::LanguageChange);
     return true;
 }
 

@@ -19,10 +19,18 @@
 #include <QProcess>
 #include <QTimer>
 
+#include <cstdio>
+
 using namespace vorn;
 
 int main(int argc, char** argv)
 {
+    // The version is told without a display (in scripts, over ssh, in a
+    // package check), so before any window system is touched.
+    if (argc == 2 && (qstrcmp(argv[1], "--version") == 0 || qstrcmp(argv[1], "-v") == 0)) {
+        std::printf("Vorn %s\n", VORN_VERSION);
+        return 0;
+    }
     // The preview and every output command lay documents out in a web engine,
     // which must be set up before the application object exists.
     PdfRenderer::prepareProcess(false);
