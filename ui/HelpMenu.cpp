@@ -72,10 +72,9 @@ HelpMenu::HelpMenu(QMainWindow& window, AppDelegate& app)
     connect(m_assistant, &AssistantSheet::languageChosen, this, &HelpMenu::languageChosen);
     connect(&assi, &AssiController::screenCastRequested, this, &HelpMenu::showScreenCast);
     connect(&assi, &AssiController::quitRequested, &m_window, &QWidget::close);
-    connect(&assi, &AssiController::sheetVisibleChanged, this, [this](bool visible) {
-        if (visible && !m_app.settings().boolValue(QStringLiteral("isAssiDone")))
-            m_assistant->setSuggestedLanguage(Translations::languageOfLocale(QLocale()));
-    });
+    // The first run starts on the desktop's language.
+    if (!m_app.settings().boolValue(QStringLiteral("isAssiDone")))
+        m_assistant->setSuggestedLanguage(Translations::languageOfLocale(QLocale()));
     connect(m_assistant, &AssistantSheet::completed, this, [this] {
         // The launch's update check waits for the consent given in the assistant.
         if (std::exchange(m_updateChecksWaiting, false))
