@@ -1717,7 +1717,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>%1 is available; you have Vorn %2. Do you want to download the update now?</source>
-        <translation>%1 ist verfügbar; Sie haben Vorn %2. Möchten Sie das Update jetzt laden?</translation>
+        <translation>%1 ist verfügbar; Sie haben Vorn %2. Möchten Sie das Update jetzt herunterladen?</translation>
     </message>
     <message>
         <source>&amp;Release notes:</source>
@@ -1741,11 +1741,11 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Download…</source>
-        <translation>&amp;Laden …</translation>
+        <translation>&amp;Herunterladen …</translation>
     </message>
     <message>
         <source>Download</source>
-        <translation>Laden</translation>
+        <translation>Herunterladen</translation>
     </message>
 </context>
 <context>
@@ -1796,7 +1796,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>Do you want to download the update now?</source>
-        <translation>Möchten Sie das Update jetzt laden?</translation>
+        <translation>Möchten Sie das Update jetzt herunterladen?</translation>
     </message>
     <message>
         <source>Update available!</source>
@@ -1804,7 +1804,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>Download…</source>
-        <translation>Laden …</translation>
+        <translation>Herunterladen …</translation>
     </message>
 </context>
 </TS>

@@ -148,9 +148,11 @@ TEST_F(DesktopWindowsTest, FirstRunInGermanThroughTheAssistant)
 }
 
 // "Check for Updates…" against a server on the loopback: first the answer
-// that this is the newest version, then a newer one in the update window.
+// that this is the newest version, then a newer one in the update window
+// (in German, where the texts are longest).
 TEST_F(DesktopWindowsTest, CheckForUpdatesShowsBothAnswers)
 {
+    Translations::install(1);
     HttpStub stub;
     settings.setValue(ServiceUrls::versionList, stub.url("/list.plist").toString());
     settings.setValue(ServiceUrls::releaseNotes, stub.url("/notes.txt").toString());
@@ -166,7 +168,7 @@ TEST_F(DesktopWindowsTest, CheckForUpdatesShowsBothAnswers)
     check->trigger();
     EXPECT_FALSE(check->isEnabled());
     ASSERT_TRUE(waitFor([&] { return !help->updateChecker().isChecking(); }));
-    EXPECT_EQ(ui.alertTitles(), QStringList{"You're up to date!"});
+    EXPECT_EQ(ui.alertTitles(), QStringList{"Sie sind auf dem neuesten Stand!"});
     EXPECT_TRUE(check->isEnabled());
 
     stub.route("/list.plist", {200, list("1.1.0")});
@@ -177,7 +179,7 @@ TEST_F(DesktopWindowsTest, CheckForUpdatesShowsBothAnswers)
     EXPECT_TRUE(w.versionLabel()->text().contains("Vorn 1.1.0"));
     EXPECT_TRUE(w.versionLabel()->text().contains("1.0.0"));
     EXPECT_EQ(w.notesView()->toPlainText(), "Faster PDFs.\nA German interface.");
-    screenshot(w, "update-window");
+    screenshot(w, "update-window-de");
     w.downloadButton()->click();
     EXPECT_FALSE(w.isVisible());
     EXPECT_EQ(ui.calls("url").value(0).title, stub.url("/Vorn.zip").toString());
