@@ -13,6 +13,7 @@
 #include "ui/DocumentListView.h"
 #include "ui/ExportSheet.h"
 #include "ui/PreferencesWindow.h"
+#include "ui/HelpMenu.h"
 #include "ui/PreviewWindow.h"
 #include "ui/ReminderSheet.h"
 #include "ui/SelectionSync.h"
@@ -62,6 +63,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     createOutputWindows();
     contextChanged();
     restoreFrame();
+    HelpMenu::install(*this, m_app);
 }
 
 MainWindow::~MainWindow() = default;
