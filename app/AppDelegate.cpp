@@ -3,7 +3,9 @@
 #include "app/AppLog.h"
 #include "app/AssiController.h"
 #include "app/BackupController.h"
+#include "app/StoreSnapshot.h"
 #include "designs/DesignController.h"
+#include "documents/InterchangeFile.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
@@ -348,9 +350,27 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
     return finish(true);
 }
 
+Status AppDelegate::checkOpenedFile(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("vorn") || suffix == QLatin1String("design")) {
+        const auto read = suffix == QLatin1String("vorn") ? InterchangeFile::readDocumentFile(path)
+                                                          : InterchangeFile::readDesignFile(path);
+        return read ? Status() : Status(read.error());
+    }
+    if (suffix == QLatin1String("vndb"))
+        return StoreSnapshot::checkIntegrity(path);
+    return {};
+}
+
 bool AppDelegate::applicationOpenFile(const QString& path)
 {
-    Q_UNUSED(path);
+    // A file the reader refuses is named with the reader's own message, so
+    // the user knows the file itself is the problem, not the way it came in.
+    if (Status readable = checkOpenedFile(path); !readable) {
+        ui().presentError(readable.error());
+        return true;
+    }
     ui().runAlert(
         {tr("Vorn, Vorn Documents, and the Vorn Database"),
          tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - please use "

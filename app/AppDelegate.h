@@ -95,8 +95,12 @@ public:
         Cancel
     };
     TerminateReply applicationShouldTerminate();
-    // A file dropped on the application is never opened directly.
+    // A file dropped on the application is never opened directly: a
+    // readable one gets the note on importing, a damaged one the reader's
+    // message.
     bool applicationOpenFile(const QString& path);
+    // Whether a document, design or database file can be read (other files pass).
+    static Status checkOpenedFile(const QString& path);
     bool applicationShouldHandleReopen() const { return true; }
 
 Q_SIGNALS:

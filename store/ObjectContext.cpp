@@ -1,6 +1,7 @@
 #include "store/ObjectContext.h"
 
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ListCompare.h"
 #include "store/StoreLog.h"
 
@@ -296,8 +297,7 @@ QList<ManagedObject*> ObjectContext::fetch(const QString& entityName, const Pred
 QList<ManagedObject*> ObjectContext::fetchNamed(const QString& templateName)
 {
     if (templateName == QLatin1String("defaultDesign"))
-        return fetch(Entity::Design,
-                     [](const ManagedObject& o) { return o.boolValue(QStringLiteral("isDefault")); });
+        return fetch(Entity::Design, [](const ManagedObject& o) { return o.boolValue(key::isDefault); });
     qCWarning(lcStore) << "no fetch template named" << templateName;
     return {};
 }

@@ -1,5 +1,6 @@
 #include "invoicing/DataController.h"
 #include "invoicing/InvoicingControllers.h"
+#include "documents/InterchangeFile.h"
 #include "tests/app/AppHarness.h"
 
 #include <sqlite3.h>
@@ -284,18 +285,50 @@ TEST_F(AppDelegateTest, AFailedSaveAfterAnEditIsToldOnceWithItsCause)
 
 // ---------------------------------------------------------------- state
 
-TEST_F(AppDelegateTest, OpeningAFileFromOutsideOnlyExplains)
+TEST_F(AppDelegateTest, OpeningAFileFromOutsideOnlyExplainsOrRefusesADamagedOne)
 {
     h.launch();
-    h.ui.clear();
-    EXPECT_TRUE(app().applicationOpenFile(h.env.home() + "/Invoice.vorn"));
-    ASSERT_EQ(h.ui.calls("alert").size(), 1);
-    EXPECT_EQ(
-        shown(h.ui.calls("alert")[0]),
-        (QStringList{"Vorn, Vorn Documents, and the Vorn Database",
-                     "In order to avoid duplicate entries, hiccups, and to keep the database intact - please "
-                     "use the 'File Menu' to open documents and to restore the Vorn database.",
-                     "OK"}));
+    const QString good = h.env.home() + "/Invoice.vorn";
+    ASSERT_TRUE(InterchangeFile::writeDocumentFile(good, *addDocument(1)));
+    h.context()->rollback();
+    const auto write = [this](const QString& name, const QByteArray& bytes) {
+        QFile f(h.env.home() + "/" + name);
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+        return f.fileName();
+    };
+    const struct
+    {
+        QString path;
+        bool refused;
+    } cases[] = {
+        {good, false},
+        {write("Damaged.vorn", "bplist00 not really"), true},
+        {write("Damaged.design", QByteArray(100, 'x')), true},
+        {write("Damaged.vndb", "SQLite format 3 but not a database"), true},
+        {write("Notes.txt", "anything"), false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.path.toStdString());
+        h.ui.clear();
+        EXPECT_TRUE(app().applicationOpenFile(c.path));
+        if (c.refused) {
+            ASSERT_EQ(h.ui.errors().size(), 1);
+            EXPECT_TRUE(h.ui.errors()[0].fullText().contains(QFileInfo(c.path).fileName()))
+                << qPrintable(h.ui.errors()[0].fullText());
+            EXPECT_TRUE(h.ui.calls("alert").isEmpty());
+            continue;
+        }
+        EXPECT_TRUE(h.ui.errors().isEmpty());
+        ASSERT_EQ(h.ui.calls("alert").size(), 1);
+        EXPECT_EQ(
+            shown(h.ui.calls("alert")[0]),
+            (QStringList{"Vorn, Vorn Documents, and the Vorn Database",
+                         "In order to avoid duplicate entries, hiccups, and to keep the database intact - "
+                         "please use the 'File Menu' to open documents and to restore the Vorn database.",
+                         "OK"}));
+    }
+    // Nothing comes in this way.
     EXPECT_TRUE(h.context()->fetch(Entity::Invoice).isEmpty());
     EXPECT_TRUE(app().applicationShouldHandleReopen());
 }
