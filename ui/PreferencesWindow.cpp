@@ -300,6 +300,7 @@ PreferencesForm* PreferencesWindow::companyPane()
     row->addStretch();
     f->addRow(tr("Logo:"), logoRow);
     logoRow->setAccessibleName(tr("Logo"));
+    // A refused file is explained by chooseLogo itself.
     connect(choose, &QPushButton::clicked, this, [this] { (void)m_designBuilder->chooseLogo(); });
     connect(remove, &QPushButton::clicked, this, [this] { m_designBuilder->removeLogo(); });
     connect(m_designBuilder.get(), &DesignBuilder::designChanged, this, &PreferencesWindow::updateLogo);
