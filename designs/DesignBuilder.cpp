@@ -3,6 +3,7 @@
 #include "designs/DesignController.h"
 #include "designs/DesignsLog.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
@@ -52,13 +53,13 @@ QString DesignBuilder::attributeFor(EditorCommands::Editor editor)
 {
     switch (editor) {
     case EditorCommands::ItemEditor:
-        return QStringLiteral("item");
+        return key::item;
     case EditorCommands::StyleSheetEditor:
-        return QStringLiteral("css");
+        return key::css;
     case EditorCommands::PageEditor:
         break;
     }
-    return QStringLiteral("invoice");
+    return key::invoice;
 }
 
 ManagedObject* DesignBuilder::duplicateDesign()
@@ -72,12 +73,11 @@ ManagedObject* DesignBuilder::duplicateDesign()
     {
         UndoGroup group(context->undoManager(), tr("Duplicate Design"));
         copy = context->insertNewObject(Entity::Design);
-        copy->setValue(QStringLiteral("uniqueID"), globallyUniqueString());
-        copy->setValue(QStringLiteral("title"),
-                       tr("%1 copy").arg(original->stringValue(QStringLiteral("title"))));
+        copy->setValue(key::uniqueID, globallyUniqueString());
+        copy->setValue(key::title, tr("%1 copy").arg(original->stringValue(key::title)));
         for (const char* key : {"invoice", "item", "css"})
             copy->setValue(QLatin1String(key), original->stringValue(QLatin1String(key)));
-        copy->setValue(QStringLiteral("isDefault"), false);
+        copy->setValue(key::isDefault, false);
     }
     list.addObject(copy);
     list.rearrangeObjects();
@@ -108,7 +108,7 @@ void DesignBuilder::setTemplateText(ManagedObject& design, EditorCommands::Edito
         UndoGroup group(context->undoManager(), tr("Edit Design"));
         design.setValue(key, text);
     }
-    if (design.boolValue(QStringLiteral("isDefault")))
+    if (design.boolValue(key::isDefault))
         Q_EMIT designChanged();
 }
 

@@ -1,6 +1,7 @@
 #include "ui/PreferencesDesignModel.h"
 
 #include "store/ArrayController.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 
@@ -16,10 +17,10 @@ QVariant PreferencesDesignModel::data(const QModelIndex& index, int role) const
     const ManagedObject* design = objectAt(index.row());
     if (!design)
         return {};
-    const bool isDefault = design->boolValue(QStringLiteral("isDefault"));
+    const bool isDefault = design->boolValue(key::isDefault);
     if (index.column() == 0 &&
         (role == Qt::DisplayRole || role == Qt::EditRole || role == Qt::AccessibleTextRole))
-        return design->stringValue(QStringLiteral("title"));
+        return design->stringValue(key::title);
     if (index.column() == 1 && (role == Qt::DisplayRole || role == Qt::AccessibleTextRole))
         return isDefault ? tr("Default") : QString();
     return {};
@@ -31,11 +32,11 @@ bool PreferencesDesignModel::setData(const QModelIndex& index, const QVariant& v
     if (!design || index.column() != 0 || role != Qt::EditRole)
         return false;
     const QString title = value.toString();
-    if (title == design->stringValue(QStringLiteral("title")))
+    if (title == design->stringValue(key::title))
         return true;
     ObjectContext* context = design->context();
     UndoGroup group(context ? context->undoManager() : nullptr, tr("Rename Design"));
-    design->setValue(QStringLiteral("title"), title);
+    design->setValue(key::title, title);
     return true;
 }
 
@@ -56,7 +57,7 @@ QVariant PreferencesDesignModel::headerData(int section, Qt::Orientation orienta
 
 bool PreferencesDesignModel::showsKey(const QString& key) const
 {
-    return key == QLatin1String("title") || key == QLatin1String("isDefault");
+    return key == key::title || key == key::isDefault;
 }
 
 } // namespace vorn

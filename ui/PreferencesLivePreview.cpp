@@ -91,7 +91,8 @@ void PreferencesLivePreview::show(quint64 generation, const Result<QByteArray>& 
     delete m_buffer;
     m_buffer = buffer;
     const qint64 elapsed = m_clock.elapsed();
-    m_status->setText(tr("%n page(s)", nullptr, m_document->pageCount()));
+    const int pages = m_document->pageCount();
+    m_status->setText(pages == 1 ? tr("1 page") : tr("%1 pages").arg(pages));
     Q_EMIT refreshed(elapsed);
 }
 

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "designs/DesignBuilder.h"
 #include "designs/DesignController.h"
+#include "store/Keys.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
 #include "ui/MainWindow.h"
@@ -300,6 +301,7 @@ PreferencesForm* PreferencesWindow::companyPane()
     row->addStretch();
     f->addRow(tr("Logo:"), logoRow);
     logoRow->setAccessibleName(tr("Logo"));
+    // A refused file is explained by chooseLogo itself.
     connect(choose, &QPushButton::clicked, this, [this] { (void)m_designBuilder->chooseLogo(); });
     connect(remove, &QPushButton::clicked, this, [this] { m_designBuilder->removeLogo(); });
     connect(m_designBuilder.get(), &DesignBuilder::designChanged, this, &PreferencesWindow::updateLogo);
@@ -324,17 +326,17 @@ PreferencesForm* PreferencesWindow::numberingPane()
 {
     auto* f = new PreferencesForm(m_app.settings());
     f->addSection(tr("Invoices"));
-    f->addCheck(QStringLiteral("invHaveNumber"), tr("Number new invoices"));
-    f->addLine(QStringLiteral("invPattern"), tr("Invoice number pattern:"));
-    f->addInteger(QStringLiteral("invCount"), tr("Invoice counter offset:"), -1000000, 1000000);
-    f->addCheck(QStringLiteral("invHaveDueDate"), tr("Give new invoices a due date"));
-    f->addChoice(QStringLiteral("invDefaultDueDate"), tr("Due after:"), termChoices());
+    f->addCheck(key::invHaveNumber, tr("Number new invoices"));
+    f->addLine(key::invPattern, tr("Invoice number pattern:"));
+    f->addInteger(key::invCount, tr("Invoice counter offset:"), -1000000, 1000000);
+    f->addCheck(key::invHaveDueDate, tr("Give new invoices a due date"));
+    f->addChoice(key::invDefaultDueDate, tr("Due after:"), termChoices());
     f->addSection(tr("Quotes"));
-    f->addCheck(QStringLiteral("quotHaveNumber"), tr("Number new quotes"));
-    f->addLine(QStringLiteral("quotPattern"), tr("Quote number pattern:"));
-    f->addInteger(QStringLiteral("quotCount"), tr("Quote counter offset:"), -1000000, 1000000);
-    f->addCheck(QStringLiteral("quotHaveValidity"), tr("Give new quotes an expiry date"));
-    f->addChoice(QStringLiteral("quotDefaultValidity"), tr("Valid for:"), termChoices());
+    f->addCheck(key::quotHaveNumber, tr("Number new quotes"));
+    f->addLine(key::quotPattern, tr("Quote number pattern:"));
+    f->addInteger(key::quotCount, tr("Quote counter offset:"), -1000000, 1000000);
+    f->addCheck(key::quotHaveValidity, tr("Give new quotes an expiry date"));
+    f->addChoice(key::quotDefaultValidity, tr("Valid for:"), termChoices());
     f->setMinimumWidth(520);
     return f;
 }
@@ -416,9 +418,9 @@ PreferencesForm* PreferencesWindow::templatePane()
     f->addCheck(QStringLiteral("tempPrintDetails"),
                 tr("Print the document's details beside the page numbers"));
     f->addCheck(QStringLiteral("printBorderless"), tr("Print without margins"));
-    f->addCheck(QStringLiteral("showItemSubAmount"), tr("Item rows show the net amount"));
+    f->addCheck(key::showItemSubAmount, tr("Item rows show the net amount"));
     f->addCheck(QStringLiteral("tempUseSKU"), tr("Item rows show the article number"));
-    f->addCheck(QStringLiteral("markInvoiceAsSent"), tr("Printing or exporting marks the document as sent"));
+    f->addCheck(key::markInvoiceAsSent, tr("Printing or exporting marks the document as sent"));
     auto* fontRow = new QWidget(f);
     auto* row = new QHBoxLayout(fontRow);
     row->setContentsMargins(0, 0, 0, 0);
@@ -475,7 +477,7 @@ PreferencesForm* PreferencesWindow::regionPane()
 {
     auto* f = new PreferencesForm(m_app.settings());
     f->addSection(tr("Money and dates"));
-    f->addLine(QStringLiteral("prefsCurrency"), tr("&Currency:"));
+    f->addLine(key::prefsCurrency, tr("&Currency:"));
     f->addLine(QStringLiteral("prefsDatePattern"), tr("&Date pattern:"));
     f->addChoice(QStringLiteral("tempPaperSize"), tr("&Paper:"),
                  {tr("US Letter"), tr("US Legal"), tr("A4"), tr("JIS B4"), tr("JIS B5")});
@@ -487,9 +489,9 @@ PreferencesForm* PreferencesWindow::clientsPane()
 {
     auto* f = new PreferencesForm(m_app.settings());
     f->addSection(tr("Client addresses"));
-    f->addText(QStringLiteral("prefsAddressPattern"), tr("&Address pattern:"), 6);
-    f->addLine(QStringLiteral("clientPattern"), tr("Client number &pattern:"));
-    f->addInteger(QStringLiteral("clientCount"), tr("Client counter offset:"), -1000000, 1000000);
+    f->addText(key::prefsAddressPattern, tr("&Address pattern:"), 6);
+    f->addLine(key::clientPattern, tr("Client number &pattern:"));
+    f->addInteger(key::clientCount, tr("Client counter offset:"), -1000000, 1000000);
     f->setMinimumWidth(520);
     return f;
 }

@@ -136,6 +136,10 @@ TEST_F(PreferencesWindowTest, ToolbarPanesAndSizes)
             QTest::qWait(100);
             window->grab().save(QStringLiteral("%1/pane-%2.png").arg(dir).arg(tag + 1));
         }
+        builder().tabs()->setCurrentIndex(2);
+        QTest::qWait(100);
+        window->grab().save(dir + QStringLiteral("/builder-style-sheet.png"));
+        builder().tabs()->setCurrentIndex(0);
     }
 
     const int top = window->geometry().top();
