@@ -107,6 +107,14 @@ Q_SIGNALS:
     void storeLoaded();
 
 private:
+    // A failed save is told to the user once, with its cause, until a save
+    // succeeds again; the commands that present their own failure (Save,
+    // Quit) are not told twice.
+    void watchSaves();
+    void saveFailed(const Error& error);
+    bool m_saveFailureShown = false;
+    bool m_presentsOwnSaveFailure = false;
+
     bool m_modelLoaded = false;
     bool m_coordinatorBuilt = false;
     bool m_contextBuilt = false;

@@ -6,6 +6,7 @@
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
 #include "output/PreviewController.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
 #include "ui/DocumentListModel.h"
@@ -52,7 +53,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     connect(&state, &AppState::contextChanged, this, &MainWindow::contextChanged);
     connect(&state, &AppState::totalsChanged, this, &MainWindow::updateTotals);
     connect(&m_app.settings(), &Settings::valueChanged, this, [this](const QString& key) {
-        if (key == QLatin1String("prefsCurrency"))
+        if (key == key::prefsCurrency)
             updateTotals();
     });
     connect(&state, &AppState::currentInvoiceChanged, this, &MainWindow::validateCommands);
@@ -340,7 +341,7 @@ void MainWindow::updateUndoActions()
 void MainWindow::updateTotals()
 {
     const AppState& state = m_app.state();
-    const QString currency = m_app.settings().stringValue(QStringLiteral("prefsCurrency"));
+    const QString currency = m_app.settings().stringValue(key::prefsCurrency);
     const QString invoices = state.invoiceCount == 1
                                  ? tr("1 invoice")
                                  : tr("%1 invoices").arg(QLocale().toString(state.invoiceCount));

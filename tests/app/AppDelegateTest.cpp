@@ -1,5 +1,9 @@
 #include "documents/InterchangeFile.h"
+#include "invoicing/DataController.h"
+#include "invoicing/InvoicingControllers.h"
 #include "tests/app/AppHarness.h"
+
+#include <sqlite3.h>
 
 namespace vorn::test {
 namespace {
@@ -242,6 +246,41 @@ TEST_F(AppDelegateTest, SaveActionPresentsAFailure)
     ASSERT_EQ(h.ui.errors().size(), 1);
     EXPECT_TRUE(h.ui.errors()[0].fullText().contains("disk says no"));
     EXPECT_TRUE(h.context()->hasChanges());
+}
+
+TEST_F(AppDelegateTest, AFailedSaveAfterAnEditIsToldOnceWithItsCause)
+{
+    h.launch();
+    DataController& data = app().invoicing().data();
+    ASSERT_NE(data.addInvoice(), nullptr);
+    sqlite3* db = h.context()->store()->handle();
+    auto pragma = [db](const QByteArray& sql) {
+        sqlite3_stmt* stmt = nullptr;
+        sqlite3_prepare_v2(db, sql.constData(), -1, &stmt, nullptr);
+        sqlite3_step(stmt);
+        const qint64 value = sqlite3_column_int64(stmt, 0);
+        sqlite3_finalize(stmt);
+        return value;
+    };
+    // The disk fills up: not one page more.
+    pragma("PRAGMA max_page_count = " + QByteArray::number(pragma("PRAGMA page_count")));
+    h.ui.clear();
+    addDocument(1)->setValue("notes", QString(100000, 'x'));
+    data.addInvoice();
+    data.addInvoice();
+    ASSERT_EQ(h.ui.errors().size(), 1);
+    EXPECT_TRUE(h.ui.errors()[0].message.startsWith("The disk is full"))
+        << qPrintable(h.ui.errors()[0].message);
+    EXPECT_TRUE(h.context()->hasChanges());
+
+    // Space again: the next edit saves everything.
+    pragma("PRAGMA max_page_count = 1000000");
+    data.addInvoice();
+    EXPECT_FALSE(h.context()->hasChanges());
+    EXPECT_EQ(h.ui.errors().size(), 1);
+    h.quit();
+    h.launch();
+    EXPECT_EQ(h.context()->fetch(Entity::Invoice).size(), 5);
 }
 
 // ---------------------------------------------------------------- state
