@@ -7,6 +7,7 @@
 #include "store/Settings.h"
 #include "ui/HelpMenu.h"
 #include "ui/MainWindow.h"
+#include "ui/PreferencesWindow.h"
 #include "ui/QtUserInterface.h"
 #include "ui/Translations.h"
 #include "ui/UiLog.h"
@@ -106,6 +107,7 @@ int main(int argc, char** argv)
                            << (app.state().context() ? app.state().storeURL : QStringLiteral("(none)"));
     window.show();
     app.fadeViewIn();
+    ui.setPreferencesWindowHandler([&app, &window] { PreferencesWindow::showShared(app, &window); });
     settings.setAutoSynchronize(true);
 
     // The update check belongs to the window's start, once it is on screen;
