@@ -106,6 +106,10 @@
         <source>The file is an archive of an unknown kind.</source>
         <translation>Die Datei ist ein Archiv unbekannter Art.</translation>
     </message>
+    <message>
+        <source>The file unfolds into too many values to be a Vorn file.</source>
+        <translation>Die Datei entfaltet sich in zu viele Werte, um eine Vorn-Datei zu sein.</translation>
+    </message>
 </context>
 <context>
     <name>Logo</name>
@@ -126,6 +130,25 @@
     <message>
         <source>The PDF could not be made.</source>
         <translation>Das PDF konnte nicht erstellt werden.</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesWindow</name>
+    <message>
+        <source>7 days</source>
+        <translation>7 Tage</translation>
+    </message>
+    <message>
+        <source>14 days</source>
+        <translation>14 Tage</translation>
+    </message>
+    <message>
+        <source>21 days</source>
+        <translation>21 Tage</translation>
+    </message>
+    <message>
+        <source>28 days</source>
+        <translation>28 Tage</translation>
     </message>
 </context>
 <context>
@@ -271,10 +294,6 @@
         <translation>Die Vorn-Datenbank „%1“ konnte nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>The Vorn database could not be saved because the disk is full.</source>
-        <translation>Die Vorn-Datenbank konnte nicht gesichert werden, weil die Festplatte voll ist.</translation>
-    </message>
-    <message>
         <source>The Vorn database “%1” cannot be written: you don't have permission.</source>
         <translation>Die Vorn-Datenbank „%1“ kann nicht geschrieben werden: Ihnen fehlt die Berechtigung.</translation>
     </message>
@@ -297,6 +316,14 @@
     <message>
         <source>The Vorn database could not be saved.</source>
         <translation>Die Vorn-Datenbank konnte nicht gesichert werden.</translation>
+    </message>
+    <message>
+        <source>The disk is full: the Vorn database could not be saved.</source>
+        <translation>Die Festplatte ist voll: Die Vorn-Datenbank konnte nicht gesichert werden.</translation>
+    </message>
+    <message>
+        <source>Your changes are kept while Vorn runs and saved with the next change once there is space again; what was saved before is not lost. (%1)</source>
+        <translation>Ihre Änderungen bleiben erhalten, solange Vorn läuft, und werden mit der nächsten Änderung gesichert, sobald wieder Platz ist; was zuvor gesichert wurde, geht nicht verloren. (%1)</translation>
     </message>
 </context>
 <context>
@@ -344,6 +371,17 @@
     <message>
         <source>The file “%1” could not be put in place.</source>
         <translation>Die Datei „%1“ konnte nicht an ihren Platz gebracht werden.</translation>
+    </message>
+</context>
+<context>
+    <name>SyntaxDefinition</name>
+    <message>
+        <source>The syntax definition “%1” is missing.</source>
+        <translation>Die Syntaxdefinition „%1“ fehlt.</translation>
+    </message>
+    <message>
+        <source>The syntax definition “%1” is damaged.</source>
+        <translation>Die Syntaxdefinition „%1“ ist beschädigt.</translation>
     </message>
 </context>
 <context>
@@ -846,6 +884,41 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::DesignBuilder</name>
+    <message>
+        <source>Duplicate Design</source>
+        <translation>Design duplizieren</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>%1 Kopie</translation>
+    </message>
+    <message>
+        <source>Edit Design</source>
+        <translation>Design bearbeiten</translation>
+    </message>
+    <message>
+        <source>Choose Logo</source>
+        <translation>Logo wählen</translation>
+    </message>
+    <message>
+        <source>The logo was not changed.</source>
+        <translation>Das Logo wurde nicht geändert.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large for a logo.</source>
+        <translation>„%1“ ist zu groß für ein Logo.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read.</source>
+        <translation>„%1“ konnte nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>“%1” is not an image.</source>
+        <translation>„%1“ ist kein Bild.</translation>
+    </message>
+</context>
+<context>
     <name>vorn::DesignController</name>
     <message>
         <source>The built-in design “%1” is missing.</source>
@@ -1241,6 +1314,13 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::LineNumberRuler</name>
+    <message>
+        <source>Line numbers</source>
+        <translation>Zeilennummern</translation>
+    </message>
+</context>
+<context>
     <name>vorn::MainWindow</name>
     <message>
         <source>&amp;Save</source>
@@ -1438,6 +1518,10 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <source>Total %1    Paid %2    Due %3</source>
         <translation>Gesamt %1    Bezahlt %2    Offen %3</translation>
     </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Einstellungen …</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>
@@ -1541,6 +1625,486 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>The layout engine did not print the document.</source>
         <translation>Die Satz-Engine hat das Dokument nicht gedruckt.</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesBuilderPane</name>
+    <message>
+        <source>Page</source>
+        <translation>Seite</translation>
+    </message>
+    <message>
+        <source>Item Row</source>
+        <translation>Postenzeile</translation>
+    </message>
+    <message>
+        <source>Style Sheet</source>
+        <translation>Stylesheet</translation>
+    </message>
+    <message>
+        <source>%1 template</source>
+        <translation>Vorlage „%1“</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Vorlagen</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesDesignList</name>
+    <message>
+        <source>Designs</source>
+        <translation>Designs</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Neu</translation>
+    </message>
+    <message>
+        <source>New design</source>
+        <translation>Neues Design</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplizieren</translation>
+    </message>
+    <message>
+        <source>Duplicate the selected design</source>
+        <translation>Ausgewähltes Design duplizieren</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Delete the selected design</source>
+        <translation>Ausgewähltes Design löschen</translation>
+    </message>
+    <message>
+        <source>Make Default</source>
+        <translation>Als Standard festlegen</translation>
+    </message>
+    <message>
+        <source>Render every document with the selected design</source>
+        <translation>Jedes Dokument mit dem ausgewählten Design darstellen</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>Import a design file</source>
+        <translation>Eine Designdatei importieren</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportieren …</translation>
+    </message>
+    <message>
+        <source>Export the selected design</source>
+        <translation>Ausgewähltes Design exportieren</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Preview the default design</source>
+        <translation>Vorschau des Standarddesigns</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesDesignModel</name>
+    <message>
+        <source>Default</source>
+        <translation>Standard</translation>
+    </message>
+    <message>
+        <source>Rename Design</source>
+        <translation>Design umbenennen</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>Design</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesLivePreview</name>
+    <message>
+        <source>Design preview</source>
+        <translation>Designvorschau</translation>
+    </message>
+    <message>
+        <source>Preview status</source>
+        <translation>Vorschaustatus</translation>
+    </message>
+    <message>
+        <source>Rendering…</source>
+        <translation>Wird dargestellt …</translation>
+    </message>
+    <message>
+        <source>The preview could not be made: %1</source>
+        <translation>Die Vorschau konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n Seite</numerusform><numerusform>%n Seiten</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesWindow</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vorschau</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Firma</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Rechnung</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Vorlage</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>Design</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Region</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Kunden</translation>
+    </message>
+    <message>
+        <source>Builder</source>
+        <translation>Baukasten</translation>
+    </message>
+    <message>
+        <source>&amp;Panes</source>
+        <translation>&amp;Bereiche</translation>
+    </message>
+    <message>
+        <source>Your company</source>
+        <translation>Ihre Firma</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Name:</translation>
+    </message>
+    <message>
+        <source>&amp;Contact:</source>
+        <translation>&amp;Kontakt:</translation>
+    </message>
+    <message>
+        <source>&amp;Letterbox line:</source>
+        <translation>&amp;Absenderzeile:</translation>
+    </message>
+    <message>
+        <source>&amp;Slogan:</source>
+        <translation>&amp;Slogan:</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
+        <source>Choose logo</source>
+        <translation>Logo wählen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
+    <message>
+        <source>Remove logo</source>
+        <translation>Logo entfernen</translation>
+    </message>
+    <message>
+        <source>Logo:</source>
+        <translation>Logo:</translation>
+    </message>
+    <message>
+        <source>No logo</source>
+        <translation>Kein Logo</translation>
+    </message>
+    <message>
+        <source>Invoices</source>
+        <translation>Rechnungen</translation>
+    </message>
+    <message>
+        <source>Number new invoices</source>
+        <translation>Neue Rechnungen nummerieren</translation>
+    </message>
+    <message>
+        <source>Invoice number pattern:</source>
+        <translation>Muster für Rechnungsnummern:</translation>
+    </message>
+    <message>
+        <source>Invoice counter offset:</source>
+        <translation>Versatz des Rechnungszählers:</translation>
+    </message>
+    <message>
+        <source>Give new invoices a due date</source>
+        <translation>Neuen Rechnungen ein Fälligkeitsdatum geben</translation>
+    </message>
+    <message>
+        <source>Due after:</source>
+        <translation>Fällig nach:</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Angebote</translation>
+    </message>
+    <message>
+        <source>Number new quotes</source>
+        <translation>Neue Angebote nummerieren</translation>
+    </message>
+    <message>
+        <source>Quote number pattern:</source>
+        <translation>Muster für Angebotsnummern:</translation>
+    </message>
+    <message>
+        <source>Quote counter offset:</source>
+        <translation>Versatz des Angebotszählers:</translation>
+    </message>
+    <message>
+        <source>Give new quotes an expiry date</source>
+        <translation>Neuen Angeboten ein Ablaufdatum geben</translation>
+    </message>
+    <message>
+        <source>Valid for:</source>
+        <translation>Gültig für:</translation>
+    </message>
+    <message>
+        <source>Document texts</source>
+        <translation>Dokumenttexte</translation>
+    </message>
+    <message>
+        <source>Quote</source>
+        <translation>Angebot</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>Erinnerung</translation>
+    </message>
+    <message>
+        <source>%1 conditions:</source>
+        <translation>Bedingungen für %1:</translation>
+    </message>
+    <message>
+        <source>%1 footer:</source>
+        <translation>Fußzeile für %1:</translation>
+    </message>
+    <message>
+        <source>Miscellaneous:</source>
+        <translation>Sonstiges:</translation>
+    </message>
+    <message>
+        <source>Taxes</source>
+        <translation>Steuern</translation>
+    </message>
+    <message>
+        <source>Tax %1 applies</source>
+        <translation>Steuer %1 wird erhoben</translation>
+    </message>
+    <message>
+        <source>Tax %1 title:</source>
+        <translation>Bezeichnung von Steuer %1:</translation>
+    </message>
+    <message>
+        <source>Tax %1 rate:</source>
+        <translation>Satz von Steuer %1:</translation>
+    </message>
+    <message>
+        <source>Tax %1 is charged on the taxes before it</source>
+        <translation>Steuer %1 wird auf die vorherigen Steuern erhoben</translation>
+    </message>
+    <message>
+        <source>Words printed on documents</source>
+        <translation>Wörter auf Dokumenten</translation>
+    </message>
+    <message>
+        <source>Invoice:</source>
+        <translation>Rechnung:</translation>
+    </message>
+    <message>
+        <source>Quote:</source>
+        <translation>Angebot:</translation>
+    </message>
+    <message>
+        <source>Reminder:</source>
+        <translation>Erinnerung:</translation>
+    </message>
+    <message>
+        <source>Invoice number:</source>
+        <translation>Rechnungsnummer:</translation>
+    </message>
+    <message>
+        <source>Quote number:</source>
+        <translation>Angebotsnummer:</translation>
+    </message>
+    <message>
+        <source>Client number:</source>
+        <translation>Kundennummer:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Datum:</translation>
+    </message>
+    <message>
+        <source>Due:</source>
+        <translation>Fällig:</translation>
+    </message>
+    <message>
+        <source>Subtotal:</source>
+        <translation>Zwischensumme:</translation>
+    </message>
+    <message>
+        <source>Total:</source>
+        <translation>Gesamt:</translation>
+    </message>
+    <message>
+        <source>Discount:</source>
+        <translation>Rabatt:</translation>
+    </message>
+    <message>
+        <source>Shipping:</source>
+        <translation>Versand:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Beschreibung:</translation>
+    </message>
+    <message>
+        <source>Quantity:</source>
+        <translation>Menge:</translation>
+    </message>
+    <message>
+        <source>Unit price:</source>
+        <translation>Einzelpreis:</translation>
+    </message>
+    <message>
+        <source>Page numbers:</source>
+        <translation>Seitenzahlen:</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Drucken</translation>
+    </message>
+    <message>
+        <source>Print page numbers</source>
+        <translation>Seitenzahlen drucken</translation>
+    </message>
+    <message>
+        <source>Print the document's details beside the page numbers</source>
+        <translation>Die Angaben des Dokuments neben die Seitenzahlen drucken</translation>
+    </message>
+    <message>
+        <source>Print without margins</source>
+        <translation>Ohne Ränder drucken</translation>
+    </message>
+    <message>
+        <source>Item rows show the net amount</source>
+        <translation>Postenzeilen zeigen den Nettobetrag</translation>
+    </message>
+    <message>
+        <source>Item rows show the article number</source>
+        <translation>Postenzeilen zeigen die Artikelnummer</translation>
+    </message>
+    <message>
+        <source>Printing or exporting marks the document as sent</source>
+        <translation>Drucken oder Exportieren markiert das Dokument als versendet</translation>
+    </message>
+    <message>
+        <source>Border font</source>
+        <translation>Randschrift</translation>
+    </message>
+    <message>
+        <source>Choose border font</source>
+        <translation>Randschrift wählen</translation>
+    </message>
+    <message>
+        <source>Border font:</source>
+        <translation>Randschrift:</translation>
+    </message>
+    <message>
+        <source>Border Font</source>
+        <translation>Randschrift</translation>
+    </message>
+    <message>
+        <source>Every document is rendered with the default design. Edit designs in the Builder.</source>
+        <translation>Jedes Dokument wird mit dem Standarddesign dargestellt. Designs bearbeiten Sie im Baukasten.</translation>
+    </message>
+    <message>
+        <source>Paper:</source>
+        <translation>Papier:</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>JIS B4</source>
+        <translation>JIS B4</translation>
+    </message>
+    <message>
+        <source>JIS B5</source>
+        <translation>JIS B5</translation>
+    </message>
+    <message>
+        <source>Money and dates</source>
+        <translation>Geld und Datum</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Währung:</translation>
+    </message>
+    <message>
+        <source>&amp;Date pattern:</source>
+        <translation>&amp;Datumsmuster:</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier:</translation>
+    </message>
+    <message>
+        <source>Client addresses</source>
+        <translation>Kundenadressen</translation>
+    </message>
+    <message>
+        <source>&amp;Address pattern:</source>
+        <translation>&amp;Adressmuster:</translation>
+    </message>
+    <message>
+        <source>Client number &amp;pattern:</source>
+        <translation>Muster für Kunden&amp;nummern:</translation>
+    </message>
+    <message>
+        <source>Client counter offset:</source>
+        <translation>Versatz des Kundenzählers:</translation>
     </message>
 </context>
 <context>
@@ -1695,6 +2259,21 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Shipping</source>
         <translation>Versand</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::TemplateEditor</name>
+    <message>
+        <source>Indent</source>
+        <translation>Einrücken</translation>
+    </message>
+    <message>
+        <source>Unindent</source>
+        <translation>Ausrücken</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Kommentar</translation>
     </message>
 </context>
 <context>

@@ -106,6 +106,10 @@
         <source>The file is an archive of an unknown kind.</source>
         <translation>El archivo es un archivo comprimido de un tipo desconocido.</translation>
     </message>
+    <message>
+        <source>The file unfolds into too many values to be a Vorn file.</source>
+        <translation>El archivo se despliega en demasiados valores para ser un archivo de Vorn.</translation>
+    </message>
 </context>
 <context>
     <name>Logo</name>
@@ -126,6 +130,25 @@
     <message>
         <source>The PDF could not be made.</source>
         <translation>No se pudo crear el PDF.</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesWindow</name>
+    <message>
+        <source>7 days</source>
+        <translation>7 días</translation>
+    </message>
+    <message>
+        <source>14 days</source>
+        <translation>14 días</translation>
+    </message>
+    <message>
+        <source>21 days</source>
+        <translation>21 días</translation>
+    </message>
+    <message>
+        <source>28 days</source>
+        <translation>28 días</translation>
     </message>
 </context>
 <context>
@@ -271,10 +294,6 @@
         <translation>No se pudo abrir la base de datos de Vorn «%1».</translation>
     </message>
     <message>
-        <source>The Vorn database could not be saved because the disk is full.</source>
-        <translation>No se pudo guardar la base de datos de Vorn porque el disco está lleno.</translation>
-    </message>
-    <message>
         <source>The Vorn database “%1” cannot be written: you don't have permission.</source>
         <translation>No se puede escribir la base de datos de Vorn «%1»: no tiene permiso.</translation>
     </message>
@@ -297,6 +316,14 @@
     <message>
         <source>The Vorn database could not be saved.</source>
         <translation>No se pudo guardar la base de datos de Vorn.</translation>
+    </message>
+    <message>
+        <source>The disk is full: the Vorn database could not be saved.</source>
+        <translation>El disco está lleno: no se pudo guardar la base de datos de Vorn.</translation>
+    </message>
+    <message>
+        <source>Your changes are kept while Vorn runs and saved with the next change once there is space again; what was saved before is not lost. (%1)</source>
+        <translation>Sus cambios se conservan mientras Vorn esté abierto y se guardan con el siguiente cambio en cuanto vuelva a haber espacio; lo que se guardó antes no se pierde. (%1)</translation>
     </message>
 </context>
 <context>
@@ -344,6 +371,17 @@
     <message>
         <source>The file “%1” could not be put in place.</source>
         <translation>No se pudo colocar el archivo «%1» en su sitio.</translation>
+    </message>
+</context>
+<context>
+    <name>SyntaxDefinition</name>
+    <message>
+        <source>The syntax definition “%1” is missing.</source>
+        <translation>Falta la definición de sintaxis «%1».</translation>
+    </message>
+    <message>
+        <source>The syntax definition “%1” is damaged.</source>
+        <translation>La definición de sintaxis «%1» está dañada.</translation>
     </message>
 </context>
 <context>
@@ -846,6 +884,41 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::DesignBuilder</name>
+    <message>
+        <source>Duplicate Design</source>
+        <translation>Duplicar diseño</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>Copia de %1</translation>
+    </message>
+    <message>
+        <source>Edit Design</source>
+        <translation>Editar diseño</translation>
+    </message>
+    <message>
+        <source>Choose Logo</source>
+        <translation>Elegir logotipo</translation>
+    </message>
+    <message>
+        <source>The logo was not changed.</source>
+        <translation>El logotipo no se cambió.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large for a logo.</source>
+        <translation>«%1» es demasiado grande para un logotipo.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read.</source>
+        <translation>No se pudo leer «%1».</translation>
+    </message>
+    <message>
+        <source>“%1” is not an image.</source>
+        <translation>«%1» no es una imagen.</translation>
+    </message>
+</context>
+<context>
     <name>vorn::DesignController</name>
     <message>
         <source>The built-in design “%1” is missing.</source>
@@ -1241,6 +1314,13 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::LineNumberRuler</name>
+    <message>
+        <source>Line numbers</source>
+        <translation>Números de línea</translation>
+    </message>
+</context>
+<context>
     <name>vorn::MainWindow</name>
     <message>
         <source>&amp;Save</source>
@@ -1438,6 +1518,10 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <source>Total %1    Paid %2    Due %3</source>
         <translation>Total %1    Pagado %2    Pendiente %3</translation>
     </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Preferencias…</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>
@@ -1541,6 +1625,486 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>The layout engine did not print the document.</source>
         <translation>El motor de maquetación no imprimió el documento.</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesBuilderPane</name>
+    <message>
+        <source>Page</source>
+        <translation>Página</translation>
+    </message>
+    <message>
+        <source>Item Row</source>
+        <translation>Fila de artículo</translation>
+    </message>
+    <message>
+        <source>Style Sheet</source>
+        <translation>Hoja de estilo</translation>
+    </message>
+    <message>
+        <source>%1 template</source>
+        <translation>Plantilla %1</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Plantillas</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesDesignList</name>
+    <message>
+        <source>Designs</source>
+        <translation>Diseños</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nuevo</translation>
+    </message>
+    <message>
+        <source>New design</source>
+        <translation>Nuevo diseño</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Duplicar</translation>
+    </message>
+    <message>
+        <source>Duplicate the selected design</source>
+        <translation>Duplicar el diseño seleccionado</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Eliminar</translation>
+    </message>
+    <message>
+        <source>Delete the selected design</source>
+        <translation>Eliminar el diseño seleccionado</translation>
+    </message>
+    <message>
+        <source>Make Default</source>
+        <translation>Establecer como predeterminado</translation>
+    </message>
+    <message>
+        <source>Render every document with the selected design</source>
+        <translation>Mostrar todos los documentos con el diseño seleccionado</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>Import a design file</source>
+        <translation>Importar un archivo de diseño</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exportar…</translation>
+    </message>
+    <message>
+        <source>Export the selected design</source>
+        <translation>Exportar el diseño seleccionado</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Preview the default design</source>
+        <translation>Vista previa del diseño predeterminado</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesDesignModel</name>
+    <message>
+        <source>Default</source>
+        <translation>Predeterminado</translation>
+    </message>
+    <message>
+        <source>Rename Design</source>
+        <translation>Cambiar nombre del diseño</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>Diseño</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesLivePreview</name>
+    <message>
+        <source>Design preview</source>
+        <translation>Vista previa del diseño</translation>
+    </message>
+    <message>
+        <source>Preview status</source>
+        <translation>Estado de la vista previa</translation>
+    </message>
+    <message>
+        <source>Rendering…</source>
+        <translation>Representando…</translation>
+    </message>
+    <message>
+        <source>The preview could not be made: %1</source>
+        <translation>No se pudo crear la vista previa: %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n página</numerusform><numerusform>%n páginas</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesWindow</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Preferencias</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Vista previa</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Empresa</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Factura</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Plantilla</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>Diseño</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Región</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Clientes</translation>
+    </message>
+    <message>
+        <source>Builder</source>
+        <translation>Taller</translation>
+    </message>
+    <message>
+        <source>&amp;Panes</source>
+        <translation>&amp;Paneles</translation>
+    </message>
+    <message>
+        <source>Your company</source>
+        <translation>Su empresa</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nombre:</translation>
+    </message>
+    <message>
+        <source>&amp;Contact:</source>
+        <translation>&amp;Contacto:</translation>
+    </message>
+    <message>
+        <source>&amp;Letterbox line:</source>
+        <translation>Línea de &amp;remitente:</translation>
+    </message>
+    <message>
+        <source>&amp;Slogan:</source>
+        <translation>&amp;Eslogan:</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logotipo</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
+        <source>Choose logo</source>
+        <translation>Elegir logotipo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
+    </message>
+    <message>
+        <source>Remove logo</source>
+        <translation>Quitar logotipo</translation>
+    </message>
+    <message>
+        <source>Logo:</source>
+        <translation>Logotipo:</translation>
+    </message>
+    <message>
+        <source>No logo</source>
+        <translation>Sin logotipo</translation>
+    </message>
+    <message>
+        <source>Invoices</source>
+        <translation>Facturas</translation>
+    </message>
+    <message>
+        <source>Number new invoices</source>
+        <translation>Numerar las facturas nuevas</translation>
+    </message>
+    <message>
+        <source>Invoice number pattern:</source>
+        <translation>Patrón de número de factura:</translation>
+    </message>
+    <message>
+        <source>Invoice counter offset:</source>
+        <translation>Desfase del contador de facturas:</translation>
+    </message>
+    <message>
+        <source>Give new invoices a due date</source>
+        <translation>Dar fecha de vencimiento a las facturas nuevas</translation>
+    </message>
+    <message>
+        <source>Due after:</source>
+        <translation>Vence a los:</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Presupuestos</translation>
+    </message>
+    <message>
+        <source>Number new quotes</source>
+        <translation>Numerar los presupuestos nuevos</translation>
+    </message>
+    <message>
+        <source>Quote number pattern:</source>
+        <translation>Patrón de número de presupuesto:</translation>
+    </message>
+    <message>
+        <source>Quote counter offset:</source>
+        <translation>Desfase del contador de presupuestos:</translation>
+    </message>
+    <message>
+        <source>Give new quotes an expiry date</source>
+        <translation>Dar fecha de caducidad a los presupuestos nuevos</translation>
+    </message>
+    <message>
+        <source>Valid for:</source>
+        <translation>Válido durante:</translation>
+    </message>
+    <message>
+        <source>Document texts</source>
+        <translation>Textos de los documentos</translation>
+    </message>
+    <message>
+        <source>Quote</source>
+        <translation>Presupuesto</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>Recordatorio</translation>
+    </message>
+    <message>
+        <source>%1 conditions:</source>
+        <translation>Condiciones (%1):</translation>
+    </message>
+    <message>
+        <source>%1 footer:</source>
+        <translation>Pie de página (%1):</translation>
+    </message>
+    <message>
+        <source>Miscellaneous:</source>
+        <translation>Varios:</translation>
+    </message>
+    <message>
+        <source>Taxes</source>
+        <translation>Impuestos</translation>
+    </message>
+    <message>
+        <source>Tax %1 applies</source>
+        <translation>Se aplica el impuesto %1</translation>
+    </message>
+    <message>
+        <source>Tax %1 title:</source>
+        <translation>Nombre del impuesto %1:</translation>
+    </message>
+    <message>
+        <source>Tax %1 rate:</source>
+        <translation>Tipo del impuesto %1:</translation>
+    </message>
+    <message>
+        <source>Tax %1 is charged on the taxes before it</source>
+        <translation>El impuesto %1 se aplica sobre los impuestos anteriores</translation>
+    </message>
+    <message>
+        <source>Words printed on documents</source>
+        <translation>Palabras impresas en los documentos</translation>
+    </message>
+    <message>
+        <source>Invoice:</source>
+        <translation>Factura:</translation>
+    </message>
+    <message>
+        <source>Quote:</source>
+        <translation>Presupuesto:</translation>
+    </message>
+    <message>
+        <source>Reminder:</source>
+        <translation>Recordatorio:</translation>
+    </message>
+    <message>
+        <source>Invoice number:</source>
+        <translation>Número de factura:</translation>
+    </message>
+    <message>
+        <source>Quote number:</source>
+        <translation>Número de presupuesto:</translation>
+    </message>
+    <message>
+        <source>Client number:</source>
+        <translation>Número de cliente:</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Fecha:</translation>
+    </message>
+    <message>
+        <source>Due:</source>
+        <translation>Vencimiento:</translation>
+    </message>
+    <message>
+        <source>Subtotal:</source>
+        <translation>Subtotal:</translation>
+    </message>
+    <message>
+        <source>Total:</source>
+        <translation>Total:</translation>
+    </message>
+    <message>
+        <source>Discount:</source>
+        <translation>Descuento:</translation>
+    </message>
+    <message>
+        <source>Shipping:</source>
+        <translation>Envío:</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Descripción:</translation>
+    </message>
+    <message>
+        <source>Quantity:</source>
+        <translation>Cantidad:</translation>
+    </message>
+    <message>
+        <source>Unit price:</source>
+        <translation>Precio unitario:</translation>
+    </message>
+    <message>
+        <source>Page numbers:</source>
+        <translation>Números de página:</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impresión</translation>
+    </message>
+    <message>
+        <source>Print page numbers</source>
+        <translation>Imprimir números de página</translation>
+    </message>
+    <message>
+        <source>Print the document's details beside the page numbers</source>
+        <translation>Imprimir los datos del documento junto a los números de página</translation>
+    </message>
+    <message>
+        <source>Print without margins</source>
+        <translation>Imprimir sin márgenes</translation>
+    </message>
+    <message>
+        <source>Item rows show the net amount</source>
+        <translation>Las filas de artículo muestran el importe neto</translation>
+    </message>
+    <message>
+        <source>Item rows show the article number</source>
+        <translation>Las filas de artículo muestran la referencia</translation>
+    </message>
+    <message>
+        <source>Printing or exporting marks the document as sent</source>
+        <translation>Imprimir o exportar marca el documento como enviado</translation>
+    </message>
+    <message>
+        <source>Border font</source>
+        <translation>Fuente del margen</translation>
+    </message>
+    <message>
+        <source>Choose border font</source>
+        <translation>Elegir la fuente del margen</translation>
+    </message>
+    <message>
+        <source>Border font:</source>
+        <translation>Fuente del margen:</translation>
+    </message>
+    <message>
+        <source>Border Font</source>
+        <translation>Fuente del margen</translation>
+    </message>
+    <message>
+        <source>Every document is rendered with the default design. Edit designs in the Builder.</source>
+        <translation>Todos los documentos se muestran con el diseño predeterminado. Los diseños se editan en el taller.</translation>
+    </message>
+    <message>
+        <source>Paper:</source>
+        <translation>Papel:</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>JIS B4</source>
+        <translation>JIS B4</translation>
+    </message>
+    <message>
+        <source>JIS B5</source>
+        <translation>JIS B5</translation>
+    </message>
+    <message>
+        <source>Money and dates</source>
+        <translation>Importes y fechas</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Moneda:</translation>
+    </message>
+    <message>
+        <source>&amp;Date pattern:</source>
+        <translation>Patrón de &amp;fecha:</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papel:</translation>
+    </message>
+    <message>
+        <source>Client addresses</source>
+        <translation>Direcciones de clientes</translation>
+    </message>
+    <message>
+        <source>&amp;Address pattern:</source>
+        <translation>Patrón de &amp;dirección:</translation>
+    </message>
+    <message>
+        <source>Client number &amp;pattern:</source>
+        <translation>&amp;Patrón de número de cliente:</translation>
+    </message>
+    <message>
+        <source>Client counter offset:</source>
+        <translation>Desfase del contador de clientes:</translation>
     </message>
 </context>
 <context>
@@ -1695,6 +2259,21 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Shipping</source>
         <translation>Envío</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::TemplateEditor</name>
+    <message>
+        <source>Indent</source>
+        <translation>Sangrar</translation>
+    </message>
+    <message>
+        <source>Unindent</source>
+        <translation>Quitar sangría</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Comentar</translation>
     </message>
 </context>
 <context>

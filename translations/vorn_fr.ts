@@ -106,6 +106,10 @@
         <source>The file is an archive of an unknown kind.</source>
         <translation>Le fichier est une archive d’un type inconnu.</translation>
     </message>
+    <message>
+        <source>The file unfolds into too many values to be a Vorn file.</source>
+        <translation>Le fichier se déploie en trop de valeurs pour être un fichier Vorn.</translation>
+    </message>
 </context>
 <context>
     <name>Logo</name>
@@ -126,6 +130,25 @@
     <message>
         <source>The PDF could not be made.</source>
         <translation>Le PDF n’a pas pu être créé.</translation>
+    </message>
+</context>
+<context>
+    <name>PreferencesWindow</name>
+    <message>
+        <source>7 days</source>
+        <translation>7 jours</translation>
+    </message>
+    <message>
+        <source>14 days</source>
+        <translation>14 jours</translation>
+    </message>
+    <message>
+        <source>21 days</source>
+        <translation>21 jours</translation>
+    </message>
+    <message>
+        <source>28 days</source>
+        <translation>28 jours</translation>
     </message>
 </context>
 <context>
@@ -271,10 +294,6 @@
         <translation>La base de données Vorn « %1 » n’a pas pu être ouverte.</translation>
     </message>
     <message>
-        <source>The Vorn database could not be saved because the disk is full.</source>
-        <translation>La base de données Vorn n’a pas pu être enregistrée, car le disque est plein.</translation>
-    </message>
-    <message>
         <source>The Vorn database “%1” cannot be written: you don't have permission.</source>
         <translation>La base de données Vorn « %1 » ne peut pas être écrite : vous n’en avez pas l’autorisation.</translation>
     </message>
@@ -297,6 +316,14 @@
     <message>
         <source>The Vorn database could not be saved.</source>
         <translation>La base de données Vorn n’a pas pu être enregistrée.</translation>
+    </message>
+    <message>
+        <source>The disk is full: the Vorn database could not be saved.</source>
+        <translation>Le disque est plein : la base de données Vorn n’a pas pu être enregistrée.</translation>
+    </message>
+    <message>
+        <source>Your changes are kept while Vorn runs and saved with the next change once there is space again; what was saved before is not lost. (%1)</source>
+        <translation>Vos modifications sont conservées tant que Vorn est ouvert et enregistrées avec la prochaine modification dès qu’il y aura de nouveau de la place ; ce qui a été enregistré auparavant n’est pas perdu. (%1)</translation>
     </message>
 </context>
 <context>
@@ -344,6 +371,17 @@
     <message>
         <source>The file “%1” could not be put in place.</source>
         <translation>Le fichier « %1 » n’a pas pu être mis en place.</translation>
+    </message>
+</context>
+<context>
+    <name>SyntaxDefinition</name>
+    <message>
+        <source>The syntax definition “%1” is missing.</source>
+        <translation>La définition de syntaxe « %1 » est introuvable.</translation>
+    </message>
+    <message>
+        <source>The syntax definition “%1” is damaged.</source>
+        <translation>La définition de syntaxe « %1 » est endommagée.</translation>
     </message>
 </context>
 <context>
@@ -846,6 +884,41 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::DesignBuilder</name>
+    <message>
+        <source>Duplicate Design</source>
+        <translation>Dupliquer le modèle</translation>
+    </message>
+    <message>
+        <source>%1 copy</source>
+        <translation>Copie de %1</translation>
+    </message>
+    <message>
+        <source>Edit Design</source>
+        <translation>Modifier le modèle</translation>
+    </message>
+    <message>
+        <source>Choose Logo</source>
+        <translation>Choisir un logo</translation>
+    </message>
+    <message>
+        <source>The logo was not changed.</source>
+        <translation>Le logo n’a pas été modifié.</translation>
+    </message>
+    <message>
+        <source>“%1” is too large for a logo.</source>
+        <translation>« %1 » est trop volumineux pour un logo.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be read.</source>
+        <translation>« %1 » n’a pas pu être lu.</translation>
+    </message>
+    <message>
+        <source>“%1” is not an image.</source>
+        <translation>« %1 » n’est pas une image.</translation>
+    </message>
+</context>
+<context>
     <name>vorn::DesignController</name>
     <message>
         <source>The built-in design “%1” is missing.</source>
@@ -1241,6 +1314,13 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::LineNumberRuler</name>
+    <message>
+        <source>Line numbers</source>
+        <translation>Numéros de ligne</translation>
+    </message>
+</context>
+<context>
     <name>vorn::MainWindow</name>
     <message>
         <source>&amp;Save</source>
@@ -1438,6 +1518,10 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <source>Total %1    Paid %2    Due %3</source>
         <translation>Total %1    Payé %2    Dû %3</translation>
     </message>
+    <message>
+        <source>Preferences…</source>
+        <translation>Préférences…</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>
@@ -1541,6 +1625,486 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>The layout engine did not print the document.</source>
         <translation>Le moteur de mise en page n’a pas imprimé le document.</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesBuilderPane</name>
+    <message>
+        <source>Page</source>
+        <translation>Page</translation>
+    </message>
+    <message>
+        <source>Item Row</source>
+        <translation>Ligne d’article</translation>
+    </message>
+    <message>
+        <source>Style Sheet</source>
+        <translation>Feuille de style</translation>
+    </message>
+    <message>
+        <source>%1 template</source>
+        <translation>Gabarit %1</translation>
+    </message>
+    <message>
+        <source>Templates</source>
+        <translation>Gabarits</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesDesignList</name>
+    <message>
+        <source>Designs</source>
+        <translation>Modèles</translation>
+    </message>
+    <message>
+        <source>New</source>
+        <translation>Nouveau</translation>
+    </message>
+    <message>
+        <source>New design</source>
+        <translation>Nouveau modèle</translation>
+    </message>
+    <message>
+        <source>Duplicate</source>
+        <translation>Dupliquer</translation>
+    </message>
+    <message>
+        <source>Duplicate the selected design</source>
+        <translation>Dupliquer le modèle sélectionné</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Supprimer</translation>
+    </message>
+    <message>
+        <source>Delete the selected design</source>
+        <translation>Supprimer le modèle sélectionné</translation>
+    </message>
+    <message>
+        <source>Make Default</source>
+        <translation>Définir par défaut</translation>
+    </message>
+    <message>
+        <source>Render every document with the selected design</source>
+        <translation>Afficher chaque document avec le modèle sélectionné</translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>Import a design file</source>
+        <translation>Importer un fichier de modèle</translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation>Exporter…</translation>
+    </message>
+    <message>
+        <source>Export the selected design</source>
+        <translation>Exporter le modèle sélectionné</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Preview the default design</source>
+        <translation>Aperçu du modèle par défaut</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesDesignModel</name>
+    <message>
+        <source>Default</source>
+        <translation>Par défaut</translation>
+    </message>
+    <message>
+        <source>Rename Design</source>
+        <translation>Renommer le modèle</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>Modèle</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesLivePreview</name>
+    <message>
+        <source>Design preview</source>
+        <translation>Aperçu du modèle</translation>
+    </message>
+    <message>
+        <source>Preview status</source>
+        <translation>État de l’aperçu</translation>
+    </message>
+    <message>
+        <source>Rendering…</source>
+        <translation>Rendu en cours…</translation>
+    </message>
+    <message>
+        <source>The preview could not be made: %1</source>
+        <translation>L’aperçu n’a pas pu être créé : %1</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n page(s)</source>
+        <translation>
+            <numerusform>%n page</numerusform><numerusform>%n pages</numerusform></translation>
+    </message>
+</context>
+<context>
+    <name>vorn::PreferencesWindow</name>
+    <message>
+        <source>Preferences</source>
+        <translation>Préférences</translation>
+    </message>
+    <message>
+        <source>Preview</source>
+        <translation>Aperçu</translation>
+    </message>
+    <message>
+        <source>Company</source>
+        <translation>Entreprise</translation>
+    </message>
+    <message>
+        <source>Invoice</source>
+        <translation>Facture</translation>
+    </message>
+    <message>
+        <source>Template</source>
+        <translation>Gabarit</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>Modèle</translation>
+    </message>
+    <message>
+        <source>Region</source>
+        <translation>Région</translation>
+    </message>
+    <message>
+        <source>Clients</source>
+        <translation>Clients</translation>
+    </message>
+    <message>
+        <source>Builder</source>
+        <translation>Atelier</translation>
+    </message>
+    <message>
+        <source>&amp;Panes</source>
+        <translation>&amp;Volets</translation>
+    </message>
+    <message>
+        <source>Your company</source>
+        <translation>Votre entreprise</translation>
+    </message>
+    <message>
+        <source>&amp;Name:</source>
+        <translation>&amp;Nom :</translation>
+    </message>
+    <message>
+        <source>&amp;Contact:</source>
+        <translation>&amp;Coordonnées :</translation>
+    </message>
+    <message>
+        <source>&amp;Letterbox line:</source>
+        <translation>Ligne d’&amp;expéditeur :</translation>
+    </message>
+    <message>
+        <source>&amp;Slogan:</source>
+        <translation>&amp;Slogan :</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>Logo</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
+        <source>Choose logo</source>
+        <translation>Choisir un logo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
+    </message>
+    <message>
+        <source>Remove logo</source>
+        <translation>Retirer le logo</translation>
+    </message>
+    <message>
+        <source>Logo:</source>
+        <translation>Logo :</translation>
+    </message>
+    <message>
+        <source>No logo</source>
+        <translation>Pas de logo</translation>
+    </message>
+    <message>
+        <source>Invoices</source>
+        <translation>Factures</translation>
+    </message>
+    <message>
+        <source>Number new invoices</source>
+        <translation>Numéroter les nouvelles factures</translation>
+    </message>
+    <message>
+        <source>Invoice number pattern:</source>
+        <translation>Modèle de numéro de facture :</translation>
+    </message>
+    <message>
+        <source>Invoice counter offset:</source>
+        <translation>Décalage du compteur de factures :</translation>
+    </message>
+    <message>
+        <source>Give new invoices a due date</source>
+        <translation>Donner une échéance aux nouvelles factures</translation>
+    </message>
+    <message>
+        <source>Due after:</source>
+        <translation>Échéance après :</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Devis</translation>
+    </message>
+    <message>
+        <source>Number new quotes</source>
+        <translation>Numéroter les nouveaux devis</translation>
+    </message>
+    <message>
+        <source>Quote number pattern:</source>
+        <translation>Modèle de numéro de devis :</translation>
+    </message>
+    <message>
+        <source>Quote counter offset:</source>
+        <translation>Décalage du compteur de devis :</translation>
+    </message>
+    <message>
+        <source>Give new quotes an expiry date</source>
+        <translation>Donner une date d’expiration aux nouveaux devis</translation>
+    </message>
+    <message>
+        <source>Valid for:</source>
+        <translation>Valable :</translation>
+    </message>
+    <message>
+        <source>Document texts</source>
+        <translation>Textes des documents</translation>
+    </message>
+    <message>
+        <source>Quote</source>
+        <translation>Devis</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>Rappel</translation>
+    </message>
+    <message>
+        <source>%1 conditions:</source>
+        <translation>Conditions (%1) :</translation>
+    </message>
+    <message>
+        <source>%1 footer:</source>
+        <translation>Pied de page (%1) :</translation>
+    </message>
+    <message>
+        <source>Miscellaneous:</source>
+        <translation>Divers :</translation>
+    </message>
+    <message>
+        <source>Taxes</source>
+        <translation>Taxes</translation>
+    </message>
+    <message>
+        <source>Tax %1 applies</source>
+        <translation>La taxe %1 s’applique</translation>
+    </message>
+    <message>
+        <source>Tax %1 title:</source>
+        <translation>Nom de la taxe %1 :</translation>
+    </message>
+    <message>
+        <source>Tax %1 rate:</source>
+        <translation>Taux de la taxe %1 :</translation>
+    </message>
+    <message>
+        <source>Tax %1 is charged on the taxes before it</source>
+        <translation>La taxe %1 s’applique aux taxes qui la précèdent</translation>
+    </message>
+    <message>
+        <source>Words printed on documents</source>
+        <translation>Mots imprimés sur les documents</translation>
+    </message>
+    <message>
+        <source>Invoice:</source>
+        <translation>Facture :</translation>
+    </message>
+    <message>
+        <source>Quote:</source>
+        <translation>Devis :</translation>
+    </message>
+    <message>
+        <source>Reminder:</source>
+        <translation>Rappel :</translation>
+    </message>
+    <message>
+        <source>Invoice number:</source>
+        <translation>Numéro de facture :</translation>
+    </message>
+    <message>
+        <source>Quote number:</source>
+        <translation>Numéro de devis :</translation>
+    </message>
+    <message>
+        <source>Client number:</source>
+        <translation>Numéro de client :</translation>
+    </message>
+    <message>
+        <source>Date:</source>
+        <translation>Date :</translation>
+    </message>
+    <message>
+        <source>Due:</source>
+        <translation>Échéance :</translation>
+    </message>
+    <message>
+        <source>Subtotal:</source>
+        <translation>Sous-total :</translation>
+    </message>
+    <message>
+        <source>Total:</source>
+        <translation>Total :</translation>
+    </message>
+    <message>
+        <source>Discount:</source>
+        <translation>Remise :</translation>
+    </message>
+    <message>
+        <source>Shipping:</source>
+        <translation>Livraison :</translation>
+    </message>
+    <message>
+        <source>Description:</source>
+        <translation>Description :</translation>
+    </message>
+    <message>
+        <source>Quantity:</source>
+        <translation>Quantité :</translation>
+    </message>
+    <message>
+        <source>Unit price:</source>
+        <translation>Prix unitaire :</translation>
+    </message>
+    <message>
+        <source>Page numbers:</source>
+        <translation>Numéros de page :</translation>
+    </message>
+    <message>
+        <source>Printing</source>
+        <translation>Impression</translation>
+    </message>
+    <message>
+        <source>Print page numbers</source>
+        <translation>Imprimer les numéros de page</translation>
+    </message>
+    <message>
+        <source>Print the document's details beside the page numbers</source>
+        <translation>Imprimer les détails du document à côté des numéros de page</translation>
+    </message>
+    <message>
+        <source>Print without margins</source>
+        <translation>Imprimer sans marges</translation>
+    </message>
+    <message>
+        <source>Item rows show the net amount</source>
+        <translation>Les lignes d’article affichent le montant net</translation>
+    </message>
+    <message>
+        <source>Item rows show the article number</source>
+        <translation>Les lignes d’article affichent la référence</translation>
+    </message>
+    <message>
+        <source>Printing or exporting marks the document as sent</source>
+        <translation>Imprimer ou exporter marque le document comme envoyé</translation>
+    </message>
+    <message>
+        <source>Border font</source>
+        <translation>Police des marges</translation>
+    </message>
+    <message>
+        <source>Choose border font</source>
+        <translation>Choisir la police des marges</translation>
+    </message>
+    <message>
+        <source>Border font:</source>
+        <translation>Police des marges :</translation>
+    </message>
+    <message>
+        <source>Border Font</source>
+        <translation>Police des marges</translation>
+    </message>
+    <message>
+        <source>Every document is rendered with the default design. Edit designs in the Builder.</source>
+        <translation>Chaque document est affiché avec le modèle par défaut. Modifiez les modèles dans l’atelier.</translation>
+    </message>
+    <message>
+        <source>Paper:</source>
+        <translation>Papier :</translation>
+    </message>
+    <message>
+        <source>US Letter</source>
+        <translation>US Letter</translation>
+    </message>
+    <message>
+        <source>US Legal</source>
+        <translation>US Legal</translation>
+    </message>
+    <message>
+        <source>A4</source>
+        <translation>A4</translation>
+    </message>
+    <message>
+        <source>JIS B4</source>
+        <translation>JIS B4</translation>
+    </message>
+    <message>
+        <source>JIS B5</source>
+        <translation>JIS B5</translation>
+    </message>
+    <message>
+        <source>Money and dates</source>
+        <translation>Montants et dates</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Devise :</translation>
+    </message>
+    <message>
+        <source>&amp;Date pattern:</source>
+        <translation>Modèle de &amp;date :</translation>
+    </message>
+    <message>
+        <source>&amp;Paper:</source>
+        <translation>&amp;Papier :</translation>
+    </message>
+    <message>
+        <source>Client addresses</source>
+        <translation>Adresses des clients</translation>
+    </message>
+    <message>
+        <source>&amp;Address pattern:</source>
+        <translation>Modèle d’&amp;adresse :</translation>
+    </message>
+    <message>
+        <source>Client number &amp;pattern:</source>
+        <translation>Modèle de &amp;numéro de client :</translation>
+    </message>
+    <message>
+        <source>Client counter offset:</source>
+        <translation>Décalage du compteur de clients :</translation>
     </message>
 </context>
 <context>
@@ -1695,6 +2259,21 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Shipping</source>
         <translation>Livraison</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::TemplateEditor</name>
+    <message>
+        <source>Indent</source>
+        <translation>Indenter</translation>
+    </message>
+    <message>
+        <source>Unindent</source>
+        <translation>Désindenter</translation>
+    </message>
+    <message>
+        <source>Comment</source>
+        <translation>Commenter</translation>
     </message>
 </context>
 <context>

@@ -1,6 +1,6 @@
+#include "documents/InterchangeFile.h"
 #include "invoicing/DataController.h"
 #include "invoicing/InvoicingControllers.h"
-#include "documents/InterchangeFile.h"
 #include "tests/app/AppHarness.h"
 
 #include <sqlite3.h>

@@ -11,6 +11,7 @@
 #include "ui/AssistantSheet.h"
 #include "ui/HelpMenu.h"
 #include "ui/MainWindow.h"
+#include "ui/PreferencesWindow.h"
 #include "ui/QVBox.h"
 #include "ui/QVLinkButton.h"
 #include "ui/QVRedNormalButton.h"
@@ -145,6 +146,15 @@ TEST_F(DesktopWindowsTest, FirstRunInGermanThroughTheAssistant)
     EXPECT_EQ(window->fileMenu()->title(), "&Datei");
     EXPECT_EQ(HelpMenu::of(window.get())->menu()->title(), "&Hilfe");
     screenshot(*window, "main-window-de");
+    if (!qEnvironmentVariableIsEmpty("VORN_SCREENSHOT_DIR")) {
+        // The preferences panes in German, for checking that the texts fit.
+        PreferencesWindow preferences(*app);
+        preferences.show();
+        for (const PreferencesWindow::Pane& pane : preferences.panes()) {
+            preferences.changePanes(pane.tag);
+            screenshot(preferences, QStringLiteral("preferences-%1-de").arg(pane.tag));
+        }
+    }
 }
 
 // "Check for Updates…" against a server on the loopback: first the answer
