@@ -29,8 +29,8 @@ struct CommandContext
     AppDelegate& app;
     CliUserInterface& ui;
     QStringList args;
-    QString out;      // printed only when the run succeeds
-    QString message;  // the error line for a non-zero exit
+    QString out;     // printed only when the run succeeds
+    QString message; // the error line for a non-zero exit
     // Answers a usage error.
     int usage(const QString& text)
     {

@@ -307,7 +307,8 @@ plist_t fromVariant(const QVariant& v)
         // 2001 epoch); a date beyond that is pinned to the nearest end
         // rather than wrapped into another century.
         if (sec > std::numeric_limits<int32_t>::max() || sec < std::numeric_limits<int32_t>::min()) {
-            sec = std::clamp<qint64>(sec, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max());
+            sec = std::clamp<qint64>(sec, std::numeric_limits<int32_t>::min(),
+                                     std::numeric_limits<int32_t>::max());
             rest = 0;
         }
         return plist_new_date(int32_t(sec), int32_t(rest * 1000));
