@@ -90,7 +90,7 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
         return fail(lockError->message + QLatin1Char(' ') + lockError->reason, ExitCode::Failure);
     ui.clear();
 
-    CommandContext context{app, ui, args, {}, {}};
+    CommandContext context{app, ui, args, {}, {}, {}};
     int code = command.run(context);
     if (code == ExitCode::Done && ui.refusal()) {
         code = ExitCode::Refused;
@@ -110,6 +110,9 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
         app.applicationShouldTerminate();
     }
 
+    // A question the command answered comes first, also before a refusal.
+    out << context.asked;
+    out.flush();
     if (code != ExitCode::Done)
         return fail(context.message, code);
     out << context.out;

@@ -31,6 +31,7 @@ struct CommandContext
     QStringList args;
     QString out;     // printed only when the run succeeds
     QString message; // the error line for a non-zero exit
+    QString asked;   // a question the command answered: printed first, whatever the outcome
     // Answers a usage error.
     int usage(const QString& text)
     {

@@ -162,8 +162,9 @@ void ObjectContext::changeList(ManagedObject* object, int ri, const QList<Manage
                 member->m_owner->removeObject(r->inverse, member);
         }
     }
+    const QSet<ManagedObject*> members(list.cbegin(), list.cend());
     for (ManagedObject* member : old) {
-        if (!list.contains(member)) {
+        if (!members.contains(member)) {
             member->m_owner = nullptr;
             m_positionCheck.insert(member);
         }
@@ -318,23 +319,34 @@ void ObjectContext::registerEditor(QObject* owner, std::function<bool()> commit)
 
 bool ObjectContext::hasChanges() const
 {
-    return std::any_of(m_changed.begin(), m_changed.end(),
-                       [](ManagedObject* o) { return o->hasChanges(); }) ||
-           std::any_of(m_positionCheck.begin(), m_positionCheck.end(), [this](ManagedObject* o) {
-               int position = -1;
-               const qint64 owner = ownerIdOf(o, &position);
-               return !o->isDeleted() && (owner != o->m_savedOwnerId || position != o->m_savedPosition);
-           });
+    if (std::any_of(m_changed.begin(), m_changed.end(), [](ManagedObject* o) { return o->hasChanges(); }))
+        return true;
+    PositionCache positions;
+    for (ManagedObject* o : m_positionCheck) {
+        int position = -1;
+        const qint64 owner = ownerIdOf(o, &position, positions);
+        if (!o->isDeleted() && (owner != o->m_savedOwnerId || position != o->m_savedPosition))
+            return true;
+    }
+    return false;
 }
 
-qint64 ObjectContext::ownerIdOf(const ManagedObject* object, int* position) const
+qint64 ObjectContext::ownerIdOf(const ManagedObject* object, int* position, PositionCache& positions) const
 {
     *position = -1;
     if (!object->m_owner)
         return 0;
-    const RelationshipDescription* r = object->entity().ownerRelationship();
-    const int ri = object->m_owner->entity().relationshipIndex(r->inverse);
-    *position = int(object->m_owner->m_lists[size_t(ri)].indexOf(object));
+    auto found = positions.constFind(object);
+    if (found == positions.cend()) {
+        const RelationshipDescription* r = object->entity().ownerRelationship();
+        const int ri = object->m_owner->entity().relationshipIndex(r->inverse);
+        const QList<ManagedObject*>& list = object->m_owner->m_lists[size_t(ri)];
+        for (qsizetype i = 0; i < list.size(); ++i)
+            positions.insert(list[i], int(i));
+        found = positions.constFind(object);
+    }
+    if (found != positions.cend())
+        *position = *found;
     return object->m_owner->m_id;
 }
 
@@ -347,6 +359,7 @@ Status ObjectContext::save()
             return &objectsOf(a->entity()) < &objectsOf(b->entity());
         return a->m_id < b->m_id;
     });
+    PositionCache positions;
     if (m_store) {
         if (Status s = m_store->begin(); !s)
             return s;
@@ -356,7 +369,7 @@ Status ObjectContext::save()
             Status s;
             if (o->m_state == ManagedObject::State::Inserted) {
                 int position = -1;
-                const qint64 owner = ownerIdOf(o, &position);
+                const qint64 owner = ownerIdOf(o, &position, positions);
                 s = m_store->insert(entity, o->m_id, o->m_values, owner, position);
             } else if (o->m_state == ManagedObject::State::Deleted) {
                 if (o->m_wasSavedBeforeDelete)
@@ -376,7 +389,7 @@ Status ObjectContext::save()
                 if (o->m_state != ManagedObject::State::Saved)
                     continue;
                 int position = -1;
-                const qint64 owner = ownerIdOf(o, &position);
+                const qint64 owner = ownerIdOf(o, &position, positions);
                 if (owner == o->m_savedOwnerId && position == o->m_savedPosition)
                     continue;
                 if (Status s = m_store->updateOwner(o->entity(), o->m_id, owner, position); !s) {
@@ -390,6 +403,7 @@ Status ObjectContext::save()
         if (!status) {
             m_store->rollback();
             qCWarning(lcStore) << "save failed:" << status.error().fullText();
+            Q_EMIT saveFailed(status.error());
             return status;
         }
     }
@@ -413,7 +427,7 @@ Status ObjectContext::save()
         if (o->m_state == ManagedObject::State::Gone)
             continue;
         int position = -1;
-        o->m_savedOwnerId = ownerIdOf(o, &position);
+        o->m_savedOwnerId = ownerIdOf(o, &position, positions);
         o->m_savedPosition = position;
     }
     m_changed.clear();

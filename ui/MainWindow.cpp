@@ -12,6 +12,8 @@
 #include "ui/DocumentListModel.h"
 #include "ui/DocumentListView.h"
 #include "ui/ExportSheet.h"
+#include "ui/HelpMenu.h"
+#include "ui/PreferencesWindow.h"
 #include "ui/PreviewWindow.h"
 #include "ui/ReminderSheet.h"
 #include "ui/SelectionSync.h"
@@ -61,6 +63,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     createOutputWindows();
     contextChanged();
     restoreFrame();
+    HelpMenu::install(*this, m_app);
 }
 
 MainWindow::~MainWindow() = default;
@@ -127,6 +130,11 @@ void MainWindow::createMenus()
     m_editMenu->setObjectName(QStringLiteral("editMenu"));
     m_editMenu->addAction(m_undoAction);
     m_editMenu->addAction(m_redoAction);
+    m_editMenu->addSeparator();
+    m_editMenu
+        ->addAction(tr("Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                    [this] { PreferencesWindow::showShared(m_app, this); })
+        ->setMenuRole(QAction::PreferencesRole);
     // Edits made in this pass of the event loop may not have announced
     // themselves yet.
     connect(m_editMenu, &QMenu::aboutToShow, this, &MainWindow::updateUndoActions);
