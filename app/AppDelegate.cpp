@@ -77,11 +77,7 @@ PreviewController& AppDelegate::preview()
 ExportController& AppDelegate::exporter()
 {
     if (!m_exporter) {
-        m_exporter = std::make_unique<ExportController>(m_state, preview());
-        // Marking an invoice as sent changes its status: the invoice and the
-        // totals under the list are computed anew.
-        m_exporter->setRecalculation(
-            [this](ManagedObject* document) { m_invoicing->calculator().calculateInvoice(document); });
+        m_exporter = std::make_unique<ExportController>(m_state, preview(), m_invoicing->calculator());
     }
     return *m_exporter;
 }

@@ -25,9 +25,9 @@ Status InstanceLock::tryLock()
     const QLockFile::LockError error = m_lock->error();
     m_lock.reset();
     if (error == QLockFile::LockFailedError)
-        return Error::make(ErrorCode::StoreLocked,
-                           tr("The Vorn database is in use by another Vorn program."),
-                           tr("Quit the other Vorn program (the application or a running vorn-cli) and try again."));
+        return Error::make(
+            ErrorCode::StoreLocked, tr("The Vorn database is in use by another Vorn program."),
+            tr("Quit the other Vorn program (the application or a running vorn-cli) and try again."));
     return Error::make(ErrorCode::FileWriteNoPermission, tr("The Vorn database could not be locked for use."),
                        tr("The lock file “%1” cannot be created.").arg(m_path));
 }

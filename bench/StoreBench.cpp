@@ -6,8 +6,8 @@
 //   (c) the resident memory after loading.
 // The generated store is kept between runs (see cacheDirectory()).
 
-#include "bench/BenchSupport.h"
 #include "app/AppDelegate.h"
+#include "bench/BenchSupport.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"

@@ -70,9 +70,8 @@ int exportCommand(CommandContext& c)
     state.itemsController().setContent(document->items());
     PdfRenderer renderer;
     PreviewController preview(state, renderer);
-    ExportController exporter(state, preview);
     Calculator calculator(state);
-    exporter.setRecalculation([&calculator](ManagedObject* d) { calculator.calculateInvoice(d); });
+    ExportController exporter(state, preview, calculator);
 
     // The format is chosen by the file name for this run only; the user's
     // setting stays as it was.

@@ -254,9 +254,7 @@ int pdfCommand(CommandContext& c)
 
     // As the export sheet does: render into the preview PDF, then save it
     // where asked (never over an existing file) and mark the invoice sent.
-    ExportController exporter(state, preview);
-    Calculator& calculator = c.app.invoicing().calculator();
-    exporter.setRecalculation([&calculator](ManagedObject* d) { calculator.calculateInvoice(d); });
+    ExportController exporter(state, preview, c.app.invoicing().calculator());
     bool rendered = false;
     QObject::connect(&exporter, &ExportController::exportPdfReady, [&rendered] { rendered = true; });
     QEventLoop loop;

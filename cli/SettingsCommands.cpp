@@ -38,7 +38,8 @@ int defaultsWrite(CommandContext& c)
         args.remove(typeAt, 2);
     }
     if (args.size() != 2)
-        return c.usage(CommandRegistry::tr("usage: defaults write KEY VALUE [--type bool|int|float|string|date|data]"));
+        return c.usage(
+            CommandRegistry::tr("usage: defaults write KEY VALUE [--type bool|int|float|string|date|data]"));
     const QString& key = args[0];
     const QString& text = args[1];
     QVariant value;
@@ -78,8 +79,8 @@ int defaultsWrite(CommandContext& c)
 
 int defaultsLoad(CommandContext& c)
 {
-    static const QStringList languages{QStringLiteral("english"), QStringLiteral("german"), QStringLiteral("french"),
-                                       QStringLiteral("spanish")};
+    static const QStringList languages{QStringLiteral("english"), QStringLiteral("german"),
+                                       QStringLiteral("french"), QStringLiteral("spanish")};
     const int language = c.args.size() == 1 ? int(languages.indexOf(c.args.first().toLower())) : -1;
     if (language < 0)
         return c.usage(CommandRegistry::tr("usage: defaults load english|german|french|spanish"));
@@ -98,8 +99,8 @@ void registerSettingsCommands(CommandRegistry& registry)
     registry.add({QStringLiteral("defaults write"),
                   QStringLiteral("KEY VALUE [--type bool|int|float|string|date|data]"), false, false,
                   defaultsWrite});
-    registry.add({QStringLiteral("defaults load"), QStringLiteral("english|german|french|spanish"), true, true,
-                  defaultsLoad});
+    registry.add({QStringLiteral("defaults load"), QStringLiteral("english|german|french|spanish"), true,
+                  true, defaultsLoad});
 }
 
 } // namespace vorn

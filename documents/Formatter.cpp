@@ -98,7 +98,8 @@ QString Formatter::getPatternDateStringFromDate(const QDateTime& date) const
             toIcu(pattern), icu::Locale(locale.toLatin1().constData()), status);
         m_cache->dateFailed = U_FAILURE(status);
         if (m_cache->dateFailed) {
-            qCWarning(lcDocuments) << "The date pattern" << pattern << "is not usable:" << u_errorName(status);
+            qCWarning(lcDocuments) << "The date pattern" << pattern
+                                   << "is not usable:" << u_errorName(status);
         } else {
             if (!zone.isEmpty())
                 format->adoptTimeZone(icu::TimeZone::createTimeZone(toIcu(zone)));

@@ -1,6 +1,7 @@
 #include "output/ExportController.h"
 
 #include "documents/InterchangeFile.h"
+#include "invoicing/Calculator.h"
 #include "output/OutputLog.h"
 #include "output/PdfImageView.h"
 #include "output/PdfRenderer.h"
@@ -30,8 +31,10 @@ constexpr int fileExistsCode = 516;
 
 } // namespace
 
-ExportController::ExportController(AppState& state, PreviewController& preview, QObject* parent)
-    : QObject(parent), m_state(state), m_preview(preview), m_mailer(&ExportController::sendWithXdgEmail)
+ExportController::ExportController(AppState& state, PreviewController& preview, Calculator& calculator,
+                                   QObject* parent)
+    : QObject(parent), m_state(state), m_preview(preview), m_mailer(&ExportController::sendWithXdgEmail),
+      m_calculator(calculator)
 {
 }
 
@@ -272,8 +275,7 @@ void ExportController::markAsSent()
         document->setStatus(DocumentStatus::Sent);
     }
     m_state.invoicesController().rearrangeObjects();
-    if (m_recalculate)
-        m_recalculate(document);
+    m_calculator.calculateInvoice(document);
 }
 
 } // namespace vorn

@@ -9,6 +9,7 @@
 namespace vorn {
 
 class AppState;
+class Calculator;
 class ManagedObject;
 class PreviewController;
 
@@ -38,13 +39,13 @@ public:
     };
     // Hands a message to the user's mail program; false when that failed.
     using Mailer = std::function<bool(const MailMessage&)>;
-    // Recomputes a document and the list totals after it changed.
-    using Recalculation = std::function<void(ManagedObject*)>;
 
-    ExportController(AppState& state, PreviewController& preview, QObject* parent = nullptr);
+    // Marking an invoice as sent changes its status: the calculator computes
+    // the invoice and the list totals anew.
+    ExportController(AppState& state, PreviewController& preview, Calculator& calculator,
+                     QObject* parent = nullptr);
 
     void setMailer(Mailer mailer) { m_mailer = std::move(mailer); }
-    void setRecalculation(Recalculation recalculation) { m_recalculate = std::move(recalculation); }
     // The default mailer: xdg-email with subject, body, attachment and recipient.
     static bool sendWithXdgEmail(const MailMessage& message);
 
@@ -91,7 +92,7 @@ private:
     AppState& m_state;
     PreviewController& m_preview;
     Mailer m_mailer;
-    Recalculation m_recalculate;
+    Calculator& m_calculator;
     bool m_okEnabled = false;
     quint64 m_generation = 0;
 };

@@ -1,8 +1,8 @@
 #include "output/InterchangeController.h"
 
 #include "documents/InterchangeFile.h"
-#include "output/OutputLog.h"
 #include "documents/Serialization.h"
+#include "output/OutputLog.h"
 #include "store/ObjectContext.h"
 #include "store/UserInterface.h"
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "documents/Formatter.h"
-#include "output/PdfRenderer.h"
 #include "documents/TemplateValues.h"
+#include "output/PdfRenderer.h"
 
 #include <QObject>
 

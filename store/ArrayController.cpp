@@ -53,8 +53,10 @@ void ArrayController::setEntity(ObjectContext* context, const QString& entityNam
     m_context = context;
     m_entityName = entityName;
     if (m_context) {
-        m_connections << connect(m_context, &ObjectContext::objectsInserted, this, &ArrayController::contextInserted);
-        m_connections << connect(m_context, &ObjectContext::objectsDeleted, this, &ArrayController::contextDeleted);
+        m_connections << connect(m_context, &ObjectContext::objectsInserted, this,
+                                 &ArrayController::contextInserted);
+        m_connections << connect(m_context, &ObjectContext::objectsDeleted, this,
+                                 &ArrayController::contextDeleted);
         m_connections << connect(m_context, &ObjectContext::objectChanged, this,
                                  &ArrayController::contextObjectChanged);
         m_connections << connect(m_context, &ObjectContext::contextDidReset, this, &ArrayController::fetch);
@@ -316,9 +318,8 @@ void ArrayController::contextObjectChanged(ManagedObject* object, const QString&
 {
     if (!m_autoRearrange || object->entityName() != m_entityName || !m_content.contains(object))
         return;
-    const bool sortKey = std::any_of(m_sort.cbegin(), m_sort.cend(), [&key](const SortDescriptor& d) {
-        return d.key == key;
-    });
+    const bool sortKey =
+        std::any_of(m_sort.cbegin(), m_sort.cend(), [&key](const SortDescriptor& d) { return d.key == key; });
     if (sortKey || m_filter)
         arrange(selectedObjects());
 }

@@ -15,15 +15,17 @@ Status AtomicFile::write(const QString& path, const QByteArray& data)
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return Error::make(ErrorCode::FileWriteNoPermission,
-                           tr("The file “%1” could not be written.").arg(info.fileName()), file.errorString());
+                           tr("The file “%1” could not be written.").arg(info.fileName()),
+                           file.errorString());
     if (file.write(data) != data.size()) {
         const QString reason = file.errorString();
         file.cancelWriting();
-        return Error::make(ErrorCode::FileWriteUnknown, tr("The file “%1” could not be written.").arg(info.fileName()),
-                           reason);
+        return Error::make(ErrorCode::FileWriteUnknown,
+                           tr("The file “%1” could not be written.").arg(info.fileName()), reason);
     }
     if (!file.commit())
-        return Error::make(ErrorCode::FileWriteUnknown, tr("The file “%1” could not be written.").arg(info.fileName()),
+        return Error::make(ErrorCode::FileWriteUnknown,
+                           tr("The file “%1” could not be written.").arg(info.fileName()),
                            file.errorString());
     return {};
 }

@@ -17,7 +17,10 @@ struct FileLocations
 
     QString storeFile() const { return filesDirectory + QStringLiteral("/Vorn.vndb"); }
     QString lockFile() const { return filesDirectory + QStringLiteral("/Vorn.vndb.lock"); }
-    QString settingsFile() const { return settingsDirectory + QStringLiteral("/com.tandrelo.Orvandel.plist"); }
+    QString settingsFile() const
+    {
+        return settingsDirectory + QStringLiteral("/com.tandrelo.Orvandel.plist");
+    }
     QString scratchPdf() const { return cachesDirectory + QStringLiteral("/Invoice.pdf"); }
     QString logoCache() const { return cachesDirectory + QStringLiteral("/Logo.png"); }
 };

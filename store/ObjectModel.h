@@ -10,7 +10,15 @@
 
 namespace vorn {
 
-enum class AttributeType { String, Integer, Float, Bool, Date, Data };
+enum class AttributeType
+{
+    String,
+    Integer,
+    Float,
+    Bool,
+    Date,
+    Data
+};
 
 struct AttributeDescription
 {
@@ -18,7 +26,11 @@ struct AttributeDescription
     AttributeType type = AttributeType::String;
 };
 
-enum class DeleteRule { Nullify, Cascade };
+enum class DeleteRule
+{
+    Nullify,
+    Cascade
+};
 
 struct RelationshipDescription
 {

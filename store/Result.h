@@ -27,10 +27,10 @@ struct Error
 
 // Error codes used throughout the core (the platform's own where they exist).
 namespace ErrorCode {
-inline constexpr int FileNotFound = 260;      // the platform's "no such file"
-inline constexpr int FileReadUnknown = 256;   // the platform's generic read error
-inline constexpr int FileReadCorrupt = 259;   // the platform's "file is damaged or in an unknown format"
-inline constexpr int FileWriteUnknown = 512;  // the platform's generic write error
+inline constexpr int FileNotFound = 260;     // the platform's "no such file"
+inline constexpr int FileReadUnknown = 256;  // the platform's generic read error
+inline constexpr int FileReadCorrupt = 259;  // the platform's "file is damaged or in an unknown format"
+inline constexpr int FileWriteUnknown = 512; // the platform's generic write error
 inline constexpr int FileWriteNoPermission = 513;
 inline constexpr int NotAFolder = 101;
 inline constexpr int StoreInitFailed = 9999;
@@ -44,8 +44,7 @@ inline constexpr int SettingsUnreadable = 134100;
 inline constexpr int SettingsWriteFailed = 134101;
 } // namespace ErrorCode
 
-template <typename T>
-class [[nodiscard]] Result
+template <typename T> class [[nodiscard]] Result
 {
 public:
     Result(T value) : m_value(std::move(value)) {}

@@ -57,8 +57,8 @@ public:
     Status begin();
     Status commit();
     void rollback();
-    Status insert(const EntityDescription& entity, qint64 id, const std::vector<QVariant>& values, qint64 ownerId,
-                  int position);
+    Status insert(const EntityDescription& entity, qint64 id, const std::vector<QVariant>& values,
+                  qint64 ownerId, int position);
     Status update(const EntityDescription& entity, qint64 id, const std::vector<int>& changed,
                   const std::vector<QVariant>& values);
     Status updateOwner(const EntityDescription& entity, qint64 id, qint64 ownerId, int position);

@@ -21,7 +21,12 @@ namespace vorn {
 class UserInterface
 {
 public:
-    enum class AlertStyle { Informational, Warning, Critical };
+    enum class AlertStyle
+    {
+        Informational,
+        Warning,
+        Critical
+    };
 
     struct Alert
     {
@@ -35,9 +40,9 @@ public:
     struct FilePanel
     {
         QString title;
-        QStringList fileTypes;    // extensions without dot; empty = any
-        QString proposedName;     // save panels
-        QString directory;        // where to start; empty = the last place
+        QStringList fileTypes; // extensions without dot; empty = any
+        QString proposedName;  // save panels
+        QString directory;     // where to start; empty = the last place
         bool canCreateFolders = true;
     };
 

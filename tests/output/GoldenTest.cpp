@@ -1,3 +1,4 @@
+#include "invoicing/Calculator.h"
 #include "output/DesignPreview.h"
 #include "tests/output/OutputFixture.h"
 
@@ -46,64 +47,49 @@ TEST_P(Golden, HtmlMatchesThePinnedFile)
         QFile file(path);
         ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
         file.write(html.toUtf8());
-        GTEST_SKIP() << "wrote " << path.toStdString();
+        FAIL() << "wrote " << path.toStdString()
+               << "; review the difference, then run without VORN_UPDATE_GOLDEN";
     }
     EXPECT_EQ(html, readFile(path)) << "differs from " << path.toStdString();
 }
 
 void items(OutputFixture& f, ManagedObject* d)
 {
-    f.addItem(d, values({"title",         "Brand workshop for %LOCINVOICE% and %TOTAL%",
-                         "subtitle",      "half a day",
-                         "unit",          "day",
-                         "sku",           "WS-1",
-                         "unitCount",     1.0f,
-                         "baseAmount",    1200.0f,
-                         "subAmount",     1200.0f,
-                         "amount",        1284.0f,
-                         "isTax1Applied", true,
-                         "tax1Title",     "VAT",
-                         "tax1Percent",   0.07f,
-                         "tax1Amount",    84.0f}));
+    f.addItem(d, values({"title", "Brand workshop for %LOCINVOICE% and %TOTAL%", "subtitle", "half a day",
+                         "unit", "day", "sku", "WS-1", "unitCount", 1.0f, "baseAmount", 1200.0f,
+                         "isTax1Applied", true, "tax1Title", "VAT", "tax1Percent", 0.07f}));
     f.addItem(d, values({"title",         "Printing <b>bold</b>",
                          "unit",          "pc",
                          "sku",           "PR-500",
                          "unitCount",     2.5f,
                          "baseAmount",    0.125f,
-                         "subAmount",     0.3125f,
-                         "amount",        0.35f,
                          "isTax1Applied", true,
                          "tax1Title",     "VAT",
                          "tax1Percent",   7.1f,
-                         "tax1Amount",    0.0221875f,
                          "isTax2Applied", false,
                          "tax2Title",     "City Tax",
                          "tax2Percent",   0.05f,
                          "isTax3Applied", true,
                          "tax3Title",     "Levy",
-                         "tax3Percent",   0.01f,
-                         "tax3Amount",    0.003125f}));
-    f.addItem(d, values({"title", "Licence", "unitCount", 1234.0f, "baseAmount", 1.5f, "subAmount", 1851.0f,
-                         "amount", 1851.0f}));
+                         "tax3Percent",   0.01f}));
+    f.addItem(d, values({"title", "Licence", "unitCount", 1234.0f, "baseAmount", 1.5f}));
+}
+
+// The amounts as the Calculator makes them from the items and the settings.
+QString computed(OutputFixture& f)
+{
+    Calculator(f.state).calculateInvoice(f.state.currentInvoice());
+    return f.preview.invoiceHTMLString();
 }
 
 ManagedObject* invoice(OutputFixture& f, int kind)
 {
-    ManagedObject* d =
-        f.addDocument(kind, values({"address",        "Erin Holloway\nQuarry & Sons\n7 Quarry Lane",
-                                    "clientNumber",   "C-42",
-                                    "dispatchNumber", "DHL 123",
-                                    "subject",        "Re: %TOTAL% for %COMPANY%, %LOCDUE%",
-                                    "conditions",     "Within 14 days.\nLate: %LOCOVERDUE%",
-                                    "footer",         "Bank: Harbour Bank\nIBAN: XX00 1234",
-                                    "subAmount",      3051.3125f,
-                                    "amount",         3349.75f,
-                                    "tax1Amount",     84.02219f,
-                                    "tax1Percent",    0.07f,
-                                    "tax2Amount",     0.0f,
-                                    "tax2Percent",    0.05f,
-                                    "tax3Amount",     0.003125f,
-                                    "tax3Percent",    0.01f}));
+    ManagedObject* d = f.addDocument(
+        kind,
+        values({"address", "Erin Holloway\nQuarry & Sons\n7 Quarry Lane", "clientNumber", "C-42",
+                "dispatchNumber", "DHL 123", "subject", "Re: %TOTAL% for %COMPANY%, %LOCDUE%", "conditions",
+                "Within 14 days.\nLate: %LOCOVERDUE%", "footer", "Bank: Harbour Bank\nIBAN: XX00 1234",
+                "tax1Percent", 0.07f, "tax2Percent", 0.05f, "tax3Percent", 0.01f}));
     items(f, d);
     f.select(d);
     return d;
@@ -117,7 +103,7 @@ const GoldenCase cases[] = {
                 "hasDiscountSubtitle", true, "discountTitle", "Loyalty", "discountSubtitle", "ten years",
                 "isShippingEnabled", true, "shippingTitle", "Courier", "hasShippingSubtitle", true,
                 "shippingSubtitle", "overnight", "shippingAmount", 6.99f);
-         return f.preview.invoiceHTMLString();
+         return computed(f);
      }},
     {"quote.html",
      [](OutputFixture& f) {
@@ -126,7 +112,7 @@ const GoldenCase cases[] = {
          assign(*invoice(f, 0), "title", "Quote", "isDiscountEnabled", true, "discountKind", 0,
                 "discountAmount", 50.0f, "discountTitle", "not shown without a subtitle", "isShippingEnabled",
                 false, "shippingTitle", "Courier");
-         return f.preview.invoiceHTMLString();
+         return computed(f);
      }},
     {"reminder.html",
      [](OutputFixture& f) {
@@ -135,7 +121,7 @@ const GoldenCase cases[] = {
                                      QStringLiteral("Still open.\nPlease pay within 7 days."),
                                      QStringLiteral("Thank you.")});
          f.state.isReminderAction = true;
-         return f.preview.invoiceHTMLString();
+         return computed(f);
      }},
     {"design-preview.html",
      [](OutputFixture& f) {

@@ -6,9 +6,9 @@
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
-#include "tests/output/TestValues.h"
 #include "tests/support/ScriptedUserInterface.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestValues.h"
 
 #include <QColor>
 #include <QVariantMap>

@@ -1,6 +1,6 @@
 #include "documents/Template.h"
-#include "output/PdfRenderer.h"
 #include "documents/StringFormat.h"
+#include "output/PdfRenderer.h"
 #include "tests/output/OutputFixture.h"
 
 #include <QFile>

@@ -17,11 +17,12 @@ class ScriptedUserInterface : public UserInterface
 public:
     struct Call
     {
-        QString kind;   // "alert", "open", "save", "error", "beep", "center", "toolbar", "focus", "preferences", "url", "application", "print"
-        QString title;  // alert title, panel title, error message, toolbar item ...
-        QString text;   // alert text, error reason
+        QString kind;  // "alert", "open", "save", "error", "beep", "center", "toolbar", "focus",
+                       // "preferences", "url", "application", "print"
+        QString title; // alert title, panel title, error message, toolbar item ...
+        QString text;  // alert text, error reason
         QStringList buttons;
-        int code = 0;   // error code
+        int code = 0; // error code
     };
 
     int runAlert(const Alert& alert) override;
@@ -30,8 +31,14 @@ public:
     bool presentError(const Error& error) override;
     void beep() override { m_calls.append({QStringLiteral("beep"), {}, {}, {}, 0}); }
     void centerMainWindow() override { m_calls.append({QStringLiteral("center"), {}, {}, {}, 0}); }
-    void selectToolbarItem(const QString& id) override { m_calls.append({QStringLiteral("toolbar"), id, {}, {}, 0}); }
-    void focus(const QString& target) override { m_calls.append({QStringLiteral("focus"), target, {}, {}, 0}); }
+    void selectToolbarItem(const QString& id) override
+    {
+        m_calls.append({QStringLiteral("toolbar"), id, {}, {}, 0});
+    }
+    void focus(const QString& target) override
+    {
+        m_calls.append({QStringLiteral("focus"), target, {}, {}, 0});
+    }
     void showPreferencesWindow() override { m_calls.append({QStringLiteral("preferences"), {}, {}, {}, 0}); }
     bool openUrl(const QUrl& url) override;
     bool openApplication(const QString& identifier) override;

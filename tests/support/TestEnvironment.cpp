@@ -5,14 +5,15 @@
 namespace vorn::test {
 
 namespace {
-const char* const variables[] = {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME", "XDG_CONFIG_DIRS",
-                                 "XDG_DATA_DIRS"};
+const char* const variables[] = {"HOME",           "XDG_DATA_HOME",   "XDG_CONFIG_HOME",
+                                 "XDG_CACHE_HOME", "XDG_CONFIG_DIRS", "XDG_DATA_DIRS"};
 }
 
 TestEnvironment::TestEnvironment()
 {
     for (const char* name : variables)
-        m_saved[name] = qEnvironmentVariableIsSet(name) ? std::optional<QByteArray>(qgetenv(name)) : std::nullopt;
+        m_saved[name] =
+            qEnvironmentVariableIsSet(name) ? std::optional<QByteArray>(qgetenv(name)) : std::nullopt;
     const QString home = m_dir.path();
     qputenv("HOME", QFile::encodeName(home));
     qputenv("XDG_DATA_HOME", QFile::encodeName(home + QStringLiteral("/.local/share")));

@@ -2,7 +2,7 @@
 
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
-#include "tests/output/TestValues.h"
+#include "tests/support/TestValues.h"
 
 #include <gtest/gtest.h>
 
