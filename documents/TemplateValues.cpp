@@ -2,6 +2,7 @@
 
 #include "documents/Formatter.h"
 #include "documents/DocumentsLog.h"
+#include "documents/PaymentQrCode.h"
 #include "store/AtomicFile.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
@@ -103,6 +104,7 @@ PageValues pageValuesForDocument(const ManagedObject& d, const Settings& setting
         v.taxes[size_t(i)].amount = d.floatValue(QStringLiteral("tax%1Amount").arg(n));
         v.taxes[size_t(i)].percent = d.floatValue(QStringLiteral("tax%1Percent").arg(n));
     }
+    v.paymentQr = PaymentQrCode::forDocument(d, settings);
     return v;
 }
 
@@ -187,6 +189,7 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
     add("%LOCTAXES%", v.locTaxes);
     add("%WINDOW%", v.letterbox);
     add("%LOGO%", v.logo);
+    add("%PAYMENTQR%", v.paymentQr);
     return steps;
 }
 
