@@ -31,14 +31,14 @@ const QSet<QString>& isoCodes()
 const QHash<QString, QString>& names()
 {
     static const QHash<QString, QString> map = {
-        {QStringLiteral("€"), QStringLiteral("EUR")},      {QStringLiteral("EURO"), QStringLiteral("EUR")},
-        {QStringLiteral("EUROS"), QStringLiteral("EUR")},  {QStringLiteral("£"), QStringLiteral("GBP")},
-        {QStringLiteral("US$"), QStringLiteral("USD")},    {QStringLiteral("FR."), QStringLiteral("CHF")},
-        {QStringLiteral("SFR."), QStringLiteral("CHF")},   {QStringLiteral("ZŁ"), QStringLiteral("PLN")},
-        {QStringLiteral("KČ"), QStringLiteral("CZK")},     {QStringLiteral("FT"), QStringLiteral("HUF")},
-        {QStringLiteral("₺"), QStringLiteral("TRY")},      {QStringLiteral("₹"), QStringLiteral("INR")},
-        {QStringLiteral("₩"), QStringLiteral("KRW")},      {QStringLiteral("₴"), QStringLiteral("UAH")},
-        {QStringLiteral("CA$"), QStringLiteral("CAD")},    {QStringLiteral("A$"), QStringLiteral("AUD")},
+        {QStringLiteral("€"), QStringLiteral("EUR")},     {QStringLiteral("EURO"), QStringLiteral("EUR")},
+        {QStringLiteral("EUROS"), QStringLiteral("EUR")}, {QStringLiteral("£"), QStringLiteral("GBP")},
+        {QStringLiteral("US$"), QStringLiteral("USD")},   {QStringLiteral("FR."), QStringLiteral("CHF")},
+        {QStringLiteral("SFR."), QStringLiteral("CHF")},  {QStringLiteral("ZŁ"), QStringLiteral("PLN")},
+        {QStringLiteral("KČ"), QStringLiteral("CZK")},    {QStringLiteral("FT"), QStringLiteral("HUF")},
+        {QStringLiteral("₺"), QStringLiteral("TRY")},     {QStringLiteral("₹"), QStringLiteral("INR")},
+        {QStringLiteral("₩"), QStringLiteral("KRW")},     {QStringLiteral("₴"), QStringLiteral("UAH")},
+        {QStringLiteral("CA$"), QStringLiteral("CAD")},   {QStringLiteral("A$"), QStringLiteral("AUD")},
     };
     return map;
 }

@@ -48,7 +48,8 @@ std::optional<Payment> paymentForDocument(const ManagedObject& document, const S
     payment.cents = qint64(total);
     const QString bic = Iban::normalized(settings.stringValue(settingsKey::bic));
     payment.bic = Iban::isValidBic(bic) ? bic : QString();
-    for (const QString& key : {settingsKey::accountHolder, settingsKey::legalName, QStringLiteral("prefsName")}) {
+    for (const QString& key :
+         {settingsKey::accountHolder, settingsKey::legalName, QStringLiteral("prefsName")}) {
         payment.name = limited(settings.stringValue(key), nameLimit);
         if (!payment.name.isEmpty())
             break;
@@ -63,15 +64,21 @@ std::optional<Payment> paymentForDocument(const ManagedObject& document, const S
 
 QByteArray payload(const Payment& p)
 {
-    const QString amount = QStringLiteral("EUR%1.%2")
-                               .arg(p.cents / 100)
-                               .arg(p.cents % 100, 2, 10, QLatin1Char('0'));
+    const QString amount =
+        QStringLiteral("EUR%1.%2").arg(p.cents / 100).arg(p.cents % 100, 2, 10, QLatin1Char('0'));
     // Service tag, version, UTF-8, SEPA credit transfer, BIC, name, IBAN,
     // amount, purpose, structured reference, remittance text.
-    const QStringList lines{QStringLiteral("BCD"), QStringLiteral("002"), QStringLiteral("1"),
-                            QStringLiteral("SCT"), p.bic,                 p.name,
-                            p.iban,                amount,                QString(),
-                            QString(),             p.remittance};
+    const QStringList lines{QStringLiteral("BCD"),
+                            QStringLiteral("002"),
+                            QStringLiteral("1"),
+                            QStringLiteral("SCT"),
+                            p.bic,
+                            p.name,
+                            p.iban,
+                            amount,
+                            QString(),
+                            QString(),
+                            p.remittance};
     return lines.join(QLatin1Char('\n')).toUtf8();
 }
 
@@ -97,12 +104,13 @@ QString svg(const QByteArray& payload)
             x += run - 1;
         }
     }
-    return QStringLiteral("<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"payment-qr\" "
-                          "viewBox=\"0 0 %1 %1\" width=\"%2mm\" height=\"%2mm\" "
-                          "style=\"float:right;margin:0 0 2mm 4mm\" shape-rendering=\"crispEdges\" role=\"img\" "
-                          "aria-label=\"Payment QR code\">"
-                          "<rect width=\"%1\" height=\"%1\" fill=\"#fff\"/>"
-                          "<path d=\"%3\" fill=\"#000\"/></svg>")
+    return QStringLiteral(
+               "<svg xmlns=\"http://www.w3.org/2000/svg\" class=\"payment-qr\" "
+               "viewBox=\"0 0 %1 %1\" width=\"%2mm\" height=\"%2mm\" "
+               "style=\"float:right;margin:0 0 2mm 4mm\" shape-rendering=\"crispEdges\" role=\"img\" "
+               "aria-label=\"Payment QR code\">"
+               "<rect width=\"%1\" height=\"%1\" fill=\"#fff\"/>"
+               "<path d=\"%3\" fill=\"#000\"/></svg>")
         .arg(size)
         .arg(size * 0.5, 0, 'f', 1) // half a millimetre per module scans well from paper
         .arg(path);

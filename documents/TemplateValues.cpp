@@ -1,7 +1,7 @@
 #include "documents/TemplateValues.h"
 
-#include "documents/Formatter.h"
 #include "documents/DocumentsLog.h"
+#include "documents/Formatter.h"
 #include "documents/PaymentQrCode.h"
 #include "store/AtomicFile.h"
 #include "store/ManagedObject.h"

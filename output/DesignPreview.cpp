@@ -3,11 +3,11 @@
 #include "documents/PaymentQrCode.h"
 
 #include "documents/KeyedArchive.h"
-#include "output/OutputLog.h"
-#include "output/PreviewController.h"
 #include "documents/Template.h"
 #include "documents/TemplateValues.h"
 #include "output/Logo.h"
+#include "output/OutputLog.h"
+#include "output/PreviewController.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
 #include "store/ManagedObject.h"
