@@ -4,6 +4,7 @@
 #include "app/AssiController.h"
 #include "app/BackupController.h"
 #include "designs/DesignController.h"
+#include "einvoice/EInvoiceController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
@@ -44,6 +45,7 @@ AppDelegate::~AppDelegate()
 {
     m_interchange.reset();
     m_exporter.reset();
+    m_einvoice.reset();
     m_preview.reset();
     m_renderer.reset();
     m_state.setContext(nullptr);
@@ -76,8 +78,18 @@ ExportController& AppDelegate::exporter()
         // totals under the list are computed anew.
         m_exporter->setRecalculation(
             [this](ManagedObject* document) { m_invoicing->calculator().calculateInvoice(document); });
+        m_exporter->setPdfFinisher([this](const ManagedObject& document, const QByteArray& pdf) {
+            return einvoice().pdfForExport(document, pdf);
+        });
     }
     return *m_exporter;
+}
+
+EInvoiceController& AppDelegate::einvoice()
+{
+    if (!m_einvoice)
+        m_einvoice = std::make_unique<EInvoiceController>(m_state, preview());
+    return *m_einvoice;
 }
 
 InterchangeController& AppDelegate::interchange()

@@ -2,6 +2,7 @@
 #include "cli/CliUserInterface.h"
 #include "cli/CommandRegistry.h"
 #include "cli/DocumentCommandSupport.h"
+#include "einvoice/EInvoiceController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/DesignPreview.h"
 #include "output/ExportController.h"
@@ -256,6 +257,11 @@ int pdfCommand(CommandContext& c)
     ExportController exporter(state, preview);
     Calculator& calculator = c.app.invoicing().calculator();
     exporter.setRecalculation([&calculator](ManagedObject* d) { calculator.calculateInvoice(d); });
+    // With Factur-X as the chosen PDF, invoices are written as Factur-X files.
+    EInvoiceController einvoice(state, preview);
+    exporter.setPdfFinisher([&einvoice](const ManagedObject& document, const QByteArray& pdf) {
+        return einvoice.pdfForExport(document, pdf);
+    });
     bool rendered = false;
     QObject::connect(&exporter, &ExportController::exportPdfReady, [&rendered] { rendered = true; });
     QEventLoop loop;

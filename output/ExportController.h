@@ -40,11 +40,15 @@ public:
     using Mailer = std::function<bool(const MailMessage&)>;
     // Recomputes a document and the list totals after it changed.
     using Recalculation = std::function<void(ManagedObject*)>;
+    // What the PDF export writes for a document, given its rendered PDF
+    // (a Factur-X file when the user chose so); an error writes nothing.
+    using PdfFinisher = std::function<Result<QByteArray>(const ManagedObject&, const QByteArray&)>;
 
     ExportController(AppState& state, PreviewController& preview, QObject* parent = nullptr);
 
     void setMailer(Mailer mailer) { m_mailer = std::move(mailer); }
     void setRecalculation(Recalculation recalculation) { m_recalculate = std::move(recalculation); }
+    void setPdfFinisher(PdfFinisher finisher) { m_finishPdf = std::move(finisher); }
     // The default mailer: xdg-email with subject, body, attachment and recipient.
     static bool sendWithXdgEmail(const MailMessage& message);
 
@@ -92,6 +96,7 @@ private:
     PreviewController& m_preview;
     Mailer m_mailer;
     Recalculation m_recalculate;
+    PdfFinisher m_finishPdf;
     bool m_okEnabled = false;
     quint64 m_generation = 0;
 };

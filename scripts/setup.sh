@@ -10,6 +10,8 @@ packages=(
   libsqlite3-dev libplist-dev libicu-dev
   libgtest-dev libgmock-dev
   xvfb xauth poppler-utils
+  libqpdf-dev qpdf libqrencode-dev
+  zbar-tools python3-pikepdf libxml2-utils libsaxonhe-java
 )
 
 missing=()

@@ -112,6 +112,11 @@ ObjectModel::ObjectModel()
         {"isShippingTax1Enabled", T::Bool},
         {"isShippingTax2Enabled", T::Bool},
         {"isShippingTax3Enabled", T::Bool},
+        // E-invoices: the buyer's country, VAT identifier and reference, the order.
+        {"buyerCountryCode", T::String},
+        {"buyerVatID", T::String},
+        {"buyerReference", T::String},
+        {"orderReference", T::String},
     });
     appendSpare(invoice);
 

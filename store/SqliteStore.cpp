@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QUrl>
 
 #include <sqlite3.h>
@@ -35,6 +36,18 @@ const char* columnType(AttributeType type)
         return "BLOB";
     }
     return "";
+}
+
+// Attributes added after the first files were written. Such a file is
+// brought up to date when it is opened for writing (the new columns start
+// empty); a file only read, such as a backup being checked, may lack them.
+// Older versions of Vorn read and write these files as before: they name
+// the columns they know and leave the others alone.
+bool isLaterColumn(const QString& entity, const QString& column)
+{
+    static const QSet<QString> invoice{QStringLiteral("buyerCountryCode"), QStringLiteral("buyerVatID"),
+                                       QStringLiteral("buyerReference"), QStringLiteral("orderReference")};
+    return entity == QLatin1String("Invoice") && invoice.contains(column);
 }
 
 QString columnList(const EntityDescription& entity)
@@ -115,8 +128,8 @@ Result<std::unique_ptr<SqliteStore>> SqliteStore::open(const QString& path, cons
     if (rc != SQLITE_OK) {
         const QString reason = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString();
         sqlite3_close(db);
-        return Error::make(ErrorCode::StoreOpenFailed, tr("The Vorn database “%1” could not be opened.").arg(path),
-                           reason);
+        return Error::make(ErrorCode::StoreOpenFailed,
+                           tr("The Vorn database “%1” could not be opened.").arg(path), reason);
     }
     sqlite3_busy_timeout(db, 5000);
     refuseQuotedLiterals(db);
@@ -144,7 +157,8 @@ Status SqliteStore::validate(const QString& path, const ObjectModel& model)
                            (hasLog ? "?mode=ro" : "?mode=ro&immutable=1");
     if (sqlite3_open_v2(uri.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr) != SQLITE_OK) {
         sqlite3_close(db);
-        return Error::make(ErrorCode::StoreOpenFailed, tr("The Vorn database “%1” could not be opened.").arg(path));
+        return Error::make(ErrorCode::StoreOpenFailed,
+                           tr("The Vorn database “%1” could not be opened.").arg(path));
     }
     refuseQuotedLiterals(db);
     SqliteStore store(path, db, model);
@@ -157,7 +171,8 @@ Error SqliteStore::sqliteError(const QString& what) const
     const int code = sqlite3_errcode(m_db);
     const QString reason = QString::fromUtf8(sqlite3_errmsg(m_db));
     if (code == SQLITE_NOTADB)
-        return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path), reason);
+        return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path),
+                           reason);
     if (code == SQLITE_CORRUPT)
         return Error::make(ErrorCode::StoreDamaged,
                            tr("The Vorn database “%1” is damaged and cannot be opened.").arg(m_path), reason);
@@ -165,11 +180,12 @@ Error SqliteStore::sqliteError(const QString& what) const
         return Error::make(ErrorCode::StoreWriteFailed,
                            tr("The Vorn database could not be saved because the disk is full."), reason);
     if (code == SQLITE_READONLY || code == SQLITE_PERM || code == SQLITE_CANTOPEN)
-        return Error::make(ErrorCode::FileWriteNoPermission,
-                           tr("The Vorn database “%1” cannot be written: you don't have permission.").arg(m_path),
-                           reason);
+        return Error::make(
+            ErrorCode::FileWriteNoPermission,
+            tr("The Vorn database “%1” cannot be written: you don't have permission.").arg(m_path), reason);
     if (code == SQLITE_BUSY || code == SQLITE_LOCKED)
-        return Error::make(ErrorCode::StoreLocked, tr("The Vorn database is in use by another program."), reason);
+        return Error::make(ErrorCode::StoreLocked, tr("The Vorn database is in use by another program."),
+                           reason);
     qCWarning(lcStore) << what << reason;
     return Error::make(ErrorCode::StoreOpenFailed, what, reason);
 }
@@ -221,24 +237,40 @@ Status SqliteStore::prepareSchema(bool& created)
 
     if (appId == 0 && version == 0 && tables == 0) {
         if (sqlite3_db_readonly(m_db, "main") == 1)
-            return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path));
+            return Error::make(ErrorCode::StoreNotVorn,
+                               tr("The file “%1” is not a Vorn database.").arg(m_path));
         if (Status s = createSchema(); !s)
             return s;
         created = true;
     } else if (appId != applicationId) {
         return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path));
     } else if (version > ObjectModel::schemaVersion) {
-        return Error::make(ErrorCode::StoreTooNew,
-                           tr("The Vorn database “%1” was made by a newer version of Vorn.").arg(m_path),
-                           tr("This version of Vorn cannot read it. Use the newer version, or restore a backup "
-                              "made with this version."));
+        return Error::make(
+            ErrorCode::StoreTooNew,
+            tr("The Vorn database “%1” was made by a newer version of Vorn.").arg(m_path),
+            tr("This version of Vorn cannot read it. Use the newer version, or restore a backup "
+               "made with this version."));
+    }
+
+    const bool writable = sqlite3_db_readonly(m_db, "main") != 1;
+    if (!created && writable) {
+        if (Status s = addLaterColumns(); !s)
+            return s;
     }
 
     // Every table must have every column we read and write.
     for (const auto& entity : m_model.entities()) {
+        QStringList columns;
+        for (const auto& a : entity->attributes()) {
+            if (writable || !isLaterColumn(entity->name(), a.name))
+                columns << quoted(a.name);
+        }
         sqlite3_stmt* stmt = nullptr;
         const QByteArray sql =
-            QStringLiteral("SELECT %1 FROM %2 LIMIT 0").arg(columnList(*entity), quoted(entity->name())).toUtf8();
+            QStringLiteral("SELECT \"_id\"%1 FROM %2 LIMIT 0")
+                .arg(columns.isEmpty() ? QString() : QLatin1Char(',') + columns.join(QLatin1Char(',')),
+                     quoted(entity->name()))
+                .toUtf8();
         const int rc = sqlite3_prepare_v2(m_db, sql.constData(), -1, &stmt, nullptr);
         sqlite3_finalize(stmt);
         if (rc != SQLITE_OK) {
@@ -251,12 +283,50 @@ Status SqliteStore::prepareSchema(bool& created)
         }
     }
 
-    if (sqlite3_db_readonly(m_db, "main") != 1) {
+    if (writable) {
         // Write-ahead logging: a save is one append and one flush, and readers
         // (the command-line tool) never block the application.
         sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
         sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
     }
+    return {};
+}
+
+Status SqliteStore::addLaterColumns()
+{
+    QStringList statements;
+    for (const auto& entity : m_model.entities()) {
+        QSet<QString> present;
+        sqlite3_stmt* stmt = nullptr;
+        const QByteArray info = QStringLiteral("PRAGMA table_info(%1)").arg(quoted(entity->name())).toUtf8();
+        if (sqlite3_prepare_v2(m_db, info.constData(), -1, &stmt, nullptr) != SQLITE_OK)
+            return sqliteError(tr("The Vorn database “%1” could not be opened.").arg(m_path));
+        while (sqlite3_step(stmt) == SQLITE_ROW)
+            present.insert(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 1))));
+        sqlite3_finalize(stmt);
+        // A table that is not there at all is damage, found by the check after.
+        if (present.isEmpty())
+            continue;
+        for (const auto& a : entity->attributes()) {
+            if (!present.contains(a.name) && isLaterColumn(entity->name(), a.name))
+                statements << QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                  .arg(quoted(entity->name()), quoted(a.name),
+                                       QLatin1String(columnType(a.type)));
+        }
+    }
+    if (statements.isEmpty())
+        return {};
+    statements.prepend(QStringLiteral("BEGIN IMMEDIATE"));
+    statements << QStringLiteral("COMMIT");
+    for (const QString& statement : std::as_const(statements)) {
+        if (sqlite3_exec(m_db, statement.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+            const Error e =
+                sqliteError(tr("The Vorn database “%1” could not be brought up to date.").arg(m_path));
+            sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+            return e;
+        }
+    }
+    qCDebug(lcStore) << "added" << statements.size() - 2 << "new columns to" << m_path;
     return {};
 }
 
@@ -271,7 +341,8 @@ Status SqliteStore::createSchema()
             columns << QStringLiteral("\"_owner\" INTEGER") << QStringLiteral("\"_position\" INTEGER");
         for (const auto& a : entity->attributes())
             columns << quoted(a.name) + QLatin1Char(' ') + QLatin1String(columnType(a.type));
-        sql << QStringLiteral("CREATE TABLE %1 (%2)").arg(quoted(entity->name()), columns.join(QLatin1Char(',')));
+        sql << QStringLiteral("CREATE TABLE %1 (%2)")
+                   .arg(quoted(entity->name()), columns.join(QLatin1Char(',')));
         if (entity->ownerRelationship())
             sql << QStringLiteral("CREATE INDEX %1 ON %2 (\"_owner\", \"_position\")")
                        .arg(quoted(entity->name() + QStringLiteral("_owner")), quoted(entity->name()));
@@ -337,11 +408,13 @@ Status SqliteStore::loadRows(const EntityDescription& entity, sqlite3_stmt* stmt
                 row.values.emplace_back(sqlite3_column_int64(stmt, column) != 0);
                 break;
             case AttributeType::Date:
-                row.values.emplace_back(QDateTime::fromMSecsSinceEpoch(sqlite3_column_int64(stmt, column), Qt::UTC));
+                row.values.emplace_back(
+                    QDateTime::fromMSecsSinceEpoch(sqlite3_column_int64(stmt, column), Qt::UTC));
                 break;
             case AttributeType::Data:
-                row.values.emplace_back(QByteArray(static_cast<const char*>(sqlite3_column_blob(stmt, column)),
-                                                   sqlite3_column_bytes(stmt, column)));
+                row.values.emplace_back(
+                    QByteArray(static_cast<const char*>(sqlite3_column_blob(stmt, column)),
+                               sqlite3_column_bytes(stmt, column)));
                 break;
             }
         }
@@ -429,7 +502,8 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
     case AttributeType::String: {
         const QByteArray utf8 = value.toString().toUtf8();
         // An empty string stays an empty string, never NULL.
-        sqlite3_bind_text(stmt, index, utf8.isNull() ? "" : utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(stmt, index, utf8.isNull() ? "" : utf8.constData(), int(utf8.size()),
+                          SQLITE_TRANSIENT);
         break;
     }
     case AttributeType::Integer:
@@ -441,7 +515,8 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
         // as the float -0.
         const float f = value.toFloat();
         sqlite3_bind_double(stmt, index,
-                            f == 0.0f && std::signbit(f) ? -std::numeric_limits<double>::denorm_min() : double(f));
+                            f == 0.0f && std::signbit(f) ? -std::numeric_limits<double>::denorm_min()
+                                                         : double(f));
         break;
     }
     case AttributeType::Bool:
@@ -452,7 +527,8 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
         break;
     case AttributeType::Data: {
         const QByteArray data = value.toByteArray();
-        sqlite3_bind_blob(stmt, index, data.isNull() ? "" : data.constData(), int(data.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_blob(stmt, index, data.isNull() ? "" : data.constData(), int(data.size()),
+                          SQLITE_TRANSIENT);
         break;
     }
     }
@@ -466,8 +542,9 @@ Status SqliteStore::insert(const EntityDescription& entity, qint64 id, const std
     QStringList params;
     for (int i = 1; i <= count; ++i)
         params << QStringLiteral("?%1").arg(i);
-    sqlite3_stmt* stmt = statement(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                                       .arg(quoted(entity.name()), columnList(entity), params.join(QLatin1Char(','))));
+    sqlite3_stmt* stmt =
+        statement(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                      .arg(quoted(entity.name()), columnList(entity), params.join(QLatin1Char(','))));
     if (stmt) {
         int index = 1;
         sqlite3_bind_int64(stmt, index++, id);
@@ -488,21 +565,25 @@ Status SqliteStore::update(const EntityDescription& entity, qint64 id, const std
 {
     QStringList sets;
     for (size_t i = 0; i < changed.size(); ++i)
-        sets << QStringLiteral("%1 = ?%2").arg(quoted(entity.attributes()[size_t(changed[i])].name)).arg(i + 2);
+        sets << QStringLiteral("%1 = ?%2")
+                    .arg(quoted(entity.attributes()[size_t(changed[i])].name))
+                    .arg(i + 2);
     sqlite3_stmt* stmt = statement(QStringLiteral("UPDATE %1 SET %2 WHERE \"_id\" = ?1")
                                        .arg(quoted(entity.name()), sets.join(QLatin1Char(','))));
     if (stmt) {
         sqlite3_bind_int64(stmt, 1, id);
         for (size_t i = 0; i < changed.size(); ++i)
-            bindValue(stmt, int(i) + 2, entity.attributes()[size_t(changed[i])].type, values[size_t(changed[i])]);
+            bindValue(stmt, int(i) + 2, entity.attributes()[size_t(changed[i])].type,
+                      values[size_t(changed[i])]);
     }
     return step(stmt, tr("The Vorn database could not be saved."));
 }
 
 Status SqliteStore::updateOwner(const EntityDescription& entity, qint64 id, qint64 ownerId, int position)
 {
-    sqlite3_stmt* stmt = statement(
-        QStringLiteral("UPDATE %1 SET \"_owner\" = ?2, \"_position\" = ?3 WHERE \"_id\" = ?1").arg(quoted(entity.name())));
+    sqlite3_stmt* stmt =
+        statement(QStringLiteral("UPDATE %1 SET \"_owner\" = ?2, \"_position\" = ?3 WHERE \"_id\" = ?1")
+                      .arg(quoted(entity.name())));
     if (stmt) {
         sqlite3_bind_int64(stmt, 1, id);
         if (ownerId)
@@ -514,7 +595,8 @@ Status SqliteStore::updateOwner(const EntityDescription& entity, qint64 id, qint
 
 Status SqliteStore::remove(const EntityDescription& entity, qint64 id)
 {
-    sqlite3_stmt* stmt = statement(QStringLiteral("DELETE FROM %1 WHERE \"_id\" = ?1").arg(quoted(entity.name())));
+    sqlite3_stmt* stmt =
+        statement(QStringLiteral("DELETE FROM %1 WHERE \"_id\" = ?1").arg(quoted(entity.name())));
     if (stmt)
         sqlite3_bind_int64(stmt, 1, id);
     return step(stmt, tr("The Vorn database could not be saved."));

@@ -57,8 +57,8 @@ public:
     Status begin();
     Status commit();
     void rollback();
-    Status insert(const EntityDescription& entity, qint64 id, const std::vector<QVariant>& values, qint64 ownerId,
-                  int position);
+    Status insert(const EntityDescription& entity, qint64 id, const std::vector<QVariant>& values,
+                  qint64 ownerId, int position);
     Status update(const EntityDescription& entity, qint64 id, const std::vector<int>& changed,
                   const std::vector<QVariant>& values);
     Status updateOwner(const EntityDescription& entity, qint64 id, qint64 ownerId, int position);
@@ -68,6 +68,8 @@ private:
     SqliteStore(QString path, sqlite3* db, const ObjectModel& model);
     static Status checkHeader(const QString& path);
     Status prepareSchema(bool& created);
+    // Adds the columns of attributes newer than the file.
+    Status addLaterColumns();
     Status createSchema();
     Error sqliteError(const QString& what) const;
     sqlite3_stmt* statement(const QString& sql);
