@@ -54,6 +54,9 @@ bool GUIController::hasPrerequisites(const QString& action) const
         return doc != nullptr;
     if (action == QLatin1String("convertQuoteToInvoice"))
         return doc && doc->intValue(key::kind) == 0;
+    // E-invoices are made of invoices only.
+    if (action == QLatin1String("exportFacturX") || action == QLatin1String("exportXRechnung"))
+        return doc && doc->intValue(key::kind) == 1;
     return true;
 }
 

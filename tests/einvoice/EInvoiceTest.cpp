@@ -227,5 +227,32 @@ TEST_F(EInvoiceTest, TheExportAsksWhereOnlyOnceTheDataIsComplete)
     EXPECT_EQ(file.readAll(), written);
 }
 
+// "%PAYMENTQR%" draws the code only for an invoice in euros to a valid IBAN;
+// otherwise it vanishes like any empty token.
+TEST_F(EInvoiceTest, ThePaymentQrCodeIsDrawnOnlyForEuroInvoicesWithAnIban)
+{
+    addDesign(QStringLiteral("[%PAYMENTQR%]"), QString());
+    using Change = std::function<void(EInvoiceTest&, ManagedObject*)>;
+    const std::pair<bool, Change> cases[] = {
+        {true, [](auto&, ManagedObject*) {}},
+        {false, [](auto&, ManagedObject* d) { d->setValue("kind", 0); }},
+        {false, [](auto&, ManagedObject* d) { d->setValue("currency", "USD"); }},
+        {false, [](EInvoiceTest& t, auto) { t.settings.removeValue(settingsKey::iban); }},
+        {false,
+         [](EInvoiceTest& t, auto) { t.settings.setValue(settingsKey::iban, "DE89370400440532013001"); }},
+        {false, [](auto&, ManagedObject* d) { d->setValue("amount", 0.0f); }},
+    };
+    for (const auto& [drawn, change] : cases) {
+        ManagedObject* d = germanInvoice();
+        change(*this, d);
+        const QString page = html();
+        EXPECT_EQ(page.startsWith(QLatin1String("[<svg")), drawn) << page.left(40).toStdString();
+        if (!drawn) {
+            EXPECT_EQ(page, QStringLiteral("[]"));
+        }
+        sellerSettings();
+    }
+}
+
 } // namespace
 } // namespace vorn::test
