@@ -132,5 +132,25 @@ TEST_F(EInvoiceRenderTest, ThePaymentQrCodeOnThePageDecodesToTheTransfer)
     EXPECT_EQ(decoded->trimmed(), PaymentQrCode::payload(*payment));
 }
 
+// With Factur-X as the chosen PDF, the PDF export writes invoices as
+// Factur-X files, refuses incomplete ones, and leaves quotes as they are.
+TEST_F(EInvoiceRenderTest, ThePdfExportWritesFacturXWhenThatIsTheChoice)
+{
+    ManagedObject* d = germanInvoice();
+    Result<QByteArray> pdf = renderer.renderNow(preview.renderJob(preview.invoiceHTMLString()));
+    ASSERT_TRUE(pdf.ok());
+    EXPECT_EQ(einvoice.pdfForExport(*d, pdf.value()).value(), pdf.value());
+
+    settings.setValue(settingsKey::facturXDefault, true);
+    Result<QByteArray> facturX = einvoice.pdfForExport(*d, pdf.value());
+    ASSERT_TRUE(facturX.ok());
+    EXPECT_TRUE(facturX->contains("<fx:DocumentFileName>factur-x.xml</fx:DocumentFileName>"));
+    d->setValue(documentKey::buyerCountryCode, QString());
+    EXPECT_EQ(einvoice.pdfForExport(*d, pdf.value()).error().message,
+              QStringLiteral("The buyer's country is missing."));
+    d->setValue(QStringLiteral("kind"), 0);
+    EXPECT_EQ(einvoice.pdfForExport(*d, pdf.value()).value(), pdf.value());
+}
+
 } // namespace
 } // namespace vorn::test
