@@ -2,7 +2,7 @@
 
 #include "documents/CurrencyCode.h"
 #include "documents/Iban.h"
-#include "documents/SettingsKeys.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
@@ -31,34 +31,33 @@ QString limited(const QString& text, int limit)
 
 std::optional<Payment> paymentForDocument(const ManagedObject& document, const Settings& settings)
 {
-    if (document.intValue(QStringLiteral("kind")) != 1)
+    if (!document.isInvoice())
         return std::nullopt;
-    if (CurrencyCode::isoCode(document.stringValue(QStringLiteral("currency"))) != QLatin1String("EUR"))
+    if (CurrencyCode::isoCode(document.stringValue(key::currency)) != QLatin1String("EUR"))
         return std::nullopt;
-    const QString iban = Iban::normalized(settings.stringValue(settingsKey::iban));
+    const QString iban = Iban::normalized(settings.stringValue(key::prefsIBAN));
     if (!Iban::isValid(iban))
         return std::nullopt;
     // What the page shows as the total, to the cent.
-    const double total = std::round(double(document.floatValue(QStringLiteral("amount"))) * 100.0);
+    const double total = std::round(double(document.floatValue(key::amount)) * 100.0);
     if (!(total >= 1 && total <= double(maximumCents)))
         return std::nullopt;
 
     Payment payment;
     payment.iban = iban;
     payment.cents = qint64(total);
-    const QString bic = Iban::normalized(settings.stringValue(settingsKey::bic));
+    const QString bic = Iban::normalized(settings.stringValue(key::prefsBIC));
     payment.bic = Iban::isValidBic(bic) ? bic : QString();
-    for (const QString& key :
-         {settingsKey::accountHolder, settingsKey::legalName, QStringLiteral("prefsName")}) {
+    for (const QString& key : {key::prefsAccountHolder, key::prefsLegalName, QStringLiteral("prefsName")}) {
         payment.name = limited(settings.stringValue(key), nameLimit);
         if (!payment.name.isEmpty())
             break;
     }
     if (payment.name.isEmpty())
         return std::nullopt;
-    payment.remittance = limited(QStringLiteral("%1 %2").arg(document.stringValue(QStringLiteral("title")),
-                                                             document.stringValue(QStringLiteral("number"))),
-                                 remittanceLimit);
+    payment.remittance = limited(
+        QStringLiteral("%1 %2").arg(document.stringValue(key::title), document.stringValue(key::number)),
+        remittanceLimit);
     return payment;
 }
 

@@ -1,6 +1,5 @@
 #include "einvoice/EInvoiceController.h"
 
-#include "documents/SettingsKeys.h"
 #include "einvoice/CiiWriter.h"
 #include "einvoice/EInvoiceLog.h"
 #include "einvoice/EInvoiceValidator.h"
@@ -10,6 +9,7 @@
 #include "store/AppState.h"
 #include "store/AtomicFile.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
@@ -65,8 +65,7 @@ Result<QByteArray> EInvoiceController::facturX(const ManagedObject& document, co
 Result<QByteArray> EInvoiceController::pdfForExport(const ManagedObject& document,
                                                     const QByteArray& pdf) const
 {
-    if (!m_state.settings().boolValue(settingsKey::facturXDefault) ||
-        document.intValue(QStringLiteral("kind")) != 1)
+    if (!m_state.settings().boolValue(key::prefsFacturXDefault) || !document.isInvoice())
         return pdf;
     return facturX(document, pdf);
 }
@@ -86,14 +85,14 @@ void EInvoiceController::makeFacturX(EInvoiceProfile profile, Done done)
     }
     const quint64 generation = ++m_generation;
     QPointer<EInvoiceController> self(this);
-    const QString uniqueID = document->stringValue(QStringLiteral("uniqueID"));
+    const QString uniqueID = document->stringValue(key::uniqueID);
     m_preview.renderer().render(
         m_preview.renderJob(m_preview.invoiceHTMLString()),
         [self, generation, uniqueID, profile, done = std::move(done)](Result<QByteArray> pdf) {
             if (!self || generation != self->m_generation)
                 return;
             ManagedObject* current = self->m_state.currentInvoice();
-            if (!current || current->stringValue(QStringLiteral("uniqueID")) != uniqueID) {
+            if (!current || current->stringValue(key::uniqueID) != uniqueID) {
                 done(Error::make(incompleteCode, tr("The invoice changed while its PDF was made.")));
                 return;
             }
@@ -132,8 +131,8 @@ bool EInvoiceController::refuseIfIncomplete(const Result<QByteArray>& checked)
 QString EInvoiceController::jobTitle(const ManagedObject& document) const
 {
     return QStringLiteral("%1 | %2 | %3")
-        .arg(m_state.settings().stringValue(QStringLiteral("prefsName")),
-             document.stringValue(QStringLiteral("title")), document.stringValue(QStringLiteral("number")));
+        .arg(m_state.settings().stringValue(QStringLiteral("prefsName")), document.stringValue(key::title),
+             document.stringValue(key::number));
 }
 
 void EInvoiceController::exportXRechnung()

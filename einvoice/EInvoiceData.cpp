@@ -1,10 +1,9 @@
 #include "einvoice/EInvoiceData.h"
 
 #include "documents/CurrencyCode.h"
-#include "documents/DocumentKeys.h"
 #include "documents/Iban.h"
-#include "documents/SettingsKeys.h"
 #include "einvoice/UnitCodes.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
@@ -156,44 +155,44 @@ EInvoiceData EInvoiceData::fromDocument(const ManagedObject& d, const Settings& 
 {
     EInvoiceData e;
     e.profile = profile;
-    e.isInvoice = d.intValue(QStringLiteral("kind")) == 1;
-    e.number = d.stringValue(QStringLiteral("number")).trimmed();
-    e.issueDate = localDate(d.dateValue(QStringLiteral("date")));
-    e.dueDate = localDate(d.dateValue(QStringLiteral("due")));
-    e.currencyText = d.stringValue(QStringLiteral("currency"));
+    e.isInvoice = d.isInvoice();
+    e.number = d.stringValue(key::number).trimmed();
+    e.issueDate = localDate(d.dateValue(key::date));
+    e.dueDate = localDate(d.dateValue(key::due));
+    e.currencyText = d.stringValue(key::currency);
     e.currency = CurrencyCode::isoCode(e.currencyText);
-    e.paymentTerms = plainText(d.stringValue(QStringLiteral("conditions")));
-    e.buyerReference = d.stringValue(documentKey::buyerReference).trimmed();
-    e.orderReference = d.stringValue(documentKey::orderReference).trimmed();
-    const QString subject = plainText(d.stringValue(QStringLiteral("subject")));
+    e.paymentTerms = plainText(d.stringValue(key::conditions));
+    e.buyerReference = d.stringValue(key::buyerReference).trimmed();
+    e.orderReference = d.stringValue(key::orderReference).trimmed();
+    const QString subject = plainText(d.stringValue(key::subject));
     if (!subject.isEmpty())
         e.notes << subject;
 
     Party& seller = e.seller;
-    seller.name = s.stringValue(settingsKey::legalName).trimmed();
+    seller.name = s.stringValue(key::prefsLegalName).trimmed();
     if (seller.name.isEmpty())
         seller.name = s.stringValue(QStringLiteral("prefsName")).trimmed();
     seller.contactName = s.stringValue(QStringLiteral("prefsName")).trimmed();
     if (seller.contactName.isEmpty())
         seller.contactName = seller.name;
-    seller.street = s.stringValue(settingsKey::street).trimmed();
-    seller.postcode = s.stringValue(settingsKey::postcode).trimmed();
-    seller.city = s.stringValue(settingsKey::city).trimmed();
-    seller.countryCode = s.stringValue(settingsKey::countryCode).trimmed().toUpper();
-    seller.vatID = Iban::normalized(s.stringValue(settingsKey::vatID));
-    seller.taxNumber = s.stringValue(settingsKey::taxNumber).trimmed();
-    seller.email = s.stringValue(settingsKey::contactEmail).trimmed();
-    seller.phone = s.stringValue(settingsKey::contactPhone).trimmed();
+    seller.street = s.stringValue(key::prefsStreet).trimmed();
+    seller.postcode = s.stringValue(key::prefsPostcode).trimmed();
+    seller.city = s.stringValue(key::prefsCity).trimmed();
+    seller.countryCode = s.stringValue(key::prefsCountryCode).trimmed().toUpper();
+    seller.vatID = Iban::normalized(s.stringValue(key::prefsVatID));
+    seller.taxNumber = s.stringValue(key::prefsTaxNumber).trimmed();
+    seller.email = s.stringValue(key::prefsContactEmail).trimmed();
+    seller.phone = s.stringValue(key::prefsContactPhone).trimmed();
 
     Party& buyer = e.buyer;
-    readAddressBlock(d.stringValue(QStringLiteral("address")), buyer);
-    buyer.countryCode = d.stringValue(documentKey::buyerCountryCode).trimmed().toUpper();
-    buyer.vatID = Iban::normalized(d.stringValue(documentKey::buyerVatID));
-    buyer.email = d.stringValue(QStringLiteral("emailAddress")).trimmed();
+    readAddressBlock(d.stringValue(key::address), buyer);
+    buyer.countryCode = d.stringValue(key::buyerCountryCode).trimmed().toUpper();
+    buyer.vatID = Iban::normalized(d.stringValue(key::buyerVatID));
+    buyer.email = d.stringValue(key::emailAddress).trimmed();
 
-    e.iban = Iban::normalized(s.stringValue(settingsKey::iban));
-    e.bic = Iban::normalized(s.stringValue(settingsKey::bic));
-    e.accountHolder = s.stringValue(settingsKey::accountHolder).trimmed();
+    e.iban = Iban::normalized(s.stringValue(key::prefsIBAN));
+    e.bic = Iban::normalized(s.stringValue(key::prefsBIC));
+    e.accountHolder = s.stringValue(key::prefsAccountHolder).trimmed();
     if (e.accountHolder.isEmpty())
         e.accountHolder = seller.name;
 
@@ -202,42 +201,39 @@ EInvoiceData EInvoiceData::fromDocument(const ManagedObject& d, const Settings& 
     for (const ManagedObject* item : d.items()) {
         Line line;
         line.id = ++id;
-        line.name = plainText(item->stringValue(QStringLiteral("title")));
-        line.description = plainText(item->stringValue(QStringLiteral("subtitle")));
-        line.sku = item->stringValue(QStringLiteral("sku")).trimmed();
-        line.unitCode = UnitCodes::code(item->stringValue(QStringLiteral("unit")));
-        line.quantity = scaled(item->floatValue(QStringLiteral("unitCount")), 10000);
-        line.price = scaled(item->floatValue(QStringLiteral("baseAmount")), 10000);
+        line.name = plainText(item->stringValue(key::title));
+        line.description = plainText(item->stringValue(key::subtitle));
+        line.sku = item->stringValue(key::sku).trimmed();
+        line.unitCode = UnitCodes::code(item->stringValue(key::unit));
+        line.quantity = scaled(item->floatValue(key::unitCount), 10000);
+        line.price = scaled(item->floatValue(key::baseAmount), 10000);
         line.net = rounded(static_cast<long double>(line.quantity) * line.price / 1000000.0L);
-        const bool applied[3] = {item->boolValue(QStringLiteral("isTax1Applied")),
-                                 item->boolValue(QStringLiteral("isTax2Applied")),
-                                 item->boolValue(QStringLiteral("isTax3Applied"))};
-        const float percent[3] = {item->floatValue(QStringLiteral("tax1Percent")),
-                                  item->floatValue(QStringLiteral("tax2Percent")),
-                                  item->floatValue(QStringLiteral("tax3Percent"))};
-        line.vat = vatForRate(combinedRate(applied, item->boolValue(QStringLiteral("isTax2Compound")),
-                                           item->boolValue(QStringLiteral("isTax3Compound")), percent));
+        const bool applied[3] = {item->boolValue(key::isTax1Applied), item->boolValue(key::isTax2Applied),
+                                 item->boolValue(key::isTax3Applied)};
+        const float percent[3] = {item->floatValue(key::tax1Percent), item->floatValue(key::tax2Percent),
+                                  item->floatValue(key::tax3Percent)};
+        line.vat = vatForRate(combinedRate(applied, item->boolValue(key::isTax2Compound),
+                                           item->boolValue(key::isTax3Compound), percent));
         e.lineTotal += line.net;
         e.lines << line;
     }
 
     // Shipping is a document-level charge with the shipping's own taxes, on
     // the document's rates and the compounding of the settings.
-    if (d.boolValue(QStringLiteral("isShippingEnabled"))) {
+    if (d.boolValue(key::isShippingEnabled)) {
         AllowanceCharge shipping;
         shipping.charge = true;
-        shipping.amount = scaled(d.floatValue(QStringLiteral("shippingAmount")), 100);
-        shipping.reason = plainText(d.stringValue(QStringLiteral("shippingTitle")));
+        shipping.amount = scaled(d.floatValue(key::shippingAmount), 100);
+        shipping.reason = plainText(d.stringValue(key::shippingTitle));
         if (shipping.reason.isEmpty())
             shipping.reason = EInvoiceTexts::tr("Shipping");
-        const bool applied[3] = {d.boolValue(QStringLiteral("isShippingTax1Enabled")),
-                                 d.boolValue(QStringLiteral("isShippingTax2Enabled")),
-                                 d.boolValue(QStringLiteral("isShippingTax3Enabled"))};
-        const float percent[3] = {d.floatValue(QStringLiteral("tax1Percent")),
-                                  d.floatValue(QStringLiteral("tax2Percent")),
-                                  d.floatValue(QStringLiteral("tax3Percent"))};
-        shipping.vat = vatForRate(combinedRate(applied, s.boolValue(QStringLiteral("tax2IsCompound")),
-                                               s.boolValue(QStringLiteral("tax3IsCompound")), percent));
+        const bool applied[3] = {d.boolValue(key::isShippingTax1Enabled),
+                                 d.boolValue(key::isShippingTax2Enabled),
+                                 d.boolValue(key::isShippingTax3Enabled)};
+        const float percent[3] = {d.floatValue(key::tax1Percent), d.floatValue(key::tax2Percent),
+                                  d.floatValue(key::tax3Percent)};
+        shipping.vat = vatForRate(combinedRate(applied, s.boolValue(key::tax2IsCompound),
+                                               s.boolValue(key::tax3IsCompound), percent));
         if (shipping.amount < 0) {
             shipping.charge = false;
             shipping.amount = -shipping.amount;
@@ -268,20 +264,20 @@ EInvoiceData EInvoiceData::fromDocument(const ManagedObject& d, const Settings& 
     // Vorn takes the discount off the gross total and leaves the taxes as
     // they are. Said in EN 16931 terms: a document-level allowance in the
     // exempt category, which lowers the amount due but no VAT.
-    if (d.boolValue(QStringLiteral("isDiscountEnabled"))) {
+    if (d.boolValue(key::isDiscountEnabled)) {
         qint64 chargesNet = 0;
         for (const AllowanceCharge& ac : std::as_const(e.allowancesCharges))
             chargesNet += ac.charge ? ac.amount : -ac.amount;
         const qint64 gross = e.lineTotal + chargesNet + taxBeforeDiscount;
         qint64 discount = 0;
-        QString reason = plainText(d.stringValue(QStringLiteral("discountTitle")));
-        if (d.intValue(QStringLiteral("discountKind")) != 0) {
-            const qint64 rate = scaled(d.floatValue(QStringLiteral("discountPercent")), rateScale);
+        QString reason = plainText(d.stringValue(key::discountTitle));
+        if (d.intValue(key::discountKind) != 0) {
+            const qint64 rate = scaled(d.floatValue(key::discountPercent), rateScale);
             discount = taxOf(gross, rate);
             if (reason.isEmpty())
                 reason = EInvoiceTexts::tr("Discount of %1 % on the total").arg(decimalText(rate, 3, 0));
         } else {
-            discount = scaled(d.floatValue(QStringLiteral("discountAmount")), 100);
+            discount = scaled(d.floatValue(key::discountAmount), 100);
         }
         if (reason.isEmpty())
             reason = EInvoiceTexts::tr("Discount on the total");
@@ -301,7 +297,7 @@ EInvoiceData EInvoiceData::fromDocument(const ManagedObject& d, const Settings& 
         (ac.charge ? e.chargeTotal : e.allowanceTotal) += ac.amount;
     e.taxBasisTotal = e.lineTotal - e.allowanceTotal + e.chargeTotal;
     e.grandTotal = e.taxBasisTotal + e.taxTotal;
-    e.printedTotal = scaled(d.floatValue(QStringLiteral("amount")), 100);
+    e.printedTotal = scaled(d.floatValue(key::amount), 100);
     e.rounding = e.printedTotal - e.grandTotal;
     e.duePayable = e.grandTotal + e.rounding;
     if (e.rounding != 0)

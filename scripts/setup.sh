@@ -11,7 +11,8 @@ packages=(
   libgtest-dev libgmock-dev
   xvfb xauth poppler-utils
   libqpdf-dev qpdf libqrencode-dev
-  zbar-tools python3-pikepdf libxml2-utils libsaxonhe-java
+  zbar-tools python3-pikepdf libsaxonhe-java
+  desktop-file-utils appstream libxml2-utils dpkg-dev qt6-translations-l10n
 )
 
 missing=()

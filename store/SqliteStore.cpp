@@ -110,7 +110,12 @@ Status SqliteStore::checkHeader(const QString& path)
         pageSize = 65536;
     const quint32 pages = bigEndian32(h + 28);
     const bool sizeValid = pages != 0 && bigEndian32(h + 24) == bigEndian32(h + 92);
-    if (pageSize < 512 || (sizeValid && qint64(pages) * pageSize > size))
+    // With a write-ahead log beside the file, the newest pages (the header
+    // among them) may still be in the log: a checkpoint cut short by a full
+    // disk or a crash leaves a header that counts pages the file does not
+    // hold yet. SQLite completes such a file from the log, so then it decides.
+    const bool logDecides = QFileInfo(path + QStringLiteral("-wal")).size() > 0;
+    if (pageSize < 512 || (sizeValid && !logDecides && qint64(pages) * pageSize > size))
         return Error::make(ErrorCode::StoreDamaged,
                            tr("The Vorn database “%1” is damaged and cannot be opened.").arg(path),
                            tr("The file is shorter than its contents require; it may have been cut off while "
@@ -177,8 +182,11 @@ Error SqliteStore::sqliteError(const QString& what) const
         return Error::make(ErrorCode::StoreDamaged,
                            tr("The Vorn database “%1” is damaged and cannot be opened.").arg(m_path), reason);
     if (code == SQLITE_FULL)
-        return Error::make(ErrorCode::StoreWriteFailed,
-                           tr("The Vorn database could not be saved because the disk is full."), reason);
+        return Error::make(
+            ErrorCode::StoreWriteFailed, tr("The disk is full: the Vorn database could not be saved."),
+            tr("Your changes are kept while Vorn runs and saved with the next change once there "
+               "is space again; what was saved before is not lost. (%1)")
+                .arg(reason));
     if (code == SQLITE_READONLY || code == SQLITE_PERM || code == SQLITE_CANTOPEN)
         return Error::make(
             ErrorCode::FileWriteNoPermission,

@@ -1,9 +1,8 @@
 #pragma once
 
-#include "documents/DocumentKeys.h"
-#include "documents/SettingsKeys.h"
 #include "einvoice/EInvoiceController.h"
 #include "invoicing/Calculator.h"
+#include "store/Keys.h"
 #include "tests/output/OutputFixture.h"
 
 namespace vorn::test {
@@ -18,11 +17,11 @@ public:
 
     void sellerSettings()
     {
-        assign(settings, settingsKey::legalName, "Tandrelo Studio GmbH", settingsKey::street, "Hauptstraße 1",
-               settingsKey::postcode, "10115", settingsKey::city, "Berlin", settingsKey::countryCode, "DE",
-               settingsKey::vatID, "DE123456789", settingsKey::contactEmail, "billing@tandrelo.example",
-               settingsKey::contactPhone, "+49 30 1234567", settingsKey::iban, "de89 3704 0044 0532 0130 00",
-               settingsKey::bic, "COBADEFFXXX", "tax2IsCompound", false);
+        assign(settings, key::prefsLegalName, "Tandrelo Studio GmbH", key::prefsStreet, "Hauptstraße 1",
+               key::prefsPostcode, "10115", key::prefsCity, "Berlin", key::prefsCountryCode, "DE",
+               key::prefsVatID, "DE123456789", key::prefsContactEmail, "billing@tandrelo.example",
+               key::prefsContactPhone, "+49 30 1234567", key::prefsIBAN, "de89 3704 0044 0532 0130 00",
+               key::prefsBIC, "COBADEFFXXX", "tax2IsCompound", false);
     }
 
     ManagedObject* germanInvoice()
@@ -31,9 +30,9 @@ public:
                                        "address", "Muster AG\nEinkauf\nBahnhofstraße 5\n80331 München",
                                        "emailAddress", "einkauf@muster.example", "conditions",
                                        "Zahlbar <b>ohne Abzug</b><br />bis zum Fälligkeitsdatum.");
-        assign(*d, documentKey::buyerCountryCode, "DE", documentKey::buyerReference, "04011000-12345-67",
-               "tax1Percent", 0.19f, "tax2Percent", 0.07f, "isShippingEnabled", true, "shippingTitle",
-               "Versand", "shippingAmount", 5.9f, "isShippingTax1Enabled", true, "isDiscountEnabled", true,
+        assign(*d, key::buyerCountryCode, "DE", key::buyerReference, "04011000-12345-67", "tax1Percent",
+               0.19f, "tax2Percent", 0.07f, "isShippingEnabled", true, "shippingTitle", "Versand",
+               "shippingAmount", 5.9f, "isShippingTax1Enabled", true, "isDiscountEnabled", true,
                "discountKind", 1, "discountPercent", 0.03f);
         line(d, "Beratung", "Std.", 3.5f, 95.0f, 0.19f, 0);
         line(d, "Fachbuch", "Stück", 2, 24.9f, 0, 0.07f);

@@ -141,11 +141,11 @@ TEST_F(EInvoiceRenderTest, ThePdfExportWritesFacturXWhenThatIsTheChoice)
     ASSERT_TRUE(pdf.ok());
     EXPECT_EQ(einvoice.pdfForExport(*d, pdf.value()).value(), pdf.value());
 
-    settings.setValue(settingsKey::facturXDefault, true);
+    settings.setValue(key::prefsFacturXDefault, true);
     Result<QByteArray> facturX = einvoice.pdfForExport(*d, pdf.value());
     ASSERT_TRUE(facturX.ok());
     EXPECT_TRUE(facturX->contains("<fx:DocumentFileName>factur-x.xml</fx:DocumentFileName>"));
-    d->setValue(documentKey::buyerCountryCode, QString());
+    d->setValue(key::buyerCountryCode, QString());
     EXPECT_EQ(einvoice.pdfForExport(*d, pdf.value()).error().message,
               QStringLiteral("The buyer's country is missing."));
     d->setValue(QStringLiteral("kind"), 0);

@@ -145,23 +145,23 @@ TEST_F(EInvoiceTest, IncompleteOrWrongDataIsRefusedNamingTheField)
         EInvoiceProfile profile = EInvoiceProfile::En16931;
     } cases[] = {
         {"The buyer's country is missing.",
-         [](auto&, ManagedObject* d) { d->setValue(documentKey::buyerCountryCode, QString()); }},
+         [](auto&, ManagedObject* d) { d->setValue(key::buyerCountryCode, QString()); }},
         {"The buyer's country “XX” is not",
-         [](auto&, ManagedObject* d) { d->setValue(documentKey::buyerCountryCode, "xx"); }},
+         [](auto&, ManagedObject* d) { d->setValue(key::buyerCountryCode, "xx"); }},
         {"The buyer's name is missing", [](auto&, ManagedObject* d) { d->setValue("address", QString()); }},
         {"The seller's legal name is missing.",
          [](EInvoiceTest& t, auto) {
-             t.settings.removeValue(settingsKey::legalName);
+             t.settings.removeValue(key::prefsLegalName);
              t.settings.removeValue("prefsName");
          }},
         {"The seller's VAT identifier or tax number is missing.",
-         [](EInvoiceTest& t, auto) { t.settings.removeValue(settingsKey::vatID); }},
+         [](EInvoiceTest& t, auto) { t.settings.removeValue(key::prefsVatID); }},
         {"must begin with its country code",
-         [](EInvoiceTest& t, auto) { t.settings.setValue(settingsKey::vatID, "123456789"); }},
+         [](EInvoiceTest& t, auto) { t.settings.setValue(key::prefsVatID, "123456789"); }},
         {"The IBAN “DE89370400440532013001” is not valid",
-         [](EInvoiceTest& t, auto) { t.settings.setValue(settingsKey::iban, "DE89370400440532013001"); }},
+         [](EInvoiceTest& t, auto) { t.settings.setValue(key::prefsIBAN, "DE89370400440532013001"); }},
         {"The seller's IBAN is missing.",
-         [](EInvoiceTest& t, auto) { t.settings.removeValue(settingsKey::iban); }},
+         [](EInvoiceTest& t, auto) { t.settings.removeValue(key::prefsIBAN); }},
         {"The currency “$” has no ISO code", [](auto&, ManagedObject* d) { d->setValue("currency", "$"); }},
         {"The invoice number is missing.", [](auto&, ManagedObject* d) { d->setValue("number", QString()); }},
         {"Only invoices can be sent as e-invoices", [](auto&, ManagedObject* d) { d->setValue("kind", 0); }},
@@ -173,10 +173,10 @@ TEST_F(EInvoiceTest, IncompleteOrWrongDataIsRefusedNamingTheField)
         {"The invoice's amounts do not add up",
          [](auto&, ManagedObject* d) { d->setValue("amount", 400.0f); }},
         {"The buyer reference (Leitweg-ID) is missing.",
-         [](auto&, ManagedObject* d) { d->setValue(documentKey::buyerReference, QString()); },
+         [](auto&, ManagedObject* d) { d->setValue(key::buyerReference, QString()); },
          EInvoiceProfile::XRechnung},
         {"The seller's contact phone is missing.",
-         [](EInvoiceTest& t, auto) { t.settings.removeValue(settingsKey::contactPhone); },
+         [](EInvoiceTest& t, auto) { t.settings.removeValue(key::prefsContactPhone); },
          EInvoiceProfile::XRechnung},
         {"The buyer's postcode and city are missing",
          [](auto&, ManagedObject* d) { d->setValue("address", "Muster AG\nMünchen"); },
@@ -202,14 +202,14 @@ TEST_F(EInvoiceTest, IncompleteOrWrongDataIsRefusedNamingTheField)
 TEST_F(EInvoiceTest, TheExportAsksWhereOnlyOnceTheDataIsComplete)
 {
     ManagedObject* d = germanInvoice();
-    d->setValue(documentKey::buyerCountryCode, QString());
+    d->setValue(key::buyerCountryCode, QString());
     einvoice.exportXRechnung();
     ASSERT_EQ(ui.calls(QStringLiteral("alert")).size(), 1);
     EXPECT_EQ(ui.calls(QStringLiteral("alert")).first().text,
               QStringLiteral("The buyer's country is missing."));
     EXPECT_TRUE(ui.calls(QStringLiteral("save")).isEmpty());
 
-    d->setValue(documentKey::buyerCountryCode, QStringLiteral("DE"));
+    d->setValue(key::buyerCountryCode, QStringLiteral("DE"));
     const QString target = QDir(environment.home()).filePath(QStringLiteral("invoice.xml"));
     ui.answerPanel(target);
     einvoice.exportXRechnung();
@@ -237,9 +237,8 @@ TEST_F(EInvoiceTest, ThePaymentQrCodeIsDrawnOnlyForEuroInvoicesWithAnIban)
         {true, [](auto&, ManagedObject*) {}},
         {false, [](auto&, ManagedObject* d) { d->setValue("kind", 0); }},
         {false, [](auto&, ManagedObject* d) { d->setValue("currency", "USD"); }},
-        {false, [](EInvoiceTest& t, auto) { t.settings.removeValue(settingsKey::iban); }},
-        {false,
-         [](EInvoiceTest& t, auto) { t.settings.setValue(settingsKey::iban, "DE89370400440532013001"); }},
+        {false, [](EInvoiceTest& t, auto) { t.settings.removeValue(key::prefsIBAN); }},
+        {false, [](EInvoiceTest& t, auto) { t.settings.setValue(key::prefsIBAN, "DE89370400440532013001"); }},
         {false, [](auto&, ManagedObject* d) { d->setValue("amount", 0.0f); }},
     };
     for (const auto& [drawn, change] : cases) {

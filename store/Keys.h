@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// Attribute and settings keys used by the invoicing controllers, spelled once.
+// Every attribute, relationship and settings key of the application, spelled
+// once. The entity model (ObjectModel) is built from these names.
 namespace vorn::key {
 
 // Invoice
@@ -61,6 +62,14 @@ inline const QString misc3 = QStringLiteral("misc3");
 inline const QString misc4 = QStringLiteral("misc4");
 inline const QString misc5 = QStringLiteral("misc5");
 inline const QString items = QStringLiteral("items");
+// Invoice: e-invoices (empty until the user fills them in)
+inline const QString buyerCountryCode = QStringLiteral("buyerCountryCode");
+inline const QString buyerVatID = QStringLiteral("buyerVatID");
+inline const QString buyerReference = QStringLiteral("buyerReference"); // or the Leitweg-ID
+inline const QString orderReference = QStringLiteral("orderReference");
+
+// Item -> Invoice (the owner of a line item)
+inline const QString invoice = QStringLiteral("invoice");
 
 // Item, RecentItem, RecentShipping
 inline const QString subtitle = QStringLiteral("subtitle");
@@ -81,6 +90,11 @@ inline const QString hasSubtitle = QStringLiteral("hasSubtitle");
 inline const QString isTax1Enabled = QStringLiteral("isTax1Enabled");
 inline const QString isTax2Enabled = QStringLiteral("isTax2Enabled");
 inline const QString isTax3Enabled = QStringLiteral("isTax3Enabled");
+
+// Design
+inline const QString item = QStringLiteral("item");
+inline const QString css = QStringLiteral("css");
+inline const QString isDefault = QStringLiteral("isDefault");
 
 // Settings
 inline const QString invHaveNumber = QStringLiteral("invHaveNumber");
@@ -117,6 +131,7 @@ inline const QString tax2Enabled = QStringLiteral("tax2Enabled");
 inline const QString tax3Enabled = QStringLiteral("tax3Enabled");
 inline const QString tax2IsCompound = QStringLiteral("tax2IsCompound");
 inline const QString tax3IsCompound = QStringLiteral("tax3IsCompound");
+inline const QString markInvoiceAsSent = QStringLiteral("markInvoiceAsSent");
 inline const QString showItemSubAmount = QStringLiteral("showItemSubAmount");
 inline const QString mainTabIndex = QStringLiteral("mainTabIndex");
 inline const QString addressTabViewIndex = QStringLiteral("addressTabViewIndex");
@@ -125,5 +140,21 @@ inline const QString shippingTabViewIndex = QStringLiteral("shippingTabViewIndex
 inline const QString alwaysShowRecentAddresses = QStringLiteral("alwaysShowRecentAddresses");
 inline const QString alwaysShowRecentItems = QStringLiteral("alwaysShowRecentItems");
 inline const QString alwaysShowRecentShipping = QStringLiteral("alwaysShowRecentShipping");
+
+// Settings of e-invoices and payments: the seller's data, empty until filled in
+inline const QString prefsLegalName = QStringLiteral("prefsLegalName");
+inline const QString prefsStreet = QStringLiteral("prefsStreet");
+inline const QString prefsPostcode = QStringLiteral("prefsPostcode");
+inline const QString prefsCity = QStringLiteral("prefsCity");
+inline const QString prefsCountryCode = QStringLiteral("prefsCountryCode");
+inline const QString prefsVatID = QStringLiteral("prefsVatID");
+inline const QString prefsTaxNumber = QStringLiteral("prefsTaxNumber");
+inline const QString prefsContactEmail = QStringLiteral("prefsContactEmail");
+inline const QString prefsContactPhone = QStringLiteral("prefsContactPhone");
+inline const QString prefsIBAN = QStringLiteral("prefsIBAN");
+inline const QString prefsBIC = QStringLiteral("prefsBIC");
+inline const QString prefsAccountHolder = QStringLiteral("prefsAccountHolder");
+// The PDF export makes Factur-X files (the invoice's data embedded).
+inline const QString prefsFacturXDefault = QStringLiteral("prefsFacturXDefault");
 
 } // namespace vorn::key
