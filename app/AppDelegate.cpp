@@ -6,6 +6,7 @@
 #include "app/StoreSnapshot.h"
 #include "designs/DesignController.h"
 #include "documents/InterchangeFile.h"
+#include "einvoice/EInvoiceController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
@@ -50,6 +51,7 @@ AppDelegate::~AppDelegate()
 {
     m_interchange.reset();
     m_exporter.reset();
+    m_einvoice.reset();
     m_preview.reset();
     m_renderer.reset();
     m_state.setContext(nullptr);
@@ -78,8 +80,18 @@ ExportController& AppDelegate::exporter()
 {
     if (!m_exporter) {
         m_exporter = std::make_unique<ExportController>(m_state, preview(), m_invoicing->calculator());
+        m_exporter->setPdfFinisher([this](const ManagedObject& document, const QByteArray& pdf) {
+            return einvoice().pdfForExport(document, pdf);
+        });
     }
     return *m_exporter;
+}
+
+EInvoiceController& AppDelegate::einvoice()
+{
+    if (!m_einvoice)
+        m_einvoice = std::make_unique<EInvoiceController>(m_state, preview());
+    return *m_einvoice;
 }
 
 InterchangeController& AppDelegate::interchange()

@@ -16,6 +16,7 @@ namespace vorn {
 class AssiController;
 class BackupController;
 class Clock;
+class EInvoiceController;
 class ExportController;
 class InterchangeController;
 class InvoicingControllers;
@@ -58,6 +59,9 @@ public:
     PdfRenderer& renderer();
     PreviewController& preview();
     ExportController& exporter();
+    // E-invoices: Factur-X PDF and XRechnung XML; also what the PDF export
+    // writes when Factur-X is the chosen PDF.
+    EInvoiceController& einvoice();
     // Importing a document file; exporting the listed or all documents as XML.
     InterchangeController& interchange();
     // The reminder sheet's confirming button: the sheet closes and the
@@ -129,6 +133,7 @@ private:
     std::unique_ptr<PdfRenderer> m_renderer;
     std::unique_ptr<PreviewController> m_preview;
     std::unique_ptr<ExportController> m_exporter;
+    std::unique_ptr<EInvoiceController> m_einvoice;
     std::unique_ptr<InterchangeController> m_interchange;
 };
 

@@ -24,6 +24,7 @@ CliRunner::CliRunner()
 {
     registerSettingsCommands(m_registry);
     registerOutputCommands(m_registry);
+    registerEInvoiceCommands(m_registry);
     registerDocumentCommands(m_registry);
     registerDataCommands(m_registry);
     registerDesignCommands(m_registry);

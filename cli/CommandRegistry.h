@@ -83,6 +83,7 @@ ManagedObject* document(CommandContext& c, const QString& doc);
 
 void registerSettingsCommands(CommandRegistry& registry);
 void registerOutputCommands(CommandRegistry& registry);
+void registerEInvoiceCommands(CommandRegistry& registry);
 void registerDocumentCommands(CommandRegistry& registry);
 void registerDataCommands(CommandRegistry& registry);
 void registerDesignCommands(CommandRegistry& registry);

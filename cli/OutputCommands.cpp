@@ -2,6 +2,7 @@
 #include "cli/CliUserInterface.h"
 #include "cli/CommandRegistry.h"
 #include "cli/DocumentCommandSupport.h"
+#include "einvoice/EInvoiceController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/DesignPreview.h"
 #include "output/ExportController.h"
@@ -255,6 +256,11 @@ int pdfCommand(CommandContext& c)
     // As the export sheet does: render into the preview PDF, then save it
     // where asked (never over an existing file) and mark the invoice sent.
     ExportController exporter(state, preview, c.app.invoicing().calculator());
+    // With Factur-X as the chosen PDF, invoices are written as Factur-X files.
+    EInvoiceController einvoice(state, preview);
+    exporter.setPdfFinisher([&einvoice](const ManagedObject& document, const QByteArray& pdf) {
+        return einvoice.pdfForExport(document, pdf);
+    });
     bool rendered = false;
     QObject::connect(&exporter, &ExportController::exportPdfReady, [&rendered] { rendered = true; });
     QEventLoop loop;

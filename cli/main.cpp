@@ -14,7 +14,7 @@ int main(int argc, char** argv)
     // Only rendering needs the GUI application object (on the offscreen
     // platform, without a display); every other command starts without it.
     std::unique_ptr<QCoreApplication> application;
-    if (argc > 1 && std::strcmp(argv[1], "pdf") == 0) {
+    if (argc > 1 && (std::strcmp(argv[1], "pdf") == 0 || std::strcmp(argv[1], "einvoice") == 0)) {
         vorn::PdfRenderer::prepareProcess(true);
         application = std::make_unique<QGuiApplication>(argc, argv);
     } else {

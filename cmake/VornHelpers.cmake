@@ -12,7 +12,7 @@ function(vorn_check_widget_includes)
   file(GLOB_RECURSE sources CONFIGURE_DEPENDS
     ${CMAKE_SOURCE_DIR}/store/* ${CMAKE_SOURCE_DIR}/app/* ${CMAKE_SOURCE_DIR}/cli/*
     ${CMAKE_SOURCE_DIR}/documents/* ${CMAKE_SOURCE_DIR}/invoicing/* ${CMAKE_SOURCE_DIR}/output/*
-    ${CMAKE_SOURCE_DIR}/designs/* ${CMAKE_SOURCE_DIR}/services/*)
+    ${CMAKE_SOURCE_DIR}/designs/* ${CMAKE_SOURCE_DIR}/services/* ${CMAKE_SOURCE_DIR}/einvoice/*)
   set(offenders "")
   foreach(f IN LISTS sources)
     if(f MATCHES "\\.(h|hpp|cpp|cc)$")
@@ -25,7 +25,7 @@ function(vorn_check_widget_includes)
   if(offenders)
     message(FATAL_ERROR "Qt Widgets used outside ui/: ${offenders}")
   endif()
-  foreach(target store documents app cli invoicing output designs services)
+  foreach(target store documents app cli invoicing output einvoice designs services)
     if(TARGET ${target})
       get_target_property(libs ${target} LINK_LIBRARIES)
       if(libs MATCHES "Widgets")

@@ -2,6 +2,7 @@
 
 #include "documents/DocumentsLog.h"
 #include "documents/Formatter.h"
+#include "documents/PaymentQrCode.h"
 #include "store/AtomicFile.h"
 #include "store/Keys.h"
 #include "store/ManagedObject.h"
@@ -104,6 +105,7 @@ PageValues pageValuesForDocument(const ManagedObject& d, const Settings& setting
         v.taxes[size_t(i)].amount = d.floatValue(QStringLiteral("tax%1Amount").arg(n));
         v.taxes[size_t(i)].percent = d.floatValue(QStringLiteral("tax%1Percent").arg(n));
     }
+    v.paymentQr = PaymentQrCode::forDocument(d, settings);
     return v;
 }
 
@@ -189,6 +191,7 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
     add("%LOCTAXES%", v.locTaxes);
     add("%WINDOW%", v.letterbox);
     add("%LOGO%", v.logo);
+    add("%PAYMENTQR%", v.paymentQr);
     return steps;
 }
 

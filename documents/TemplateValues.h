@@ -82,6 +82,9 @@ struct PageValues
     QString locTaxes;
     QString letterbox;
     QString logo;
+    // The EPC payment QR code as inline SVG, or empty. "%PAYMENTQR%" is
+    // replaced after every other token, so pages without it stay as they were.
+    QString paymentQr;
     // Only the design preview knows "%MISCELLANEOUS%".
     std::optional<QString> miscellaneous;
 
@@ -103,7 +106,8 @@ struct ReminderTexts
 PageValues pageValuesForDocument(const ManagedObject& document, const Settings& settings,
                                  const ReminderTexts* reminder);
 
-// The 49 replacement steps of a page, in the order of the language.
+// The 49 replacement steps of a page, in the order of the language, and
+// the payment QR code last.
 Template::Steps pageSteps(const PageValues& values, const Formatter& formatter);
 
 // One line item as an item row shows it.

@@ -53,6 +53,9 @@ bool GUIController::hasPrerequisites(const QString& action) const
         return doc != nullptr;
     if (action == QLatin1String("convertQuoteToInvoice"))
         return doc && doc->isQuote();
+    // E-invoices are made of invoices only.
+    if (action == QLatin1String("exportFacturX") || action == QLatin1String("exportXRechnung"))
+        return doc && doc->isInvoice();
     return true;
 }
 

@@ -1,5 +1,7 @@
 #include "output/DesignPreview.h"
 
+#include "documents/PaymentQrCode.h"
+
 #include "documents/KeyedArchive.h"
 #include "documents/Template.h"
 #include "documents/TemplateValues.h"
@@ -127,6 +129,13 @@ QString DesignPreview::invoiceHTMLString()
         tax.amount = sampleTaxes[i];
         tax.percent = sampleRates[i];
     }
+    // A sample transfer, so that design authors see where the code goes.
+    PaymentQrCode::Payment payment;
+    payment.name = v.company.isEmpty() ? QStringLiteral("Vorn") : v.company;
+    payment.iban = QStringLiteral("DE89370400440532013000");
+    payment.cents = qint64(sampleTotal * 100.0f + 0.5f);
+    payment.remittance = v.letterTitle + QLatin1Char(' ') + v.number;
+    v.paymentQr = PaymentQrCode::svg(PaymentQrCode::payload(payment));
     v.itemsList = fillItemsList(design->stringValue(key::item), sampleItems(),
                                 ItemRowSettings::fromSettings(settings), v.currency, m_preview.formatter());
     Template::apply(text, pageSteps(v, m_preview.formatter()));

@@ -207,7 +207,16 @@ void ExportController::savePdf()
                                               tr("The PDF “%1” could not be read.").arg(m_state.pdfPath)));
         return;
     }
-    if (Status written = AtomicFile::write(to.absoluteFilePath(), source.readAll()); !written)
+    QByteArray pdf = source.readAll();
+    if (m_finishPdf) {
+        Result<QByteArray> finished = m_finishPdf(*m_state.currentInvoice(), pdf);
+        if (!finished) {
+            m_state.ui().presentError(finished.error());
+            return;
+        }
+        pdf = std::move(finished.value());
+    }
+    if (Status written = AtomicFile::write(to.absoluteFilePath(), pdf); !written)
         m_state.ui().presentError(written.error());
 }
 

@@ -39,6 +39,9 @@ public:
     };
     // Hands a message to the user's mail program; false when that failed.
     using Mailer = std::function<bool(const MailMessage&)>;
+    // What the PDF export writes for a document, given its rendered PDF
+    // (a Factur-X file when the user chose so); an error writes nothing.
+    using PdfFinisher = std::function<Result<QByteArray>(const ManagedObject&, const QByteArray&)>;
 
     // Marking an invoice as sent changes its status: the calculator computes
     // the invoice and the list totals anew.
@@ -46,6 +49,7 @@ public:
                      QObject* parent = nullptr);
 
     void setMailer(Mailer mailer) { m_mailer = std::move(mailer); }
+    void setPdfFinisher(PdfFinisher finisher) { m_finishPdf = std::move(finisher); }
     // The default mailer: xdg-email with subject, body, attachment and recipient.
     static bool sendWithXdgEmail(const MailMessage& message);
 
@@ -93,6 +97,7 @@ private:
     PreviewController& m_preview;
     Mailer m_mailer;
     Calculator& m_calculator;
+    PdfFinisher m_finishPdf;
     bool m_okEnabled = false;
     quint64 m_generation = 0;
 };

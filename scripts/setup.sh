@@ -10,6 +10,8 @@ packages=(
   libsqlite3-dev libplist-dev libicu-dev
   libgtest-dev libgmock-dev
   xvfb xauth poppler-utils python3
+  libqpdf-dev qpdf libqrencode-dev
+  zbar-tools python3-pikepdf libsaxonhe-java
   desktop-file-utils appstream libxml2-utils dpkg-dev qt6-translations-l10n
 )
 

@@ -62,6 +62,11 @@ inline const QString misc3 = QStringLiteral("misc3");
 inline const QString misc4 = QStringLiteral("misc4");
 inline const QString misc5 = QStringLiteral("misc5");
 inline const QString items = QStringLiteral("items");
+// Invoice: e-invoices (empty until the user fills them in)
+inline const QString buyerCountryCode = QStringLiteral("buyerCountryCode");
+inline const QString buyerVatID = QStringLiteral("buyerVatID");
+inline const QString buyerReference = QStringLiteral("buyerReference"); // or the Leitweg-ID
+inline const QString orderReference = QStringLiteral("orderReference");
 
 // Item -> Invoice (the owner of a line item)
 inline const QString invoice = QStringLiteral("invoice");
@@ -135,5 +140,21 @@ inline const QString shippingTabViewIndex = QStringLiteral("shippingTabViewIndex
 inline const QString alwaysShowRecentAddresses = QStringLiteral("alwaysShowRecentAddresses");
 inline const QString alwaysShowRecentItems = QStringLiteral("alwaysShowRecentItems");
 inline const QString alwaysShowRecentShipping = QStringLiteral("alwaysShowRecentShipping");
+
+// Settings of e-invoices and payments: the seller's data, empty until filled in
+inline const QString prefsLegalName = QStringLiteral("prefsLegalName");
+inline const QString prefsStreet = QStringLiteral("prefsStreet");
+inline const QString prefsPostcode = QStringLiteral("prefsPostcode");
+inline const QString prefsCity = QStringLiteral("prefsCity");
+inline const QString prefsCountryCode = QStringLiteral("prefsCountryCode");
+inline const QString prefsVatID = QStringLiteral("prefsVatID");
+inline const QString prefsTaxNumber = QStringLiteral("prefsTaxNumber");
+inline const QString prefsContactEmail = QStringLiteral("prefsContactEmail");
+inline const QString prefsContactPhone = QStringLiteral("prefsContactPhone");
+inline const QString prefsIBAN = QStringLiteral("prefsIBAN");
+inline const QString prefsBIC = QStringLiteral("prefsBIC");
+inline const QString prefsAccountHolder = QStringLiteral("prefsAccountHolder");
+// The PDF export makes Factur-X files (the invoice's data embedded).
+inline const QString prefsFacturXDefault = QStringLiteral("prefsFacturXDefault");
 
 } // namespace vorn::key

@@ -113,6 +113,11 @@ ObjectModel::ObjectModel()
         {key::isShippingTax1Enabled, T::Bool},
         {key::isShippingTax2Enabled, T::Bool},
         {key::isShippingTax3Enabled, T::Bool},
+        // E-invoices: the buyer's country, VAT identifier and reference, the order.
+        {key::buyerCountryCode, T::String},
+        {key::buyerVatID, T::String},
+        {key::buyerReference, T::String},
+        {key::orderReference, T::String},
     });
     appendSpare(invoice);
 

@@ -4,6 +4,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QSet>
 #include <QUrl>
 
 #include <sqlite3.h>
@@ -35,6 +36,18 @@ const char* columnType(AttributeType type)
         return "BLOB";
     }
     return "";
+}
+
+// Attributes added after the first files were written. Such a file is
+// brought up to date when it is opened for writing (the new columns start
+// empty); a file only read, such as a backup being checked, may lack them.
+// Older versions of Vorn read and write these files as before: they name
+// the columns they know and leave the others alone.
+bool isLaterColumn(const QString& entity, const QString& column)
+{
+    static const QSet<QString> invoice{QStringLiteral("buyerCountryCode"), QStringLiteral("buyerVatID"),
+                                       QStringLiteral("buyerReference"), QStringLiteral("orderReference")};
+    return entity == QLatin1String("Invoice") && invoice.contains(column);
 }
 
 QString columnList(const EntityDescription& entity)
@@ -247,12 +260,25 @@ Status SqliteStore::prepareSchema(bool& created)
                "made with this version."));
     }
 
+    const bool writable = sqlite3_db_readonly(m_db, "main") != 1;
+    if (!created && writable) {
+        if (Status s = addLaterColumns(); !s)
+            return s;
+    }
+
     // Every table must have every column we read and write.
     for (const auto& entity : m_model.entities()) {
+        QStringList columns;
+        for (const auto& a : entity->attributes()) {
+            if (writable || !isLaterColumn(entity->name(), a.name))
+                columns << quoted(a.name);
+        }
         sqlite3_stmt* stmt = nullptr;
-        const QByteArray sql = QStringLiteral("SELECT %1 FROM %2 LIMIT 0")
-                                   .arg(columnList(*entity), quoted(entity->name()))
-                                   .toUtf8();
+        const QByteArray sql =
+            QStringLiteral("SELECT \"_id\"%1 FROM %2 LIMIT 0")
+                .arg(columns.isEmpty() ? QString() : QLatin1Char(',') + columns.join(QLatin1Char(',')),
+                     quoted(entity->name()))
+                .toUtf8();
         const int rc = sqlite3_prepare_v2(m_db, sql.constData(), -1, &stmt, nullptr);
         sqlite3_finalize(stmt);
         if (rc != SQLITE_OK) {
@@ -265,12 +291,50 @@ Status SqliteStore::prepareSchema(bool& created)
         }
     }
 
-    if (sqlite3_db_readonly(m_db, "main") != 1) {
+    if (writable) {
         // Write-ahead logging: a save is one append and one flush, and readers
         // (the command-line tool) never block the application.
         sqlite3_exec(m_db, "PRAGMA journal_mode=WAL", nullptr, nullptr, nullptr);
         sqlite3_exec(m_db, "PRAGMA synchronous=FULL", nullptr, nullptr, nullptr);
     }
+    return {};
+}
+
+Status SqliteStore::addLaterColumns()
+{
+    QStringList statements;
+    for (const auto& entity : m_model.entities()) {
+        QSet<QString> present;
+        sqlite3_stmt* stmt = nullptr;
+        const QByteArray info = QStringLiteral("PRAGMA table_info(%1)").arg(quoted(entity->name())).toUtf8();
+        if (sqlite3_prepare_v2(m_db, info.constData(), -1, &stmt, nullptr) != SQLITE_OK)
+            return sqliteError(tr("The Vorn database “%1” could not be opened.").arg(m_path));
+        while (sqlite3_step(stmt) == SQLITE_ROW)
+            present.insert(QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(stmt, 1))));
+        sqlite3_finalize(stmt);
+        // A table that is not there at all is damage, found by the check after.
+        if (present.isEmpty())
+            continue;
+        for (const auto& a : entity->attributes()) {
+            if (!present.contains(a.name) && isLaterColumn(entity->name(), a.name))
+                statements << QStringLiteral("ALTER TABLE %1 ADD COLUMN %2 %3")
+                                  .arg(quoted(entity->name()), quoted(a.name),
+                                       QLatin1String(columnType(a.type)));
+        }
+    }
+    if (statements.isEmpty())
+        return {};
+    statements.prepend(QStringLiteral("BEGIN IMMEDIATE"));
+    statements << QStringLiteral("COMMIT");
+    for (const QString& statement : std::as_const(statements)) {
+        if (sqlite3_exec(m_db, statement.toUtf8().constData(), nullptr, nullptr, nullptr) != SQLITE_OK) {
+            const Error e =
+                sqliteError(tr("The Vorn database “%1” could not be brought up to date.").arg(m_path));
+            sqlite3_exec(m_db, "ROLLBACK", nullptr, nullptr, nullptr);
+            return e;
+        }
+    }
+    qCDebug(lcStore) << "added" << statements.size() - 2 << "new columns to" << m_path;
     return {};
 }
 

@@ -68,6 +68,8 @@ private:
     SqliteStore(QString path, sqlite3* db, const ObjectModel& model);
     static Status checkHeader(const QString& path);
     Status prepareSchema(bool& created);
+    // Adds the columns of attributes newer than the file.
+    Status addLaterColumns();
     Status createSchema();
     Error sqliteError(const QString& what) const;
     sqlite3_stmt* statement(const QString& sql);

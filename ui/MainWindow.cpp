@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "app/BackupController.h"
+#include "einvoice/EInvoiceController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
@@ -116,6 +117,8 @@ void MainWindow::createMenus()
     m_fileMenu->addAction(command(QStringLiteral("pdfInvoice")));
     m_fileMenu->addAction(command(QStringLiteral("emailInvoice")));
     m_fileMenu->addAction(command(QStringLiteral("exportInvoice")));
+    m_fileMenu->addAction(command(QStringLiteral("exportFacturX")));
+    m_fileMenu->addAction(command(QStringLiteral("exportXRechnung")));
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(command(QStringLiteral("importInvoice")));
     m_fileMenu->addAction(command(QStringLiteral("exportItems")));
@@ -257,6 +260,10 @@ void MainWindow::createDocumentActions()
                tr("E&xport Document…"), QKeySequence(tr("Ctrl+E")),
                [this] { m_app.exporter().exportInvoice(false); })
         ->setIconText(tr("Export"));
+    addCommand(QStringLiteral("exportFacturX"), "application-pdf", QStyle::SP_DriveFDIcon,
+               tr("Export as E-Invoice (&Factur-X PDF)…"), {}, [this] { m_app.einvoice().exportFacturX(); });
+    addCommand(QStringLiteral("exportXRechnung"), "text-xml", QStyle::SP_FileIcon,
+               tr("Export as XRec&hnung XML…"), {}, [this] { m_app.einvoice().exportXRechnung(); });
 }
 
 void MainWindow::createOutputWindows()

@@ -306,6 +306,17 @@ PreferencesForm* PreferencesWindow::companyPane()
     connect(remove, &QPushButton::clicked, this, [this] { m_designBuilder->removeLogo(); });
     connect(m_designBuilder.get(), &DesignBuilder::designChanged, this, &PreferencesWindow::updateLogo);
     updateLogo();
+    // What e-invoices need of the seller; empty until filled in.
+    f->addSection(tr("E-invoices"));
+    f->addLine(key::prefsLegalName, tr("Le&gal name:"));
+    f->addLine(key::prefsStreet, tr("S&treet:"));
+    f->addLine(key::prefsPostcode, tr("&Postcode:"));
+    f->addLine(key::prefsCity, tr("C&ity:"));
+    f->addLine(key::prefsCountryCode, tr("Co&untry code:"));
+    f->addLine(key::prefsVatID, tr("&VAT identifier:"));
+    f->addLine(key::prefsTaxNumber, tr("Ta&x number:"));
+    f->addLine(key::prefsContactEmail, tr("Contact &e-mail:"));
+    f->addLine(key::prefsContactPhone, tr("Contact p&hone:"));
     f->setMinimumWidth(560);
     return f;
 }
@@ -481,6 +492,11 @@ PreferencesForm* PreferencesWindow::regionPane()
     f->addLine(QStringLiteral("prefsDatePattern"), tr("&Date pattern:"));
     f->addChoice(QStringLiteral("tempPaperSize"), tr("&Paper:"),
                  {tr("US Letter"), tr("US Legal"), tr("A4"), tr("JIS B4"), tr("JIS B5")});
+    f->addSection(tr("Payments"));
+    f->addLine(key::prefsIBAN, tr("&IBAN:"));
+    f->addLine(key::prefsBIC, tr("&BIC:"));
+    f->addLine(key::prefsAccountHolder, tr("Account &holder:"));
+    f->addCheck(key::prefsFacturXDefault, tr("Export invoices as Factur-X PDF (e-invoice)"));
     f->setMinimumWidth(460);
     return f;
 }

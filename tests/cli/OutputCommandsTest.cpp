@@ -134,4 +134,38 @@ TEST_F(OutputCommandsTest, DesignPreviewShowsTheSampleDocument)
     expectFinished(html);
 }
 
+// vorn-cli einvoice: refused with the missing field named and nothing
+// written until the data is complete; then the XML and the Factur-X PDF.
+TEST_F(OutputCommandsTest, EInvoicesAreWrittenOnlyWithCompleteData)
+{
+    const QString id = make("invoice", "INV-8");
+    const QString xml = path("e.xml");
+    const QStringList usage[] = {{"einvoice", id},
+                                 {"einvoice", id, path("e.txt")},
+                                 {"einvoice", id, xml, "--profile", "peppol"},
+                                 {"einvoice", id, xml, "--profile"}};
+    for (const QStringList& args : usage)
+        expectRefusal(run(args), 2);
+    expectRefusal(run({"einvoice", id, xml}), 1, "The buyer's country is missing.");
+    EXPECT_FALSE(QFile::exists(xml));
+
+    const char* seller[][2] = {{"prefsLegalName", "Tandrelo Studio GmbH"},
+                               {"prefsStreet", "Hauptstraße 1"},
+                               {"prefsPostcode", "10115"},
+                               {"prefsCity", "Berlin"},
+                               {"prefsCountryCode", "DE"},
+                               {"prefsVatID", "DE123456789"},
+                               {"prefsIBAN", "DE89370400440532013000"},
+                               {"prefsCurrency", "EUR"}};
+    for (const auto& [key, value] : seller)
+        ok({"defaults", "write", key, QString::fromUtf8(value)});
+    ok({"set", id, "currency=EUR", "address=Muster AG\n80331 München", "buyerCountryCode=DE"});
+    expectRefusal(run({"einvoice", id, xml, "--profile", "xrechnung"}), 1, "(Leitweg-ID) is missing");
+    EXPECT_EQ(ok({"einvoice", id, xml}).out.trimmed(), xml);
+    EXPECT_TRUE(readFile(xml).contains("<ram:DuePayableAmount>"));
+    expectRefusal(run({"einvoice", id, xml}), 3, "already exists");
+    ok({"einvoice", id, path("e.pdf")});
+    EXPECT_TRUE(readFile(path("e.pdf")).startsWith("%PDF-1.7"));
+}
+
 } // namespace

@@ -257,5 +257,32 @@ TEST_F(StoreFixture, AFullDiskLosesNothingSavedAndTheStoreOpensOnceThereIsSpace)
     EXPECT_EQ(sql("PRAGMA integrity_check"), "ok");
 }
 
+// A file written before the e-invoice fields gets their columns, empty, when
+// it is opened for writing; checking it (as a backup to restore) changes
+// nothing; its schema version stays, so older versions still open it.
+TEST_F(StoreFixture, OlderFilesGainTheNewColumnsWhenOpened)
+{
+    newDocument(QStringLiteral("Old"));
+    ASSERT_TRUE(context()->save());
+    m_context.reset();
+    sql(QStringLiteral(
+        "ALTER TABLE Invoice DROP COLUMN buyerCountryCode; ALTER TABLE Invoice DROP COLUMN orderReference"));
+    const QString columns = QStringLiteral("SELECT count(*) FROM pragma_table_info('Invoice') WHERE name IN "
+                                           "('buyerCountryCode', 'orderReference')");
+    EXPECT_TRUE(SqliteStore::validate(path(), ObjectModel::vorn()).ok());
+    EXPECT_EQ(sql(columns), QStringLiteral("0"));
+
+    ManagedObject* old = reopen() ? document(QStringLiteral("Old")) : nullptr;
+    ASSERT_TRUE(old);
+    EXPECT_EQ(sql(columns), QStringLiteral("2"));
+    EXPECT_FALSE(old->hasValue(QStringLiteral("buyerCountryCode")));
+    old->setValue(QStringLiteral("buyerCountryCode"), QStringLiteral("DE"));
+    ASSERT_TRUE(context()->save());
+    reopen();
+    EXPECT_EQ(document(QStringLiteral("Old"))->stringValue(QStringLiteral("buyerCountryCode")),
+              QStringLiteral("DE"));
+    EXPECT_EQ(sql(QStringLiteral("PRAGMA user_version")), QStringLiteral("1"));
+}
+
 } // namespace
 } // namespace vorn::test

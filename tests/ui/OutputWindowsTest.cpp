@@ -187,5 +187,24 @@ TEST_F(OutputWindowsTest, SavingThePdfWritesTheFileMarksTheInvoiceSentAndCountsI
     EXPECT_EQ(app->state().invoiceCount, 1) << "a sent invoice is counted under the list";
 }
 
+// The File menu's e-invoice commands are there for invoices only; with the
+// seller's data missing, the export says so and asks for no file.
+TEST_F(OutputWindowsTest, EInvoiceCommandsSayWhatIsMissing)
+{
+    window->validateCommands();
+    ASSERT_TRUE(window->command(QStringLiteral("exportXRechnung"))->isEnabled());
+    ui.clear();
+    trigger("exportXRechnung");
+    const auto alerts = ui.calls(QStringLiteral("alert"));
+    ASSERT_EQ(alerts.size(), 1);
+    EXPECT_EQ(alerts.first().title, QStringLiteral("The e-invoice cannot be made"));
+    EXPECT_TRUE(alerts.first().text.contains(QStringLiteral("The buyer's country is missing.")));
+    EXPECT_TRUE(ui.calls(QStringLiteral("save")).isEmpty());
+
+    app->invoicing().data().addQuote();
+    window->validateCommands();
+    EXPECT_FALSE(window->command(QStringLiteral("exportFacturX"))->isEnabled());
+}
+
 } // namespace
 } // namespace vorn::test

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "einvoice/EInvoiceData.h"
+
+#include <QStringList>
+
+namespace vorn {
+
+// The rules of EN 16931 (and of XRechnung, for that profile) that can be
+// checked on Vorn's data, said in the user's words: what is missing or wrong,
+// and where to put it right. An e-invoice is written only when the list is
+// empty.
+namespace EInvoiceValidator {
+
+QStringList problems(const EInvoiceData& invoice);
+// ISO 3166-1 alpha-2 (and "EL", which VAT identifiers use for Greece).
+bool isCountryCode(const QString& code);
+
+} // namespace EInvoiceValidator
+} // namespace vorn
