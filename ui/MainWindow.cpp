@@ -519,10 +519,8 @@ void MainWindow::showPage(int index)
 void MainWindow::showCurrentPage(bool fade)
 {
     const int index = currentPageIndex();
-    if (QAction* page = m_pageActions->actions().value(index); page && !page->isChecked()) {
-        const QSignalBlocker block(page);
+    if (QAction* page = m_pageActions->actions().value(index); page && !page->isChecked())
         page->setChecked(true);
-    }
     QWidget* next = m_app.state().currentInvoice() ? m_pages->widget(index) : m_noDocument;
     if (next == m_pages->currentWidget())
         return;

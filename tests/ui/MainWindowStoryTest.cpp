@@ -79,7 +79,8 @@ public:
         if (folder.isEmpty())
             return;
         QDir().mkpath(folder);
-        QApplication::processEvents();
+        // The page fade has ended.
+        QTest::qWait(200);
         widget->grab().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
     }
     QPushButton* button(QWidget* parent, const QString& text)
