@@ -10,6 +10,7 @@
 #include "store/ManagedObject.h"
 
 #include <QHash>
+#include <QTimer>
 
 namespace vorn {
 
@@ -116,8 +117,22 @@ bool DocumentEditor::setItemValue(ManagedObject* item, const QString& key, const
     ObjectContext* context = m_state.context();
     UndoGroup group(context ? context->undoManager() : nullptr, actionName(key));
     item->setValue(key, v);
-    m_calculator.calculateInvoice(doc);
+    // The line and its document at once; the list totals over every listed
+    // document follow when the event loop next turns, once for a burst of edits.
+    m_calculator.calculateInvoiceAmounts(doc);
+    scheduleListTotals();
     return true;
+}
+
+void DocumentEditor::scheduleListTotals()
+{
+    if (m_totalsScheduled)
+        return;
+    m_totalsScheduled = true;
+    QTimer::singleShot(0, this, [this] {
+        m_totalsScheduled = false;
+        m_calculator.calculateDatabase();
+    });
 }
 
 QString DocumentEditor::actionName(const QString& key)

@@ -35,7 +35,9 @@ public:
     // value. Numbers typed as text read the forgiving way.
     bool setDocumentValue(const QString& key, const QVariant& value);
     // The same for one line of the current document; lines of a sent
-    // document are refused with the sent-lock alert.
+    // document are refused with the sent-lock alert. The line and the
+    // document are recomputed at once, the list totals on the next turn of
+    // the event loop.
     bool setItemValue(ManagedObject* item, const QString& key, const QVariant& value);
 
     // The name of the undoable action that changes an attribute.
@@ -49,8 +51,11 @@ public:
     QDateTime dateDaysFromToday(qint64 days) const;
 
 private:
+    void scheduleListTotals();
+
     AppState& m_state;
     Calculator& m_calculator;
+    bool m_totalsScheduled = false;
 };
 
 } // namespace vorn

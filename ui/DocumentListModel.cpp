@@ -184,10 +184,12 @@ QVariant DocumentListModel::headerData(int section, Qt::Orientation orientation,
 
 QColor DocumentListModel::stampColor(const QString& stamp)
 {
-    static const QHash<QString, QColor> colors{
-        {QStringLiteral("StampM0"), QColor(0x9e, 0x9e, 0x9e)}, {QStringLiteral("StampM1"), QColor(0x1e, 0x88, 0xe5)},
-        {QStringLiteral("StampM2"), QColor(0xc6, 0x28, 0x28)}, {QStringLiteral("StampM3"), QColor(0x2e, 0x7d, 0x32)},
-        {QStringLiteral("StampM4"), QColor(0xef, 0x8f, 0x00)}, {QStringLiteral("StampM5"), QColor(0x7b, 0x1f, 0xa2)}};
+    static const QHash<QString, QColor> colors{{QStringLiteral("StampM0"), QColor(0x9e, 0x9e, 0x9e)},
+                                               {QStringLiteral("StampM1"), QColor(0x1e, 0x88, 0xe5)},
+                                               {QStringLiteral("StampM2"), QColor(0xc6, 0x28, 0x28)},
+                                               {QStringLiteral("StampM3"), QColor(0x2e, 0x7d, 0x32)},
+                                               {QStringLiteral("StampM4"), QColor(0xef, 0x8f, 0x00)},
+                                               {QStringLiteral("StampM5"), QColor(0x7b, 0x1f, 0xa2)}};
     return colors.value(stamp);
 }
 

@@ -21,8 +21,8 @@ inline QLabel* addFormRow(QFormLayout* form, const QString& label, QWidget* fiel
 inline QFormLayout* newForm()
 {
     auto* form = new QFormLayout;
-    // Long labels (German) wrap instead of pushing the fields away.
-    form->setRowWrapPolicy(QFormLayout::WrapLongRows);
+    // Labels take the width they need (German ones are long); fields get the rest.
+    form->setRowWrapPolicy(QFormLayout::DontWrapRows);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     form->setLabelAlignment(Qt::AlignRight | Qt::AlignVCenter);
     return form;

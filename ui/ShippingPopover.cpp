@@ -47,18 +47,13 @@ ShippingPopover::ShippingPopover(AppDelegate& app, QWidget* parent) : Popover(pa
     addFormRow(form, tr("A&mount:"), m_amount);
     addFormRow(form, tr("N&ote:"), m_note);
     auto* taxes = new QHBoxLayout;
-    const Settings& s = app.settings();
-    const QString titles[3] = {key::tax1Title, key::tax2Title, key::tax3Title};
-    const QString enabled[3] = {key::tax1Enabled, key::tax2Enabled, key::tax3Enabled};
     const QString keys[3] = {key::isShippingTax1Enabled, key::isShippingTax2Enabled,
                              key::isShippingTax3Enabled};
     for (int i = 0; i < 3; ++i) {
-        auto* box = new QCheckBox(s.stringValue(titles[i]).isEmpty() ? tr("Tax %1").arg(i + 1)
-                                                                     : s.stringValue(titles[i]));
-        box->setObjectName(QStringLiteral("shippingPopoverTax%1Button").arg(i + 1));
-        box->setVisible(s.boolValue(enabled[i]));
-        taxes->addWidget(box);
-        m_fields->bindCheck(box, keys[i]);
+        m_tax[i] = new QCheckBox(tr("Tax %1").arg(i + 1));
+        m_tax[i]->setObjectName(QStringLiteral("shippingPopoverTax%1Button").arg(i + 1));
+        taxes->addWidget(m_tax[i]);
+        m_fields->bindCheck(m_tax[i], keys[i]);
     }
     taxes->addStretch(1);
     form->addRow(tr("Taxes:"), taxes);
@@ -137,6 +132,15 @@ void ShippingPopover::sync()
 {
     const bool shown = m_app.invoicing().shipping().isShippingPopoverShown();
     if (shown && !isVisible()) {
+        // The taxes as the settings name and switch them now.
+        const Settings& s = m_app.settings();
+        const QString titles[3] = {key::tax1Title, key::tax2Title, key::tax3Title};
+        const QString enabled[3] = {key::tax1Enabled, key::tax2Enabled, key::tax3Enabled};
+        for (int i = 0; i < 3; ++i) {
+            const QString title = s.stringValue(titles[i]);
+            m_tax[i]->setText(title.isEmpty() ? tr("Tax %1").arg(i + 1) : title);
+            m_tax[i]->setVisible(s.boolValue(enabled[i]));
+        }
         m_fields->refresh();
         fillRecent();
         m_note->setText(m_app.invoicing().shipping().note());

@@ -2,6 +2,7 @@
 
 #include "ui/Popover.h"
 
+class QCheckBox;
 class QLineEdit;
 class QListWidget;
 class QTabWidget;
@@ -37,6 +38,7 @@ private:
     QLineEdit* m_amount;
     QLineEdit* m_note;
     QListWidget* m_recent;
+    QCheckBox* m_tax[3];
 };
 
 } // namespace vorn

@@ -285,6 +285,9 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     EXPECT_NE(window->totalsLabel()->text(), allTotals);
     EXPECT_TRUE(window->filterButton()->property("filterActive").toBool());
     shoot(window.get(), QStringLiteral("12-filtered"));
+    window->resize(1920, 1080);
+    window->showPage(1);
+    shoot(window.get(), QStringLiteral("15-items-1920"));
 }
 
 // A sent invoice: its fields are read-only and say why, its lines cannot be
