@@ -45,6 +45,9 @@ public:
             painter->restore();
             return;
         }
+        // Numbers differ at their end ("INV-2026-1001"): a short cell keeps both ends.
+        if (index.column() == DocumentListModel::NumberColumn)
+            opt.textElideMode = Qt::ElideMiddle;
         opt.rect.adjust(kCellPadding - 3, 0, -(kCellPadding - 3), 0);
         style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
     }
@@ -79,6 +82,7 @@ DocumentListView::DocumentListView(QWidget* parent) : QTableView(parent)
     horizontalHeader()->setMinimumSectionSize(24);
     // The list is narrow: the client column gives way rather than scrolling sideways.
     setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
     horizontalHeader()->setStyleSheet(
         QStringLiteral("QHeaderView::section { padding-left: %1px; padding-right: %1px; }")
             .arg(kCellPadding - 2));
@@ -94,12 +98,16 @@ void DocumentListView::setModel(QAbstractItemModel* model)
     QHeaderView* header = horizontalHeader();
     const QFontMetrics metrics = fontMetrics();
     const auto width = [&metrics](const QString& sample) { return metrics.horizontalAdvance(sample) + 28; };
+    // The list pane is narrow: cells just fit their text and padding.
+    const auto tight = [&metrics](const QString& sample) {
+        return metrics.horizontalAdvance(sample) + 2 * (kCellPadding - 3) + 6;
+    };
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setSectionResizeMode(DocumentListModel::ClientColumn, QHeaderView::Stretch);
-    header->resizeSection(DocumentListModel::NumberColumn, width(QStringLiteral("INV-2026-00")) - 16);
+    header->resizeSection(DocumentListModel::NumberColumn, tight(QStringLiteral("INV-2026")));
     header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Consulting, November 2026")));
-    header->resizeSection(DocumentListModel::DateColumn, width(QStringLiteral("00/00/00")) - 18);
-    header->resizeSection(DocumentListModel::AmountColumn, width(QStringLiteral("0,000.00 $")) - 16);
+    header->resizeSection(DocumentListModel::DateColumn, tight(QStringLiteral("00/00/00")));
+    header->resizeSection(DocumentListModel::AmountColumn, tight(QStringLiteral("00,000.00 $")));
     header->setSectionResizeMode(DocumentListModel::StatusColumn, QHeaderView::Fixed);
     header->resizeSection(DocumentListModel::StatusColumn, 22);
 }

@@ -27,6 +27,7 @@ namespace {
 QWidget* row(std::initializer_list<QWidget*> widgets)
 {
     auto* box = new QWidget;
+    box->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     auto* layout = new QHBoxLayout(box);
     layout->setContentsMargins(0, 0, 0, 0);
     for (QWidget* w : widgets)
@@ -61,7 +62,9 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
     scroll->setFrameShape(QFrame::NoFrame);
     auto* content = new QWidget;
     auto* form = newForm();
-    content->setLayout(form);
+    auto* contentLayout = new QVBoxLayout(content);
+    contentLayout->addLayout(form);
+    contentLayout->addStretch(1);
     scroll->setWidget(content);
     outer->addWidget(scroll, 1);
 

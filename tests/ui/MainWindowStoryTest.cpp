@@ -340,6 +340,25 @@ TEST_F(MainWindowStoryTest, EveryControlHasAnAccessibleName)
             EXPECT_TRUE(named) << page->objectName().toStdString() << ": " << w->metaObject()->className()
                                << ' ' << w->objectName().toStdString();
         }
+
+    // A long document fills the table; its totals stay in view.
+    ManagedObject* invoice = app->state().currentInvoice();
+    ObjectContext* context = app->state().context();
+    for (int i = 0; i < 1000; ++i) {
+        ManagedObject* item = context->insertNewObject(Entity::Item);
+        item->setValue(key::title, QStringLiteral("Line %1").arg(i + 1));
+        item->setValue(key::unitCount, 1.0f + float(i % 3));
+        item->setValue(key::baseAmount, 9.5f);
+        item->setValue(key::isTax1Applied, true);
+        item->setValue(key::tax1Percent, 0.07f);
+        invoice->insertObject(key::items, item);
+    }
+    app->invoicing().items().refreshItems();
+    app->invoicing().calculator().calculateInvoice(invoice);
+    window->showPage(1);
+    EXPECT_EQ(window->itemsPage()->model()->rowCount(), 1000);
+    EXPECT_TRUE(window->itemsPage()->totalsLabel()->text().contains(QStringLiteral("Subtotal 18,990.50")));
+    shoot(window.get(), QStringLiteral("16-thousand-items"));
 }
 
 } // namespace
