@@ -3,7 +3,9 @@
 #include "app/AppLog.h"
 #include "app/AssiController.h"
 #include "app/BackupController.h"
+#include "app/StoreSnapshot.h"
 #include "designs/DesignController.h"
+#include "documents/InterchangeFile.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
@@ -33,6 +35,10 @@ AppDelegate::AppDelegate(Settings& settings, UserInterface& ui, const Clock& clo
     : QObject(parent), m_state(settings, ui, clock, std::move(locations)),
       m_backup(std::make_unique<BackupController>(*this)), m_assi(std::make_unique<AssiController>(*this))
 {
+    // The English list declares every key's type and its default, which is
+    // what a value of the wrong type reads as.
+    if (auto english = defaultList(defaultListName(0)))
+        settings.setDeclaredDefaults(english.value());
     m_invoicing = std::make_unique<InvoicingControllers>(m_state);
     setTemplateLoader([this] {
         if (Status s = DesignController(m_state).loadTemplates(); !s)
@@ -157,7 +163,22 @@ ObjectContext* AppDelegate::managedObjectContext()
     m_context =
         std::make_unique<ObjectContext>(std::move(m_coordinator), m_state.clock(), *managedObjectModel());
     m_state.setContext(m_context.get());
+    watchSaves();
     return m_context.get();
+}
+
+void AppDelegate::watchSaves()
+{
+    connect(m_context.get(), &ObjectContext::saveFailed, this, &AppDelegate::saveFailed);
+    connect(m_context.get(), &ObjectContext::didSave, this, [this] { m_saveFailureShown = false; });
+}
+
+void AppDelegate::saveFailed(const Error& error)
+{
+    if (m_presentsOwnSaveFailure || m_saveFailureShown)
+        return;
+    m_saveFailureShown = true;
+    ui().presentError(error);
 }
 
 void AppDelegate::adoptStore(std::unique_ptr<SqliteStore> store)
@@ -169,6 +190,7 @@ void AppDelegate::adoptStore(std::unique_ptr<SqliteStore> store)
     }
     m_context = std::make_unique<ObjectContext>(std::move(store), m_state.clock(), *managedObjectModel());
     m_state.setContext(m_context.get());
+    watchSaves();
 }
 
 void AppDelegate::awakeFromNib()
@@ -273,8 +295,11 @@ void AppDelegate::saveAction()
         qCWarning(lcApp).noquote() << QStringLiteral("%1:%2 unable to commit editing before saving")
                                           .arg(QLatin1String(metaObject()->className()),
                                                QLatin1String("saveAction:"));
-    if (Status s = m_context->save(); !s)
-        ui().presentError(s.error());
+    m_presentsOwnSaveFailure = true;
+    const Status saved = m_context->save();
+    m_presentsOwnSaveFailure = false;
+    if (!saved)
+        ui().presentError(saved.error());
 }
 
 AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
@@ -304,7 +329,9 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
     }
     if (!m_context->hasChanges())
         return finish(true);
-    Status saved = m_context->save();
+    m_presentsOwnSaveFailure = true;
+    const Status saved = m_context->save();
+    m_presentsOwnSaveFailure = false;
     if (saved)
         return finish(true);
     if (ui().presentError(saved.error())) {
@@ -323,9 +350,27 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
     return finish(true);
 }
 
+Status AppDelegate::checkOpenedFile(const QString& path)
+{
+    const QString suffix = QFileInfo(path).suffix().toLower();
+    if (suffix == QLatin1String("vorn") || suffix == QLatin1String("design")) {
+        const auto read = suffix == QLatin1String("vorn") ? InterchangeFile::readDocumentFile(path)
+                                                          : InterchangeFile::readDesignFile(path);
+        return read ? Status() : Status(read.error());
+    }
+    if (suffix == QLatin1String("vndb"))
+        return StoreSnapshot::checkIntegrity(path);
+    return {};
+}
+
 bool AppDelegate::applicationOpenFile(const QString& path)
 {
-    Q_UNUSED(path);
+    // A file the reader refuses is named with the reader's own message, so
+    // the user knows the file itself is the problem, not the way it came in.
+    if (Status readable = checkOpenedFile(path); !readable) {
+        ui().presentError(readable.error());
+        return true;
+    }
     ui().runAlert(
         {tr("Vorn, Vorn Documents, and the Vorn Database"),
          tr("In order to avoid duplicate entries, hiccups, and to keep the database intact - please use "

@@ -95,14 +95,26 @@ public:
         Cancel
     };
     TerminateReply applicationShouldTerminate();
-    // A file dropped on the application is never opened directly.
+    // A file dropped on the application is never opened directly: a
+    // readable one gets the note on importing, a damaged one the reader's
+    // message.
     bool applicationOpenFile(const QString& path);
+    // Whether a document, design or database file can be read (other files pass).
+    static Status checkOpenedFile(const QString& path);
     bool applicationShouldHandleReopen() const { return true; }
 
 Q_SIGNALS:
     void storeLoaded();
 
 private:
+    // A failed save is told to the user once, with its cause, until a save
+    // succeeds again; the commands that present their own failure (Save,
+    // Quit) are not told twice.
+    void watchSaves();
+    void saveFailed(const Error& error);
+    bool m_saveFailureShown = false;
+    bool m_presentsOwnSaveFailure = false;
+
     bool m_modelLoaded = false;
     bool m_coordinatorBuilt = false;
     bool m_contextBuilt = false;

@@ -3,6 +3,8 @@
 #include "app/AppDelegate.h"
 #include "app/AppLog.h"
 #include "services/NewsletterSubscription.h"
+#include "services/ZRUpdateChecker.h"
+#include "store/Clock.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
 
@@ -84,6 +86,20 @@ QString AssiController::contact() const
 void AssiController::setContact(const QString& contact)
 {
     settings().setValue(prefsContact, contact);
+}
+
+bool AssiController::checkForUpdates() const
+{
+    return settings().boolValue(ZRUpdateChecker::checkAtStartupKey);
+}
+
+void AssiController::setCheckForUpdates(bool enabled)
+{
+    settings().setValue(ZRUpdateChecker::checkAtStartupKey, enabled);
+    settings().setValue(ZRUpdateChecker::firstUpdateCheckKey, true);
+    // The first check comes a day later, not while the assistant is open.
+    settings().setValue(ZRUpdateChecker::lastCheckSecondsKey,
+                        ZRUpdateChecker::referenceSeconds(m_app.state().clock().now()));
 }
 
 void AssiController::setSubscriptionEmail(const QString& email)

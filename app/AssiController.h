@@ -48,6 +48,10 @@ public:
     void setCompanyName(const QString& name);
     QString contact() const;
     void setContact(const QString& contact);
+    // The consent to the daily update check, asked on the company page;
+    // answering it there means the launch does not ask again.
+    bool checkForUpdates() const;
+    void setCheckForUpdates(bool enabled);
     const QString& subscriptionEmail() const { return m_subscriptionEmail; }
     void setSubscriptionEmail(const QString& email);
     NewsletterSubscription& newsletter() { return *m_newsletter; }

@@ -7,11 +7,11 @@
 // Targets: 5 ms, 20 ms, 1 ms, 10 ms. The generated store is kept between runs
 // (VORN_BENCH_CACHE names the folder).
 
-#include "bench/BenchSupport.h"
 #include "app/AppDelegate.h"
+#include "bench/BenchSupport.h"
 #include "invoicing/InvoicingControllers.h"
-#include "invoicing/Keys.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
 #include "store/SqliteStore.h"

@@ -12,7 +12,7 @@
 #include "app/AppDelegate.h"
 #include "bench/BenchSupport.h"
 #include "invoicing/InvoicingControllers.h"
-#include "invoicing/Keys.h"
+#include "store/Keys.h"
 #include "store/Clock.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"

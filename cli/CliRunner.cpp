@@ -39,7 +39,8 @@ int CliRunner::run(QStringList args, QTextStream& out, QTextStream& err)
     const QStringList original = args;
     const Command* command = m_registry.find(args);
     if (!command) {
-        err << "vorn-cli: " << tr("unknown command “%1”; see vorn-cli --help").arg(original.join(QLatin1Char(' ')))
+        err << "vorn-cli: "
+            << tr("unknown command “%1”; see vorn-cli --help").arg(original.join(QLatin1Char(' ')))
             << Qt::endl;
         return ExitCode::Usage;
     }
@@ -80,15 +81,16 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
     if (!readOnly)
         app.applicationDidFinishLaunching();
     if (command.needsStore && !app.managedObjectContext()) {
-        const Error e = ui.errors().isEmpty() ? Error::make(ErrorCode::StoreInitFailed, tr("Failed to initialize the store"))
-                                              : ui.errors().first();
+        const Error e = ui.errors().isEmpty()
+                            ? Error::make(ErrorCode::StoreInitFailed, tr("Failed to initialize the store"))
+                            : ui.errors().first();
         return fail(e.fullText(), ExitCode::Failure);
     }
     if (lockError && command.changesStore)
         return fail(lockError->message + QLatin1Char(' ') + lockError->reason, ExitCode::Failure);
     ui.clear();
 
-    CommandContext context{app, ui, args, {}, {}};
+    CommandContext context{app, ui, args, {}, {}, {}};
     int code = command.run(context);
     if (code == ExitCode::Done && ui.refusal()) {
         code = ExitCode::Refused;
@@ -108,6 +110,9 @@ int CliRunner::runCommand(const Command& command, QStringList args, QTextStream&
         app.applicationShouldTerminate();
     }
 
+    // A question the command answered comes first, also before a refusal.
+    out << context.asked;
+    out.flush();
     if (code != ExitCode::Done)
         return fail(context.message, code);
     out << context.out;

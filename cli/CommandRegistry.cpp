@@ -1,6 +1,7 @@
 #include "cli/CommandRegistry.h"
 
 #include "app/AppDelegate.h"
+#include "store/Keys.h"
 
 #include <QDateTime>
 #include <QTimeZone>
@@ -125,10 +126,10 @@ ManagedObject* document(CommandContext& c, const QString& doc)
             return all[n - 1];
     } else {
         for (ManagedObject* o : std::as_const(all))
-            if (o->stringValue(QStringLiteral("uniqueID")) == doc)
+            if (o->stringValue(key::uniqueID) == doc)
                 return o;
         for (ManagedObject* o : std::as_const(all))
-            if (!doc.isEmpty() && o->stringValue(QStringLiteral("number")) == doc)
+            if (!doc.isEmpty() && o->stringValue(key::number) == doc)
                 return o;
     }
     c.message = CommandRegistry::tr("no document “%1”").arg(doc);

@@ -29,8 +29,9 @@ struct CommandContext
     AppDelegate& app;
     CliUserInterface& ui;
     QStringList args;
-    QString out;      // printed only when the run succeeds
-    QString message;  // the error line for a non-zero exit
+    QString out;     // printed only when the run succeeds
+    QString message; // the error line for a non-zero exit
+    QString asked;   // a question the command answered: printed first, whatever the outcome
     // Answers a usage error.
     int usage(const QString& text)
     {

@@ -37,7 +37,14 @@ int check(CommandContext& c)
         c.out = QStringLiteral("copied\n");
         break;
     case Result::Repaired:
-        c.out = BackupController::repairQuestionText() + QStringLiteral("\nrepaired\n");
+        c.asked = BackupController::repairQuestionText() + QLatin1Char('\n');
+        c.out = QStringLiteral("repaired\n");
+        break;
+    case Result::RepairDeclined:
+    case Result::RepairFailed:
+        // The question came first; what ended the repair (the missing-copy
+        // alert, an error) follows from the interface and ends the run.
+        c.asked = BackupController::repairQuestionText() + QLatin1Char('\n');
         break;
     case Result::Skipped:
         return c.fail(
@@ -46,10 +53,8 @@ int check(CommandContext& c)
         return c.fail(CommandRegistry::tr("Failed to initialize the store"));
     case Result::AlreadyDone:
     case Result::CopyFailed:
-    case Result::RepairDeclined:
-    case Result::RepairFailed:
-        // Errors and the missing-copy alert were reported through the
-        // interface and end the run with their own text.
+        // Errors were reported through the interface and end the run with
+        // their own text.
         break;
     }
     return ExitCode::Done;

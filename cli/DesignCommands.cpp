@@ -3,6 +3,7 @@
 #include "cli/CommandRegistry.h"
 #include "cli/Json.h"
 #include "designs/DesignController.h"
+#include "store/Keys.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -39,9 +40,9 @@ QVariantMap listEntry(const ArrayController& list, const ManagedObject* design)
 {
     return {
         {QStringLiteral("index"), qint64(list.arrangedObjects().indexOf(const_cast<ManagedObject*>(design)))},
-        {QStringLiteral("title"), design->stringValue(QStringLiteral("title"))},
-        {QStringLiteral("isDefault"), design->boolValue(QStringLiteral("isDefault"))},
-        {QStringLiteral("uniqueID"), design->stringValue(QStringLiteral("uniqueID"))}};
+        {key::title, design->stringValue(key::title)},
+        {key::isDefault, design->boolValue(key::isDefault)},
+        {key::uniqueID, design->stringValue(key::uniqueID)}};
 }
 
 bool failedWithError(CommandContext& c)
@@ -151,8 +152,7 @@ int designSet(CommandContext& c)
     const auto pairs = Cli::keyValues(c, c.args.mid(1));
     if (!pairs)
         return ExitCode::Usage;
-    static const QStringList keys{QStringLiteral("invoice"), QStringLiteral("item"), QStringLiteral("css"),
-                                  QStringLiteral("title")};
+    static const QStringList keys{key::invoice, key::item, key::css, key::title};
     QList<std::pair<QString, QString>> values;
     for (const auto& [key, text] : *pairs) {
         if (!keys.contains(key))

@@ -4,8 +4,8 @@
 #include "cli/DocumentCommandSupport.h"
 #include "cli/Json.h"
 #include "invoicing/InvoicingControllers.h"
-#include "invoicing/Keys.h"
 #include "invoicing/SentLock.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 
 namespace vorn {

@@ -4,8 +4,8 @@
 #include "cli/DocumentCommandSupport.h"
 #include "cli/Json.h"
 #include "invoicing/InvoicingControllers.h"
-#include "invoicing/Keys.h"
 #include "invoicing/TextValue.h"
+#include "store/Keys.h"
 
 namespace vorn {
 
@@ -27,19 +27,19 @@ int itemAdd(CommandContext& c)
     items.showItemPopover();
     ItemController::Popover& p = items.popover();
     for (const auto& [k, value] : *pairs) {
-        if (k == QLatin1String("title"))
+        if (k == key::title)
             p.title = value;
-        else if (k == QLatin1String("subtitle"))
+        else if (k == key::subtitle)
             p.subtitle = value;
-        else if (k == QLatin1String("unit"))
+        else if (k == key::unit)
             p.unit = value;
-        else if (k == QLatin1String("sku"))
+        else if (k == key::sku)
             p.sku = value;
-        else if (k == QLatin1String("note"))
+        else if (k == key::note)
             p.note = value;
-        else if (k == QLatin1String("baseAmount"))
+        else if (k == key::baseAmount)
             p.baseAmount = value;
-        else if (k == QLatin1String("unitCount"))
+        else if (k == key::unitCount)
             c.app.state().itemPopoverQuantity = floatValueOfText(value);
         else if (k == QLatin1String("tax1") || k == QLatin1String("tax2") || k == QLatin1String("tax3")) {
             const std::optional<bool> on = Cli::parseBool(value);
@@ -207,15 +207,15 @@ int shipping(CommandContext& c)
             return on.has_value();
         };
         bool ok = true;
-        if (k == QLatin1String("title"))
+        if (k == key::title)
             doc->setValue(key::shippingTitle, value);
-        else if (k == QLatin1String("subtitle"))
+        else if (k == key::subtitle)
             doc->setValue(key::shippingSubtitle, value);
-        else if (k == QLatin1String("note"))
+        else if (k == key::note)
             sc.note() = value;
-        else if (k == QLatin1String("amount"))
+        else if (k == key::amount)
             doc->setValue(key::shippingAmount, floatValueOfText(value));
-        else if (k == QLatin1String("hasSubtitle"))
+        else if (k == key::hasSubtitle)
             ok = flag(key::hasShippingSubtitle);
         else if (k == QLatin1String("tax1"))
             ok = flag(key::isShippingTax1Enabled);
@@ -259,7 +259,7 @@ int discount(CommandContext& c)
         if (!pairs)
             return ExitCode::Usage;
         for (const auto& kv : *pairs)
-            if (kv.first != QLatin1String("title") && kv.first != QLatin1String("subtitle"))
+            if (kv.first != key::title && kv.first != key::subtitle)
                 return c.usage(usage);
         extras = *pairs;
     }
@@ -277,7 +277,7 @@ int discount(CommandContext& c)
         return ExitCode::Done; // refused with an alert
     doc->setValue(key::isDiscountEnabled, true);
     if (kind == QLatin1String("fixed")) {
-        doc->setValue(key::discountKind, qint64(0));
+        doc->setDiscountKind(DiscountKind::Amount);
         doc->setValue(key::discountAmount, floatValueOfText(valueText));
     } else {
         // Rates are fractions (0.1); "10%" is the same rate written as a percentage.
@@ -285,11 +285,11 @@ int discount(CommandContext& c)
         float rate = floatValueOfText(percentSign ? valueText.chopped(1) : valueText);
         if (percentSign)
             rate = rate / 100.0f;
-        doc->setValue(key::discountKind, qint64(1));
+        doc->setDiscountKind(DiscountKind::Rate);
         doc->setValue(key::discountPercent, rate);
     }
     for (const auto& [k, value] : std::as_const(extras)) {
-        if (k == QLatin1String("title")) {
+        if (k == key::title) {
             doc->setValue(key::discountTitle, value);
         } else {
             doc->setValue(key::discountSubtitle, value);

@@ -1,5 +1,6 @@
 #include "cli/Json.h"
 
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 
 #include <QDateTime>
@@ -52,8 +53,7 @@ QString quote(const QString& text)
 
 namespace {
 
-template <typename T>
-QString shortest(T value)
+template <typename T> QString shortest(T value)
 {
     if (!std::isfinite(value))
         return QStringLiteral("null");
@@ -129,7 +129,7 @@ QString objectDictionary(const ManagedObject& object, bool withItems)
         if (v.isValid())
             parts << quote(attributes[i].name) + QLatin1Char(':') + write(v);
     }
-    if (withItems && object.entity().relationship(QStringLiteral("items"))) {
+    if (withItems && object.entity().relationship(key::items)) {
         QStringList items;
         for (const ManagedObject* item : object.items())
             items << objectDictionary(*item, false);

@@ -8,6 +8,7 @@
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
 #include "store/AtomicFile.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 
 #include <QDir>
@@ -168,9 +169,9 @@ int pdfAll(CommandContext& c, QStringList args)
     QSet<QString> used;
     QStringList paths;
     for (ManagedObject* document : std::as_const(documents)) {
-        const QString title = QStringLiteral("%1 | %2 | %3")
-                                  .arg(company, document->stringValue(QStringLiteral("title")),
-                                       document->stringValue(QStringLiteral("number")));
+        const QString title =
+            QStringLiteral("%1 | %2 | %3")
+                .arg(company, document->stringValue(key::title), document->stringValue(key::number));
         QString name = fileNameFor(title);
         for (int n = 2; used.contains(name.toLower()); ++n)
             name = fileNameFor(title) + QStringLiteral(" (%1)").arg(n);

@@ -4,6 +4,7 @@
 #include "documents/InterchangeFile.h"
 #include "documents/Serialization.h"
 #include "store/AtomicFile.h"
+#include "store/Keys.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
 #include "store/UniqueId.h"
@@ -18,7 +19,7 @@ namespace vorn {
 namespace {
 
 const QString selectedDesignKey = QStringLiteral("selectedDesign");
-const QString isDefaultKey = QStringLiteral("isDefault");
+const QString isDefaultKey = key::isDefault;
 const QString classKey = QStringLiteral("class");
 constexpr int builtInCount = 9;
 
@@ -116,11 +117,11 @@ ManagedObject* DesignController::addDesign()
     {
         UndoGroup group(context->undoManager(), tr("New Design"));
         design = context->insertNewObject(Entity::Design);
-        design->setValue(QStringLiteral("uniqueID"), globallyUniqueString());
-        design->setValue(QStringLiteral("title"), tr("New Design"));
-        design->setValue(QStringLiteral("invoice"), *invoice);
-        design->setValue(QStringLiteral("item"), *item);
-        design->setValue(QStringLiteral("css"), *css);
+        design->setValue(key::uniqueID, globallyUniqueString());
+        design->setValue(key::title, tr("New Design"));
+        design->setValue(key::invoice, *invoice);
+        design->setValue(key::item, *item);
+        design->setValue(key::css, *css);
         design->setValue(isDefaultKey, false);
     }
     ArrayController& list = m_state.designsController();
@@ -236,11 +237,8 @@ Status DesignController::exportDesign()
     if (!design)
         return {};
     const QVariantMap dictionary = InterchangeFile::designDictionary(*design);
-    const auto path = m_state.ui().runSavePanel({tr("Export Vorn Design"),
-                                                 {QStringLiteral("design")},
-                                                 design->stringValue(QStringLiteral("title")),
-                                                 {},
-                                                 true});
+    const auto path = m_state.ui().runSavePanel(
+        {tr("Export Vorn Design"), {QStringLiteral("design")}, design->stringValue(key::title), {}, true});
     if (!path)
         return {};
     Status written = AtomicFile::write(*path, InterchangeFile::designFileData(dictionary));

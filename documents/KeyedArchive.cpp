@@ -7,7 +7,9 @@
 #include <QStringList>
 #include <QTimeZone>
 
+#include <algorithm>
 #include <cmath>
+#include <functional>
 #include <vector>
 
 namespace vorn {
@@ -145,8 +147,12 @@ private:
 class Reader
 {
 public:
-    explicit Reader(const QVariantList& objects)
-        : m_objects(objects), m_state(size_t(objects.size()), 0), m_decoded(size_t(objects.size()))
+    // objectAt answers the stored object at an index below count; each is
+    // asked for once at most (class descriptions aside, which are kept).
+    Reader(qsizetype count, std::function<QVariant(qsizetype)> objectAt)
+        : m_count(count), m_objectAt(std::move(objectAt)), m_state(size_t(count), 0),
+          m_decoded(size_t(count)), m_unfolded(size_t(count), 0),
+          m_limit(PropertyList::unfoldedLimit(quint64(count)))
     {
     }
 
@@ -156,7 +162,7 @@ public:
             return damaged();
         const quint64 index = reference.value<PlistUid>().value;
         // Index 0 is "$null": nil has no place inside a dictionary or array.
-        if (index == 0 || index >= quint64(m_objects.size()))
+        if (index == 0 || index >= quint64(m_count))
             return damaged();
         const size_t i = size_t(index);
         if (m_state[i] == 2)
@@ -166,11 +172,22 @@ public:
         if (depth > KeyedArchive::maximumDepth)
             return damaged();
         m_state[i] = 1;
-        auto result = object(m_objects[qsizetype(i)], depth);
+        const quint64 outer = m_children;
+        m_children = 0;
+        auto result = object(m_objectAt(qsizetype(i)), depth);
+        const quint64 inner = m_children;
+        m_children = outer;
         if (!result)
             return result;
         m_state[i] = 2;
         m_decoded[i] = result.value();
+        // The values this object stands for wherever it is used: shared
+        // objects are decoded once but unfold at every place they appear,
+        // and whoever reads the result walks them all.
+        m_unfolded[i] = 1 + inner;
+        if (m_unfolded[i] > m_limit)
+            return Error::make(ErrorCode::FileReadCorrupt,
+                               KeyedArchive::tr("The file unfolds into too many values to be a Vorn file."));
         return result;
     }
 
@@ -188,12 +205,15 @@ private:
         QVariantList result;
         const QVariantList refs = list.toList();
         result.reserve(refs.size());
+        quint64 children = 0;
         for (const QVariant& r : refs) {
             auto v = decode(r, depth + 1);
             if (!v)
                 return v.error();
             result.append(v.value());
+            children = std::min(children + m_unfolded[size_t(r.value<PlistUid>().value)], m_limit + 1);
         }
+        m_children = std::min(m_children + children, m_limit + 1);
         return result;
     }
 
@@ -217,13 +237,17 @@ private:
         if (classRef.typeId() != qMetaTypeId<PlistUid>())
             return damaged();
         const quint64 ci = classRef.value<PlistUid>().value;
-        if (ci == 0 || ci >= quint64(m_objects.size()))
+        if (ci == 0 || ci >= quint64(m_count))
             return damaged();
-        const QVariantMap classMap = m_objects[qsizetype(ci)].toMap();
-        const QVariant classNameValue = classMap.value(QStringLiteral("$classname"));
-        if (classNameValue.typeId() != QMetaType::QString)
+        auto knownClass = m_classNames.constFind(ci);
+        if (knownClass == m_classNames.cend()) {
+            const QVariant name = m_objectAt(qsizetype(ci)).toMap().value(QStringLiteral("$classname"));
+            knownClass =
+                m_classNames.insert(ci, name.typeId() == QMetaType::QString ? name.toString() : QString());
+        }
+        if (knownClass->isEmpty())
             return damaged();
-        const QString className = classNameValue.toString();
+        const QString className = *knownClass;
 
         if (className == QLatin1String("NSDictionary") || className == QLatin1String("NSMutableDictionary")) {
             auto keys = references(map.value(keysKey), depth);
@@ -277,11 +301,17 @@ private:
             KeyedArchive::tr("The file holds an object of an unknown class, “%1”.").arg(className));
     }
 
-    const QVariantList& m_objects;
+    const qsizetype m_count;
+    const std::function<QVariant(qsizetype)> m_objectAt;
+    QHash<quint64, QString> m_classNames;
     // 0 = not yet decoded, 1 = being decoded, 2 = decoded (shared references
     // are decoded once).
     std::vector<unsigned char> m_state;
     std::vector<QVariant> m_decoded;
+    std::vector<quint64> m_unfolded;
+    const quint64 m_limit;
+    // The unfolded values under the object being decoded, summed by references().
+    quint64 m_children = 0;
 };
 
 } // namespace
@@ -291,29 +321,44 @@ QByteArray KeyedArchive::archive(const QVariant& root)
     return Writer().finish(root);
 }
 
+namespace {
+
+// The root object of an archive whose parts tree answers.
+Result<QVariant> unarchiveTree(const PropertyList::Tree& tree)
+{
+    const QVariant archiver = tree.value(QStringLiteral("$archiver"));
+    if (!archiver.isValid())
+        return tree.value();
+    if (archiver.typeId() != QMetaType::QString || archiver.toString() != archiverName)
+        return Error::make(ErrorCode::FileReadCorrupt,
+                           KeyedArchive::tr("The file is an archive of an unknown kind."));
+    const QString objectsKey = QStringLiteral("$objects");
+    const qsizetype count = tree.arraySize(objectsKey);
+    const QVariant top = tree.value(QStringLiteral("$top"));
+    if (count < 0 || top.typeId() != QMetaType::QVariantMap)
+        return Error::make(ErrorCode::FileReadCorrupt,
+                           KeyedArchive::tr("The file is damaged or not a Vorn file."));
+    Reader reader(count, [&tree, &objectsKey](qsizetype i) { return tree.arrayElement(objectsKey, i); });
+    return reader.decode(top.toMap().value(QStringLiteral("root")), 0);
+}
+
+} // namespace
+
 Result<QVariant> KeyedArchive::unarchive(const QByteArray& data)
 {
-    auto plist = PropertyList::read(data);
-    if (!plist)
-        return plist.error();
-    return unarchiveObject(plist.value());
+    // Objects are converted as the references reach them, so a file is
+    // refused after reading no more of it than it must.
+    auto tree = PropertyList::parse(data);
+    if (!tree)
+        return tree.error();
+    return unarchiveTree(tree.value());
 }
 
 Result<QVariant> KeyedArchive::unarchiveObject(const QVariant& plist)
 {
-    const QVariantMap map = plist.toMap();
-    if (plist.typeId() != QMetaType::QVariantMap || !map.contains(QStringLiteral("$archiver")))
+    if (plist.typeId() != QMetaType::QVariantMap)
         return plist;
-    if (map.value(QStringLiteral("$archiver")).toString() != archiverName ||
-        map.value(QStringLiteral("$archiver")).typeId() != QMetaType::QString)
-        return Error::make(ErrorCode::FileReadCorrupt, tr("The file is an archive of an unknown kind."));
-    const QVariant objects = map.value(QStringLiteral("$objects"));
-    const QVariant top = map.value(QStringLiteral("$top"));
-    if (objects.typeId() != QMetaType::QVariantList || top.typeId() != QMetaType::QVariantMap)
-        return Error::make(ErrorCode::FileReadCorrupt, tr("The file is damaged or not a Vorn file."));
-    const QVariantList list = objects.toList();
-    Reader reader(list);
-    return reader.decode(top.toMap().value(QStringLiteral("root")), 0);
+    return unarchiveTree(PropertyList::Tree(plist));
 }
 
 } // namespace vorn

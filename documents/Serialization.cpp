@@ -222,13 +222,18 @@ void apply(const PlannedObject& planned, ManagedObject& object, ObjectContext& c
     for (const auto& [index, value] : planned.attributes)
         object.setValue(index, value);
     for (const PlannedObject::Relation& relation : planned.relations) {
-        for (const PlannedObject& child : relation.objects) {
-            ManagedObject* related = insert(child, context);
-            if (relation.toMany)
-                object.insertObject(relation.key, related);
-            else
-                object.setObject(relation.key, related);
+        if (!relation.toMany) {
+            for (const PlannedObject& child : relation.objects)
+                object.setObject(relation.key, insert(child, context));
+            continue;
         }
+        // The list is set once with all its new members: adding them one by
+        // one would copy (and remember for undo) the growing list each time.
+        QList<ManagedObject*> list = object.objects(relation.key);
+        list.reserve(list.size() + qsizetype(relation.objects.size()));
+        for (const PlannedObject& child : relation.objects)
+            list.append(insert(child, context));
+        object.setObjects(relation.key, list);
     }
 }
 

@@ -1,8 +1,9 @@
 #include "documents/TemplateValues.h"
 
-#include "documents/Formatter.h"
 #include "documents/DocumentsLog.h"
+#include "documents/Formatter.h"
 #include "store/AtomicFile.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
@@ -64,7 +65,7 @@ PageValues pageValuesForDocument(const ManagedObject& d, const Settings& setting
 {
     PageValues v;
     v.readSettings(settings);
-    const bool invoice = d.intValue(QStringLiteral("kind")) != 0;
+    const bool invoice = d.isInvoice();
     if (reminder)
         v.locDue = setting(settings, "locOverdue");
     else
@@ -75,28 +76,28 @@ PageValues pageValuesForDocument(const ManagedObject& d, const Settings& setting
     v.footer = reminder ? reminder->footer : text(d, "footer");
     v.clientAddress = text(d, "address");
     v.dispatched = text(d, "dispatchNumber");
-    v.date = d.dateValue(QStringLiteral("date"));
-    v.due = d.dateValue(QStringLiteral("due"));
+    v.date = d.dateValue(key::date);
+    v.due = d.dateValue(key::due);
     v.number = text(d, "number");
     v.clientNumber = text(d, "clientNumber");
     v.currency = text(d, "currency");
     v.subject = text(d, "subject");
-    v.subAmount = d.floatValue(QStringLiteral("subAmount"));
-    v.amount = d.floatValue(QStringLiteral("amount"));
+    v.subAmount = d.floatValue(key::subAmount);
+    v.amount = d.floatValue(key::amount);
 
-    v.discountEnabled = d.boolValue(QStringLiteral("isDiscountEnabled"));
-    v.hasDiscountSubtitle = d.boolValue(QStringLiteral("hasDiscountSubtitle"));
+    v.discountEnabled = d.boolValue(key::isDiscountEnabled);
+    v.hasDiscountSubtitle = d.boolValue(key::hasDiscountSubtitle);
     v.discountTitle = text(d, "discountTitle");
     v.discountSubtitle = text(d, "discountSubtitle");
-    v.discountKind = d.intValue(QStringLiteral("discountKind"));
-    v.discountAmount = d.floatValue(QStringLiteral("discountAmount"));
-    v.discountPercent = d.floatValue(QStringLiteral("discountPercent"));
+    v.discountKind = d.discountKind();
+    v.discountAmount = d.floatValue(key::discountAmount);
+    v.discountPercent = d.floatValue(key::discountPercent);
 
-    v.shippingEnabled = d.boolValue(QStringLiteral("isShippingEnabled"));
-    v.hasShippingSubtitle = d.boolValue(QStringLiteral("hasShippingSubtitle"));
+    v.shippingEnabled = d.boolValue(key::isShippingEnabled);
+    v.hasShippingSubtitle = d.boolValue(key::hasShippingSubtitle);
     v.shippingTitle = text(d, "shippingTitle");
     v.shippingSubtitle = text(d, "shippingSubtitle");
-    v.shippingAmount = d.floatValue(QStringLiteral("shippingAmount"));
+    v.shippingAmount = d.floatValue(key::shippingAmount);
 
     for (int i = 0; i < 3; ++i) {
         const QString n = QString::number(i + 1);
@@ -147,9 +148,10 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
     if (v.discountEnabled) {
         add("%LOCDISCOUNT%",
             v.hasDiscountSubtitle ? subtitled(v.discountTitle, v.discountSubtitle) : v.locDiscount);
-        add("%DISCOUNTKINDCHAR%", v.discountKind != 0 ? QStringLiteral("%") : QStringLiteral("-"));
-        add("%DISCOUNT%", v.discountKind != 0 ? f.decimalStringFromNumber(v.discountPercent)
-                                              : f.stringFromNumber(v.discountAmount));
+        add("%DISCOUNTKINDCHAR%",
+            v.discountKind == DiscountKind::Rate ? QStringLiteral("%") : QStringLiteral("-"));
+        add("%DISCOUNT%", v.discountKind == DiscountKind::Rate ? f.decimalStringFromNumber(v.discountPercent)
+                                                               : f.stringFromNumber(v.discountAmount));
     } else {
         add("%LOCDISCOUNT%", {});
         add("%DISCOUNTKINDCHAR%", {});
@@ -193,14 +195,14 @@ Template::Steps pageSteps(const PageValues& v, const Formatter& f)
 ItemValues ItemValues::fromObject(const ManagedObject& o)
 {
     ItemValues v;
-    v.unitCount = o.floatValue(QStringLiteral("unitCount"));
+    v.unitCount = o.floatValue(key::unitCount);
     v.unit = text(o, "unit");
-    v.baseAmount = o.floatValue(QStringLiteral("baseAmount"));
+    v.baseAmount = o.floatValue(key::baseAmount);
     v.sku = text(o, "sku");
-    v.subAmount = o.floatValue(QStringLiteral("subAmount"));
+    v.subAmount = o.floatValue(key::subAmount);
     v.title = text(o, "title");
     v.subtitle = text(o, "subtitle");
-    v.amount = o.floatValue(QStringLiteral("amount"));
+    v.amount = o.floatValue(key::amount);
     for (int i = 0; i < 3; ++i) {
         const QString n = QString::number(i + 1);
         Tax& t = v.taxes[size_t(i)];
@@ -220,14 +222,14 @@ ItemValues ItemValues::fromDictionary(const QVariantMap& d)
         return value.typeId() == QMetaType::QString ? value.toString() : QString();
     };
     ItemValues v;
-    v.unitCount = number(QStringLiteral("unitCount"));
-    v.unit = string(QStringLiteral("unit"));
-    v.baseAmount = number(QStringLiteral("baseAmount"));
-    v.sku = string(QStringLiteral("sku"));
-    v.subAmount = number(QStringLiteral("subAmount"));
-    v.title = string(QStringLiteral("title"));
-    v.subtitle = string(QStringLiteral("subtitle"));
-    v.amount = number(QStringLiteral("amount"));
+    v.unitCount = number(key::unitCount);
+    v.unit = string(key::unit);
+    v.baseAmount = number(key::baseAmount);
+    v.sku = string(key::sku);
+    v.subAmount = number(key::subAmount);
+    v.title = string(key::title);
+    v.subtitle = string(key::subtitle);
+    v.amount = number(key::amount);
     for (int i = 0; i < 3; ++i) {
         const QString n = QString::number(i + 1);
         Tax& t = v.taxes[size_t(i)];
@@ -243,7 +245,7 @@ ItemRowSettings ItemRowSettings::fromSettings(const Settings& s)
 {
     ItemRowSettings r;
     r.useSku = s.boolValue(QStringLiteral("tempUseSKU"));
-    r.showSubAmount = s.boolValue(QStringLiteral("showItemSubAmount"));
+    r.showSubAmount = s.boolValue(key::showItemSubAmount);
     r.locNo = setting(s, "locNo");
     r.locUnit = setting(s, "locUnit");
     r.locUnitPrice = setting(s, "locUnitPrice");

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "documents/Template.h"
+#include "store/DocumentState.h"
 
 #include <QCoreApplication>
 #include <QDateTime>
@@ -58,7 +59,7 @@ struct PageValues
     QString discountTitle;
     QString discountSubtitle;
     QString locDiscount;
-    qint64 discountKind = 0; // 0 a fixed amount, otherwise a percentage
+    DiscountKind discountKind = DiscountKind::Amount;
     float discountAmount = 0;
     float discountPercent = 0;
 

@@ -1,11 +1,11 @@
 #include "invoicing/AddressController.h"
 
 #include "invoicing/InvoicingLog.h"
-#include "invoicing/Keys.h"
 #include "invoicing/NumberingController.h"
 #include "invoicing/SaveLog.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UniqueId.h"
 #include "store/UserInterface.h"

@@ -1,9 +1,9 @@
 #include "invoicing/Calculator.h"
 
 #include "invoicing/InvoicingLog.h"
-#include "invoicing/Keys.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
@@ -198,7 +198,7 @@ void Calculator::calculateInvoiceAmounts(ManagedObject* invoice)
     // and the total may go below zero.
     float total = S + T1 + T2 + T3 + SH;
     if (boolAt(*invoice, d.isDiscountEnabled)) {
-        if (intAt(*invoice, d.discountKind) != 0)
+        if (intAt(*invoice, d.discountKind) != qint64(DiscountKind::Amount))
             total = total - total * floatAt(*invoice, d.discountPercent);
         else
             total = total - floatAt(*invoice, d.discountAmount);
@@ -238,13 +238,13 @@ void Calculator::calculateDatabase()
     const qint64 nowMs = now.toMSecsSinceEpoch();
     for (ManagedObject* doc : documents) {
         const InvoiceKeys& d = invoiceKeys(doc->entity());
-        if (intAt(*doc, d.kind) != 1) {
+        if (intAt(*doc, d.kind) != qint64(DocumentKind::Invoice)) {
             ++quoteCount;
             continue;
         }
         ++invoiceCountForNumber;
-        qint64 status = intAt(*doc, d.status);
-        if (status <= 0)
+        auto status = DocumentStatus(intAt(*doc, d.status));
+        if (status <= DocumentStatus::Created)
             continue;
 
         // Each value is read once and the steps run on local copies; only
@@ -259,46 +259,46 @@ void Calculator::calculateDatabase()
                              ? *static_cast<const float*>(dueBefore.constData())
                              : dueBefore.toFloat();
         bool paidSet = false, dueSet = false, stampPaid = false;
-        const qint64 storedStatus = status;
+        const DocumentStatus storedStatus = status;
 
-        if (status < 3) {
+        if (status < DocumentStatus::Paid) {
             // An invoice without a due date is never overdue.
             const std::optional<qint64> due = msecsAt(*doc, d.due);
             if (due && nowMs > *due) {
-                status = 2;
+                status = DocumentStatus::Overdue;
                 dueValue = amount;
             } else {
-                status = 1;
+                status = DocumentStatus::Sent;
                 dueValue = 0.0f;
             }
             dueSet = true;
         }
-        if (status >= 3 && !boolAt(*doc, d.isPaid)) {
+        if (status >= DocumentStatus::Paid && !boolAt(*doc, d.isPaid)) {
             // The payment date is stamped once, at the first run that sees
             // the invoice paid or partly paid.
-            if (status == 3) {
+            if (status == DocumentStatus::Paid) {
                 paidValue = amount;
                 paidSet = true;
             }
             stampPaid = true;
         }
-        if (status == 2) {
+        if (status == DocumentStatus::Overdue) {
             dueValue = amount;
             paidValue = 0.0f;
             dueSet = paidSet = true;
         }
-        if (status == 3) {
+        if (status == DocumentStatus::Paid) {
             paidValue = amount;
             dueValue = 0.0f;
             dueSet = paidSet = true;
         }
-        if (status == 4) {
+        if (status == DocumentStatus::PartlyPaid) {
             dueValue = amount - paidValue;
             dueSet = true;
         }
 
         if (status != storedStatus)
-            doc->setValue(d.status, QVariant(status));
+            doc->setValue(d.status, QVariant(qint64(status)));
         auto changed = [](const QVariant& before, float value) {
             return before.typeId() != QMetaType::Float ||
                    std::bit_cast<quint32>(*static_cast<const float*>(before.constData())) !=

@@ -3,12 +3,12 @@
 #include "invoicing/Calculator.h"
 #include "invoicing/FilterController.h"
 #include "invoicing/GUIController.h"
-#include "invoicing/Keys.h"
 #include "invoicing/NumberingController.h"
 #include "invoicing/SaveLog.h"
-#include "store/Clone.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Clone.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UniqueId.h"
 #include "store/UserInterface.h"
@@ -47,20 +47,20 @@ QDateTime DataController::futureDateFromTodayWithDays(qint64 index) const
 
 ManagedObject* DataController::addInvoice()
 {
-    return addDocument(1);
+    return addDocument(DocumentKind::Invoice);
 }
 
 ManagedObject* DataController::addQuote()
 {
-    return addDocument(0);
+    return addDocument(DocumentKind::Quote);
 }
 
-ManagedObject* DataController::addDocument(int kind)
+ManagedObject* DataController::addDocument(DocumentKind kind)
 {
     ObjectContext* context = m_state.context();
     if (!context)
         return nullptr;
-    const bool invoice = kind == 1;
+    const bool invoice = kind == DocumentKind::Invoice;
     UndoGroup group(context->undoManager(), invoice ? tr("New Invoice") : tr("New Quote"));
 
     // The new document must be visible, so the list shows everything again.
@@ -100,9 +100,9 @@ ManagedObject* DataController::addDocument(int kind)
     doc->setValue(key::paid, now);
     doc->setValue(key::sent, now);
     doc->setValue(key::dispatched, now);
-    doc->setValue(key::kind, qint64(kind));
-    doc->setValue(key::status, qint64(0));
-    doc->setValue(key::discountKind, qint64(0));
+    doc->setKind(kind);
+    doc->setStatus(DocumentStatus::Created);
+    doc->setDiscountKind(DiscountKind::Amount);
     doc->setValue(key::tax1Kind, qint64(0));
     doc->setValue(key::tax2Kind, qint64(0));
     doc->setValue(key::tax3Kind, qint64(0));
@@ -163,7 +163,7 @@ void DataController::convertQuoteToInvoice()
     if (!doc)
         return;
     UserInterface& ui = m_state.ui();
-    if (doc->intValue(key::kind) == 1) {
+    if (doc->isInvoice()) {
         ui.runAlert({tr("Sorry!"),
                      tr("You can't convert an invoice into a quote."),
                      {tr("OK")},
@@ -184,7 +184,7 @@ void DataController::convertQuoteToInvoice()
     UndoGroup group(m_state.context() ? m_state.context()->undoManager() : nullptr,
                     tr("Convert Into Invoice"));
     m_filter.showAllDocuments();
-    doc->setValue(key::kind, qint64(1));
+    doc->setKind(DocumentKind::Invoice);
     // Counted among the invoices before it takes its number.
     m_calculator.calculateDatabase();
     const Settings& s = m_state.settings();
@@ -203,8 +203,8 @@ void DataController::deleteInvoice()
     if (!doc)
         return;
     UserInterface& ui = m_state.ui();
-    const bool invoice = doc->intValue(key::kind) == 1;
-    if (invoice && doc->intValue(key::status) >= 1) {
+    const bool invoice = doc->isInvoice();
+    if (invoice && doc->isSent()) {
         ui.runAlert(
             {tr("Error!"),
              tr("The selected invoice is marked as already sent. If you really need to delete it, please set "
@@ -240,7 +240,7 @@ void DataController::invoiceDeleteWarningSheetDidEnd(int returnCode)
         return;
     ManagedObject* doc = m_state.currentInvoice();
     UndoGroup group(context->undoManager(),
-                    doc && doc->intValue(key::kind) == 0 ? tr("Delete Quote") : tr("Delete Invoice"));
+                    doc && doc->isQuote() ? tr("Delete Quote") : tr("Delete Invoice"));
     m_filter.showAllDocuments();
     ArrayController& list = m_state.invoicesController();
     const int index = list.selectionIndex();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/DocumentState.h"
+
 #include <QDateTime>
 #include <QObject>
 #include <QString>
@@ -56,7 +58,7 @@ Q_SIGNALS:
     void previewShouldClose();
 
 private:
-    ManagedObject* addDocument(int kind);
+    ManagedObject* addDocument(DocumentKind kind);
     void showNewDocument(ManagedObject* document);
 
     AppState& m_state;

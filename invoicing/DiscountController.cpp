@@ -1,9 +1,9 @@
 #include "invoicing/DiscountController.h"
 
 #include "invoicing/Calculator.h"
-#include "invoicing/Keys.h"
 #include "invoicing/SentLock.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/UserInterface.h"
 
 namespace vorn {

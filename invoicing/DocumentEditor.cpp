@@ -1,7 +1,7 @@
 #include "invoicing/DocumentEditor.h"
 
 #include "invoicing/Calculator.h"
-#include "invoicing/Keys.h"
+#include "store/Keys.h"
 #include "invoicing/SentLock.h"
 #include "invoicing/TextValue.h"
 #include "invoicing/ValueTransformers.h"

@@ -1,9 +1,9 @@
 #include "invoicing/FilterController.h"
 
 #include "invoicing/Calculator.h"
-#include "invoicing/Keys.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 
 namespace vorn {
 
@@ -35,11 +35,12 @@ qint64 integerAt(const ManagedObject& o, int index)
     return v.typeId() == QMetaType::LongLong ? *static_cast<const qint64*>(v.constData()) : v.toLongLong();
 }
 
-Predicate kindAndStatus(qint64 kind, qint64 status)
+Predicate invoicesWithStatus(DocumentStatus status)
 {
-    return [kind, status, c = Columns()](const ManagedObject& o) mutable {
+    return [status, c = Columns()](const ManagedObject& o) mutable {
         c.resolve(o);
-        return integerAt(o, c.kind) == kind && integerAt(o, c.status) == status;
+        return integerAt(o, c.kind) == qint64(DocumentKind::Invoice) &&
+               integerAt(o, c.status) == qint64(status);
     };
 }
 
@@ -85,15 +86,15 @@ Predicate FilterController::predicateForTag(quint64 tag, const QDateTime& now)
     case All:
         return {};
     case Sent:
-        return kindAndStatus(1, 1);
+        return invoicesWithStatus(DocumentStatus::Sent);
     case Overdue:
-        return kindAndStatus(1, 2);
+        return invoicesWithStatus(DocumentStatus::Overdue);
     case Paid:
-        return kindAndStatus(1, 3);
+        return invoicesWithStatus(DocumentStatus::Paid);
     case Quotes:
         return [c = Columns()](const ManagedObject& o) mutable {
             c.resolve(o);
-            return integerAt(o, c.kind) == 0;
+            return integerAt(o, c.kind) == qint64(DocumentKind::Quote);
         };
     case Today:
     case Week:
@@ -103,7 +104,7 @@ Predicate FilterController::predicateForTag(quint64 tag, const QDateTime& now)
         return dateBetween(to - unitsForTag(tag) * halfDaySeconds * 1000, to);
     }
     default:
-        return kindAndStatus(1, 1);
+        return invoicesWithStatus(DocumentStatus::Sent);
     }
 }
 

@@ -1,7 +1,7 @@
 #include "invoicing/GUIController.h"
 
-#include "invoicing/Keys.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
 
@@ -13,10 +13,9 @@ namespace {
 
 bool remindable(const ManagedObject* doc)
 {
-    if (!doc || doc->intValue(key::kind) == 0)
+    if (!doc || doc->isQuote())
         return false;
-    const qint64 status = doc->intValue(key::status);
-    return status == 2 || status == 4;
+    return doc->status() == DocumentStatus::Overdue || doc->status() == DocumentStatus::PartlyPaid;
 }
 
 } // namespace
@@ -33,7 +32,7 @@ GUIController::Validation GUIController::validateUserInterfaceItem(const QString
     if (action == deleteInvoiceAction) {
         if (!doc)
             return {false, tr("Delete Invoice")};
-        return {true, doc->intValue(key::kind) == 0 ? tr("Delete Quote") : tr("Delete Invoice")};
+        return {true, doc->isQuote() ? tr("Delete Quote") : tr("Delete Invoice")};
     }
     if (action == openReminderSheetAction)
         return {remindable(doc), std::nullopt};
@@ -53,14 +52,14 @@ bool GUIController::hasPrerequisites(const QString& action) const
     if (needDocument.contains(action))
         return doc != nullptr;
     if (action == QLatin1String("convertQuoteToInvoice"))
-        return doc && doc->intValue(key::kind) == 0;
+        return doc && doc->isQuote();
     return true;
 }
 
 void GUIController::delayedToolbarLabel()
 {
     const ManagedObject* doc = m_state.currentInvoice();
-    const bool quote = doc && doc->intValue(key::kind) == 0;
+    const bool quote = doc && doc->isQuote();
     m_deleteLabel = quote ? tr("Delete Quote") : tr("Delete Invoice");
     m_reminderEnabled = remindable(doc);
     m_state.isReminderButtonHidden = !m_reminderEnabled;

@@ -1,8 +1,8 @@
 #include "invoicing/NumberingController.h"
 
-#include "invoicing/Keys.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 
 namespace vorn {

@@ -1,6 +1,7 @@
 #include "invoicing/QVDragAndDropArrayController.h"
 
 #include "store/ArrayController.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/PropertyList.h"
@@ -63,7 +64,7 @@ QVDragAndDropArrayController::Pasteboard QVDragAndDropArrayController::writeRows
     if (rows.size() == 1) {
         pb.types << stringType;
         if (const ManagedObject* o = m_controller.arrangedObjects().value(rows.first()))
-            pb.string = o->stringValue(QStringLiteral("title"));
+            pb.string = o->stringValue(key::title);
     }
     QList<int> sorted = rows;
     std::sort(sorted.begin(), sorted.end());

@@ -1,10 +1,10 @@
 #include "invoicing/ShippingController.h"
 
 #include "invoicing/Calculator.h"
-#include "invoicing/Keys.h"
 #include "invoicing/SentLock.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UniqueId.h"
 #include "store/UserInterface.h"

@@ -1,57 +1,50 @@
 #include "invoicing/ValueTransformers.h"
 
-#include "invoicing/Keys.h"
 #include "documents/Formatter.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
 namespace vorn::ValueTransformers {
-
-namespace {
-
-bool isQuote(const ManagedObject& document)
-{
-    return document.intValue(key::kind) == 0;
-}
-
-} // namespace
 
 QString entityToImage(const QList<ManagedObject*>& selection)
 {
     const ManagedObject* doc = selection.isEmpty() ? nullptr : selection.first();
     if (!doc)
         return {};
-    if (isQuote(*doc))
+    if (doc->isQuote())
         return QStringLiteral("Stamp5");
-    const qint64 status = doc->intValue(key::status);
-    return QStringLiteral("Stamp%1").arg(status >= 1 && status <= 4 ? status : 0);
+    const DocumentStatus status = doc->status();
+    const bool stamped = status >= DocumentStatus::Sent && status <= DocumentStatus::PartlyPaid;
+    return QStringLiteral("Stamp%1").arg(stamped ? qint64(status) : 0);
 }
 
 QString entityToImageTable(const ManagedObject* document)
 {
     if (!document)
         return {};
-    if (isQuote(*document))
+    if (document->isQuote())
         return QStringLiteral("StampM5");
-    const qint64 status = document->intValue(key::status);
-    return QStringLiteral("StampM%1").arg(status >= 0 && status <= 4 ? status : 0);
+    const DocumentStatus status = document->status();
+    const bool stamped = status >= DocumentStatus::Created && status <= DocumentStatus::PartlyPaid;
+    return QStringLiteral("StampM%1").arg(stamped ? qint64(status) : 0);
 }
 
 bool intToDateBool(qint64 status)
 {
-    return status < 3;
+    return DocumentStatus(status) < DocumentStatus::Paid;
 }
 
 bool intToAmountBool(qint64 status)
 {
-    return status < 4;
+    return DocumentStatus(status) < DocumentStatus::PartlyPaid;
 }
 
 bool invoiceSentToBool(const ManagedObject* document)
 {
     if (!document)
         return false;
-    return isQuote(*document) || document->intValue(key::status) == 0;
+    return document->isQuote() || document->status() == DocumentStatus::Created;
 }
 
 QString numberToSubAmountString(float amount, const Settings& settings, const Formatter& formatter)

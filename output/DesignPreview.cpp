@@ -1,13 +1,14 @@
 #include "output/DesignPreview.h"
 
 #include "documents/KeyedArchive.h"
-#include "output/OutputLog.h"
-#include "output/PreviewController.h"
 #include "documents/Template.h"
 #include "documents/TemplateValues.h"
 #include "output/Logo.h"
+#include "output/OutputLog.h"
+#include "output/PreviewController.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 
@@ -62,12 +63,11 @@ QString DesignPreview::invoiceNumberString() const
 {
     const Settings& settings = m_preview.state().settings();
     const QDate today = m_preview.state().clock().now().toLocalTime().date();
-    QString number = settings.stringValue(QStringLiteral("invPattern"));
-    Template::apply(
-        number, {{QStringLiteral("%COUNT%"), QString::number(settings.intValue(QStringLiteral("invCount")))},
-                 {QStringLiteral("%YEAR%"), QString::number(today.year())},
-                 {QStringLiteral("%MONTH%"), QString::number(today.month())},
-                 {QStringLiteral("%DAY%"), QString::number(today.day())}});
+    QString number = settings.stringValue(key::invPattern);
+    Template::apply(number, {{QStringLiteral("%COUNT%"), QString::number(settings.intValue(key::invCount))},
+                             {QStringLiteral("%YEAR%"), QString::number(today.year())},
+                             {QStringLiteral("%MONTH%"), QString::number(today.month())},
+                             {QStringLiteral("%DAY%"), QString::number(today.day())}});
     return number;
 }
 
@@ -77,9 +77,9 @@ QString DesignPreview::itemsList()
     if (!design)
         return {};
     const Settings& settings = m_preview.state().settings();
-    return fillItemsList(design->stringValue(QStringLiteral("item")), sampleItems(),
-                         ItemRowSettings::fromSettings(settings),
-                         settings.stringValue(QStringLiteral("prefsCurrency")), m_preview.formatter());
+    return fillItemsList(design->stringValue(key::item), sampleItems(),
+                         ItemRowSettings::fromSettings(settings), settings.stringValue(key::prefsCurrency),
+                         m_preview.formatter());
 }
 
 QString DesignPreview::invoiceHTMLString()
@@ -90,13 +90,13 @@ QString DesignPreview::invoiceHTMLString()
     ManagedObject* design = m_preview.currentDesign();
     if (!design)
         return PreviewController::missingDesignPage();
-    QString text = design->stringValue(QStringLiteral("invoice"));
+    QString text = design->stringValue(key::invoice);
     if (text.isEmpty())
         return PreviewController::missingTemplatePage();
 
     PageValues v;
     v.readSettings(settings);
-    v.css = design->stringValue(QStringLiteral("css"));
+    v.css = design->stringValue(key::css);
     v.logo = logo;
     v.letterTitle = v.locInvoice;
     v.locDue = settings.stringValue(QStringLiteral("locDue"));
@@ -107,17 +107,17 @@ QString DesignPreview::invoiceHTMLString()
     v.date = state.clock().now();
     v.due = v.date.addSecs(twoWeeks);
     v.number = invoiceNumberString();
-    v.currency = settings.stringValue(QStringLiteral("prefsCurrency"));
-    v.conditions = settings.stringValue(QStringLiteral("tempInvConditions"));
-    v.footer = settings.stringValue(QStringLiteral("tempInvFooter"));
+    v.currency = settings.stringValue(key::prefsCurrency);
+    v.conditions = settings.stringValue(key::tempInvConditions);
+    v.footer = settings.stringValue(key::tempInvFooter);
     v.miscellaneous = settings.stringValue(QStringLiteral("tempInvMisc"));
     v.subAmount = sampleSubtotal;
     v.amount = sampleTotal;
     v.discountEnabled = true;
-    v.discountKind = 1;
+    v.discountKind = DiscountKind::Rate;
     v.discountPercent = sampleDiscount;
     v.shippingEnabled = true;
-    v.shippingTitle = settings.stringValue(QStringLiteral("locShipping"));
+    v.shippingTitle = settings.stringValue(key::locShipping);
     v.shippingAmount = sampleShipping;
     const QString fallbackTitles[3] = {tr("Federal Tax"), tr("State Tax"), tr("Third Tax")};
     for (size_t i = 0; i < 3; ++i) {
@@ -127,7 +127,7 @@ QString DesignPreview::invoiceHTMLString()
         tax.amount = sampleTaxes[i];
         tax.percent = sampleRates[i];
     }
-    v.itemsList = fillItemsList(design->stringValue(QStringLiteral("item")), sampleItems(),
+    v.itemsList = fillItemsList(design->stringValue(key::item), sampleItems(),
                                 ItemRowSettings::fromSettings(settings), v.currency, m_preview.formatter());
     Template::apply(text, pageSteps(v, m_preview.formatter()));
     return text;

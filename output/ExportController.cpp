@@ -7,6 +7,7 @@
 #include "output/PreviewController.h"
 #include "store/AppState.h"
 #include "store/AtomicFile.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
@@ -39,8 +40,8 @@ QString ExportController::jobTitle() const
     const ManagedObject* document = m_state.currentInvoice();
     return QStringLiteral("%1 | %2 | %3")
         .arg(m_state.settings().stringValue(QStringLiteral("prefsName")),
-             document ? document->stringValue(QStringLiteral("title")) : QString(),
-             document ? document->stringValue(QStringLiteral("number")) : QString());
+             document ? document->stringValue(key::title) : QString(),
+             document ? document->stringValue(key::number) : QString());
 }
 
 QString ExportController::emailBody()
@@ -246,7 +247,7 @@ void ExportController::sendEmail()
 {
     const ManagedObject* document = m_state.currentInvoice();
     MailMessage message{jobTitle(), emailBody(), m_state.pdfPath,
-                        document ? document->stringValue(QStringLiteral("emailAddress")) : QString()};
+                        document ? document->stringValue(key::emailAddress) : QString()};
     if (m_mailer && m_mailer(message))
         return;
     qCWarning(lcOutput) << "No mail program took the message";
@@ -263,13 +264,12 @@ void ExportController::sendEmail()
 void ExportController::markAsSent()
 {
     ManagedObject* document = m_state.currentInvoice();
-    if (!document || document->intValue(QStringLiteral("kind")) != 1 ||
-        !m_state.settings().boolValue(QStringLiteral("markInvoiceAsSent")))
+    if (!document || !document->isInvoice() || !m_state.settings().boolValue(key::markInvoiceAsSent))
         return;
     {
         ObjectContext* context = m_state.context();
         UndoGroup group(context ? context->undoManager() : nullptr, tr("Mark as Sent"));
-        document->setValue(QStringLiteral("status"), 1);
+        document->setStatus(DocumentStatus::Sent);
     }
     m_state.invoicesController().rearrangeObjects();
     if (m_recalculate)

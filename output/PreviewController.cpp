@@ -3,6 +3,7 @@
 
 #include "output/OutputLog.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
@@ -63,8 +64,8 @@ ManagedObject* PreviewController::currentDesign()
     ObjectContext* context = m_state.context();
     if (!context)
         return nullptr;
-    auto designs = context->fetchObjects(
-        Entity::Design, [](const ManagedObject& o) { return o.boolValue(QStringLiteral("isDefault")); });
+    auto designs = context->fetchObjects(Entity::Design,
+                                         [](const ManagedObject& o) { return o.boolValue(key::isDefault); });
     if (!designs) {
         m_state.ui().presentError(designs.error());
         return nullptr;
@@ -90,8 +91,8 @@ QString PreviewController::missingTemplatePage()
 ReminderTexts PreviewController::defaultReminderTexts() const
 {
     const Settings& s = m_state.settings();
-    return {s.stringValue(QStringLiteral("locReminder")), s.stringValue(QStringLiteral("tempRemConditions")),
-            s.stringValue(QStringLiteral("tempRemFooter"))};
+    return {s.stringValue(key::locReminder), s.stringValue(key::tempRemConditions),
+            s.stringValue(key::tempRemFooter)};
 }
 
 QList<ManagedObject*> PreviewController::displayedItems(const ManagedObject& document) const
@@ -103,7 +104,7 @@ QList<ManagedObject*> PreviewController::displayedItems(const ManagedObject& doc
     if (&document == m_state.currentInvoice() && list.content().size() == own.size()) {
         bool same = true;
         for (ManagedObject* item : list.content())
-            same = same && item->object(QStringLiteral("invoice")) == &document;
+            same = same && item->object(key::invoice) == &document;
         if (same)
             return list.arrangedObjects();
     }
@@ -119,9 +120,9 @@ QString PreviewController::itemsList()
     QList<ItemValues> items;
     for (ManagedObject* item : displayedItems(*document))
         items.append(ItemValues::fromObject(*item));
-    return fillItemsList(design->stringValue(QStringLiteral("item")), items,
+    return fillItemsList(design->stringValue(key::item), items,
                          ItemRowSettings::fromSettings(m_state.settings()),
-                         document->stringValue(QStringLiteral("currency")), m_formatter);
+                         document->stringValue(key::currency), m_formatter);
 }
 
 QString PreviewController::invoiceHTMLString()
@@ -141,19 +142,19 @@ QString PreviewController::documentHTMLString(const ManagedObject& document,
     ManagedObject* design = currentDesign();
     if (!design)
         return missingDesignPage();
-    QString text = design->stringValue(QStringLiteral("invoice"));
+    QString text = design->stringValue(key::invoice);
     if (text.isEmpty())
         return missingTemplatePage();
 
     PageValues values =
         pageValuesForDocument(document, settings, m_state.isReminderAction ? &m_reminder : nullptr);
-    values.css = design->stringValue(QStringLiteral("css"));
+    values.css = design->stringValue(key::css);
     values.logo = logo;
     QList<ItemValues> items;
     items.reserve(itemObjects.size());
     for (ManagedObject* item : itemObjects)
         items.append(ItemValues::fromObject(*item));
-    values.itemsList = fillItemsList(design->stringValue(QStringLiteral("item")), items,
+    values.itemsList = fillItemsList(design->stringValue(key::item), items,
                                      ItemRowSettings::fromSettings(settings), values.currency, m_formatter);
     Template::apply(text, pageSteps(values, m_formatter));
     return text;

@@ -10,6 +10,7 @@ packages=(
   libsqlite3-dev libplist-dev libicu-dev
   libgtest-dev libgmock-dev
   xvfb xauth poppler-utils
+  desktop-file-utils appstream libxml2-utils dpkg-dev qt6-translations-l10n
 )
 
 missing=()

@@ -10,6 +10,7 @@
 #include "store/UserInterface.h"
 
 #include <QAbstractNetworkCache>
+#include <QMetaMethod>
 #include <QNetworkReply>
 #include <QTimeZone>
 
@@ -172,14 +173,16 @@ ZRUpdateChecker::CheckResult ZRUpdateChecker::evaluate(const QByteArray& version
 void ZRUpdateChecker::notifyAboutUpdateToNewVersion(const CheckResult& result)
 {
     if (result.isError) {
+        // A check the user did not ask for fails quietly, into the log.
         qCInfo(lcServices).noquote() << "update check failed:" << result.errorText;
-        m_ui.runAlert(
-            {tr("Could not check for updates"),
-             tr("The list of available versions could not be loaded. Please check your internet connection "
-                "and try again later."),
-             {tr("OK")},
-             UserInterface::AlertStyle::Warning,
-             false});
+        if (m_notifyUpToDate)
+            m_ui.runAlert({tr("Could not check for updates"),
+                           tr("The list of available versions could not be loaded. Please check your "
+                              "internet connection and try again later.") +
+                               QStringLiteral("\n\n") + result.errorText,
+                           {tr("OK")},
+                           UserInterface::AlertStyle::Warning,
+                           false});
         finish(result);
         return;
     }
@@ -207,6 +210,13 @@ void ZRUpdateChecker::notifyAboutUpdateToNewVersion(const CheckResult& result)
 
 void ZRUpdateChecker::offerUpdate(const CheckResult& result, const QString& notes)
 {
+    // A window of the shell shows the offer when there is one; it stays open
+    // without holding up the check.
+    if (isSignalConnected(QMetaMethod::fromSignal(&ZRUpdateChecker::updateAvailable))) {
+        Q_EMIT updateAvailable(result, notes);
+        finish(result);
+        return;
+    }
     const QString question = tr("Do you want to download the update now?");
     const int answer = m_ui.runAlert({tr("Update available!"),
                                       notes.isEmpty() ? question : notes + QStringLiteral("\n\n") + question,
@@ -214,8 +224,13 @@ void ZRUpdateChecker::offerUpdate(const CheckResult& result, const QString& note
                                       UserInterface::AlertStyle::Informational,
                                       false});
     if (answer == 0)
-        m_ui.openUrl(ServiceUrls::url(m_settings, ServiceUrls::download));
+        download();
     finish(result);
+}
+
+bool ZRUpdateChecker::download()
+{
+    return m_ui.openUrl(ServiceUrls::url(m_settings, ServiceUrls::download));
 }
 
 void ZRUpdateChecker::finish(const CheckResult& result)

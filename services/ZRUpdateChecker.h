@@ -19,7 +19,8 @@ class UserInterface;
 // The version list is a property list whose entry for Vorn holds
 // productVersion, productPageURL, version and url; "version" is compared with
 // the application's own version as plain text, so any difference means an
-// update is available.
+// update is available. Failures are shown only when the user asked for the
+// check; a check at start-up logs them.
 //
 // The list is fetched by the network access manager off the GUI thread; the
 // answer and every alert come back on the GUI thread.
@@ -56,6 +57,8 @@ public:
     void checkForUpdates();
     // Starts a check; an up-to-date result is reported only when asked.
     void checkForUpdatesAndNotify(bool notifyUpToDate);
+    // Opens the download address in the browser.
+    bool download();
     // From the request for the list until the result was shown.
     bool isChecking() const { return m_checking; }
 
@@ -71,6 +74,9 @@ public:
 
 Q_SIGNALS:
     void checkAtStartupChanged(bool enabled);
+    // A newer version with its release notes (empty when they could not be
+    // fetched). With a receiver, it takes the place of the offering alert.
+    void updateAvailable(const vorn::ZRUpdateChecker::CheckResult& result, const QString& notes);
     // After the result was shown (or, for an up-to-date background check, not).
     void checkFinished(const vorn::ZRUpdateChecker::CheckResult& result);
 

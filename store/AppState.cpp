@@ -1,18 +1,20 @@
 #include "store/AppState.h"
 
+#include "store/Keys.h"
 #include "store/ObjectContext.h"
 
 namespace vorn {
 
-AppState::AppState(Settings& settings, UserInterface& ui, const Clock& clock, FileLocations locations, QObject* parent)
+AppState::AppState(Settings& settings, UserInterface& ui, const Clock& clock, FileLocations locations,
+                   QObject* parent)
     : QObject(parent), m_settings(settings), m_ui(ui), m_clock(clock), m_locations(std::move(locations))
 {
     // The document list: newest date first; among equal dates the document
     // created last comes first.
-    m_invoices.setSortDescriptors({{QStringLiteral("date"), false}, {SortDescriptor::storeOrder(), false}});
+    m_invoices.setSortDescriptors({{key::date, false}, {SortDescriptor::storeOrder(), false}});
     m_invoices.setSelectsInsertedObjects(true);
     connect(&m_invoices, &ArrayController::selectionChanged, this, &AppState::currentInvoiceChanged);
-    m_designs.setSortDescriptors({{QStringLiteral("isDefault"), false}});
+    m_designs.setSortDescriptors({{key::isDefault, false}});
 }
 
 void AppState::setContext(ObjectContext* context)
@@ -29,7 +31,7 @@ void AppState::setContext(ObjectContext* context)
 bool AppState::isCurrentInvoiceSent() const
 {
     const ManagedObject* invoice = currentInvoice();
-    return invoice && invoice->intValue(QStringLiteral("status")) >= 1;
+    return invoice && invoice->isSent();
 }
 
 } // namespace vorn

@@ -1,5 +1,6 @@
 #include "store/ManagedObject.h"
 
+#include "store/Keys.h"
 #include "store/ObjectContext.h"
 #include "store/StoreLog.h"
 
@@ -153,6 +154,41 @@ void ManagedObject::setObject(const QString& key, ManagedObject* owner)
         m_owner->removeObject(r->inverse, this);
     if (owner)
         owner->insertObject(r->inverse, this);
+}
+
+QList<ManagedObject*> ManagedObject::items() const
+{
+    return objects(key::items);
+}
+
+DocumentKind ManagedObject::kind() const
+{
+    return intValue(key::kind) == 0 ? DocumentKind::Quote : DocumentKind::Invoice;
+}
+
+void ManagedObject::setKind(DocumentKind kind)
+{
+    setValue(key::kind, qint64(kind));
+}
+
+DocumentStatus ManagedObject::status() const
+{
+    return DocumentStatus(intValue(key::status));
+}
+
+void ManagedObject::setStatus(DocumentStatus status)
+{
+    setValue(key::status, qint64(status));
+}
+
+DiscountKind ManagedObject::discountKind() const
+{
+    return intValue(key::discountKind) == 0 ? DiscountKind::Amount : DiscountKind::Rate;
+}
+
+void ManagedObject::setDiscountKind(DiscountKind kind)
+{
+    setValue(key::discountKind, qint64(kind));
 }
 
 } // namespace vorn

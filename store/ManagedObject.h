@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/DocumentState.h"
 #include "store/ObjectModel.h"
 
 #include <QByteArray>
@@ -81,11 +82,29 @@ public:
     void setObject(const QString& key, ManagedObject* object);
 
     // Shorthand for the document's ordered line items.
-    QList<ManagedObject*> items() const { return objects(QStringLiteral("items")); }
+    QList<ManagedObject*> items() const;
+
+    // The codes of a document (an Invoice object), named (see DocumentState.h).
+    DocumentKind kind() const;
+    void setKind(DocumentKind kind);
+    bool isQuote() const { return kind() == DocumentKind::Quote; }
+    bool isInvoice() const { return kind() == DocumentKind::Invoice; }
+    DocumentStatus status() const;
+    void setStatus(DocumentStatus status);
+    // Sent or beyond: the document is locked against edits.
+    bool isSent() const { return status() >= DocumentStatus::Sent; }
+    DiscountKind discountKind() const;
+    void setDiscountKind(DiscountKind kind);
 
 private:
     friend class ObjectContext;
-    enum class State { Saved, Inserted, Deleted, Gone };
+    enum class State
+    {
+        Saved,
+        Inserted,
+        Deleted,
+        Gone
+    };
 
     // Without values every attribute starts absent.
     ManagedObject(const EntityDescription& entity, ObjectContext* context, qint64 id,

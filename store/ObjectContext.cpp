@@ -1,6 +1,7 @@
 #include "store/ObjectContext.h"
 
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ListCompare.h"
 #include "store/StoreLog.h"
 
@@ -104,7 +105,8 @@ void ObjectContext::undelete(ManagedObject* object)
     if (object->m_state == ManagedObject::State::Gone) {
         // Deleted and saved since: it comes back as a new row with its old key.
         const EntityDescription& entity = object->entity();
-        auto it = std::find_if(m_gone.begin(), m_gone.end(), [object](const auto& p) { return p.get() == object; });
+        auto it =
+            std::find_if(m_gone.begin(), m_gone.end(), [object](const auto& p) { return p.get() == object; });
         if (it != m_gone.end()) {
             objectsOf(entity).objects.emplace(object->m_id, std::move(*it));
             m_gone.erase(it);
@@ -160,8 +162,9 @@ void ObjectContext::changeList(ManagedObject* object, int ri, const QList<Manage
                 member->m_owner->removeObject(r->inverse, member);
         }
     }
+    const QSet<ManagedObject*> members(list.cbegin(), list.cend());
     for (ManagedObject* member : old) {
-        if (!list.contains(member)) {
+        if (!members.contains(member)) {
             member->m_owner = nullptr;
             m_positionCheck.insert(member);
         }
@@ -182,7 +185,8 @@ ManagedObject* ObjectContext::materialize(const EntityDescription& entity, Sqlit
     auto found = eo.objects.find(row.id);
     if (found != eo.objects.end())
         return nullptr;
-    auto owned = std::unique_ptr<ManagedObject>(new ManagedObject(entity, this, row.id, std::move(row.values)));
+    auto owned =
+        std::unique_ptr<ManagedObject>(new ManagedObject(entity, this, row.id, std::move(row.values)));
     ManagedObject* object = owned.get();
     object->m_savedOwnerId = row.ownerId;
     object->m_savedPosition = row.position;
@@ -199,7 +203,8 @@ Status ObjectContext::loadAll(const EntityDescription& entity)
     }
     const RelationshipDescription* owner = entity.ownerRelationship();
     if (!owner) {
-        Status s = m_store->loadAll(entity, [&](SqliteStore::Row&& row) { materialize(entity, std::move(row)); });
+        Status s =
+            m_store->loadAll(entity, [&](SqliteStore::Row&& row) { materialize(entity, std::move(row)); });
         if (s)
             eo.allLoaded = true;
         return s;
@@ -259,7 +264,8 @@ void ObjectContext::ensureListLoaded(ManagedObject* object, int ri)
     object->m_lists[size_t(ri)] = list;
 }
 
-Result<QList<ManagedObject*>> ObjectContext::fetchObjects(const QString& entityName, const Predicate& predicate)
+Result<QList<ManagedObject*>> ObjectContext::fetchObjects(const QString& entityName,
+                                                          const Predicate& predicate)
 {
     const EntityDescription* entity = m_model.entity(entityName);
     if (!entity)
@@ -291,7 +297,7 @@ QList<ManagedObject*> ObjectContext::fetch(const QString& entityName, const Pred
 QList<ManagedObject*> ObjectContext::fetchNamed(const QString& templateName)
 {
     if (templateName == QLatin1String("defaultDesign"))
-        return fetch(Entity::Design, [](const ManagedObject& o) { return o.boolValue(QStringLiteral("isDefault")); });
+        return fetch(Entity::Design, [](const ManagedObject& o) { return o.boolValue(key::isDefault); });
     qCWarning(lcStore) << "no fetch template named" << templateName;
     return {};
 }
@@ -307,29 +313,40 @@ bool ObjectContext::commitEditing()
 void ObjectContext::registerEditor(QObject* owner, std::function<bool()> commit)
 {
     m_editors.emplace_back(owner, std::move(commit));
-    connect(owner, &QObject::destroyed, this, [this, owner] {
-        std::erase_if(m_editors, [owner](const auto& e) { return e.first == owner; });
-    });
+    connect(owner, &QObject::destroyed, this,
+            [this, owner] { std::erase_if(m_editors, [owner](const auto& e) { return e.first == owner; }); });
 }
 
 bool ObjectContext::hasChanges() const
 {
-    return std::any_of(m_changed.begin(), m_changed.end(), [](ManagedObject* o) { return o->hasChanges(); }) ||
-           std::any_of(m_positionCheck.begin(), m_positionCheck.end(), [this](ManagedObject* o) {
-               int position = -1;
-               const qint64 owner = ownerIdOf(o, &position);
-               return !o->isDeleted() && (owner != o->m_savedOwnerId || position != o->m_savedPosition);
-           });
+    if (std::any_of(m_changed.begin(), m_changed.end(), [](ManagedObject* o) { return o->hasChanges(); }))
+        return true;
+    PositionCache positions;
+    for (ManagedObject* o : m_positionCheck) {
+        int position = -1;
+        const qint64 owner = ownerIdOf(o, &position, positions);
+        if (!o->isDeleted() && (owner != o->m_savedOwnerId || position != o->m_savedPosition))
+            return true;
+    }
+    return false;
 }
 
-qint64 ObjectContext::ownerIdOf(const ManagedObject* object, int* position) const
+qint64 ObjectContext::ownerIdOf(const ManagedObject* object, int* position, PositionCache& positions) const
 {
     *position = -1;
     if (!object->m_owner)
         return 0;
-    const RelationshipDescription* r = object->entity().ownerRelationship();
-    const int ri = object->m_owner->entity().relationshipIndex(r->inverse);
-    *position = int(object->m_owner->m_lists[size_t(ri)].indexOf(object));
+    auto found = positions.constFind(object);
+    if (found == positions.cend()) {
+        const RelationshipDescription* r = object->entity().ownerRelationship();
+        const int ri = object->m_owner->entity().relationshipIndex(r->inverse);
+        const QList<ManagedObject*>& list = object->m_owner->m_lists[size_t(ri)];
+        for (qsizetype i = 0; i < list.size(); ++i)
+            positions.insert(list[i], int(i));
+        found = positions.constFind(object);
+    }
+    if (found != positions.cend())
+        *position = *found;
     return object->m_owner->m_id;
 }
 
@@ -342,6 +359,7 @@ Status ObjectContext::save()
             return &objectsOf(a->entity()) < &objectsOf(b->entity());
         return a->m_id < b->m_id;
     });
+    PositionCache positions;
     if (m_store) {
         if (Status s = m_store->begin(); !s)
             return s;
@@ -351,7 +369,7 @@ Status ObjectContext::save()
             Status s;
             if (o->m_state == ManagedObject::State::Inserted) {
                 int position = -1;
-                const qint64 owner = ownerIdOf(o, &position);
+                const qint64 owner = ownerIdOf(o, &position, positions);
                 s = m_store->insert(entity, o->m_id, o->m_values, owner, position);
             } else if (o->m_state == ManagedObject::State::Deleted) {
                 if (o->m_wasSavedBeforeDelete)
@@ -371,7 +389,7 @@ Status ObjectContext::save()
                 if (o->m_state != ManagedObject::State::Saved)
                     continue;
                 int position = -1;
-                const qint64 owner = ownerIdOf(o, &position);
+                const qint64 owner = ownerIdOf(o, &position, positions);
                 if (owner == o->m_savedOwnerId && position == o->m_savedPosition)
                     continue;
                 if (Status s = m_store->updateOwner(o->entity(), o->m_id, owner, position); !s) {
@@ -385,6 +403,7 @@ Status ObjectContext::save()
         if (!status) {
             m_store->rollback();
             qCWarning(lcStore) << "save failed:" << status.error().fullText();
+            Q_EMIT saveFailed(status.error());
             return status;
         }
     }
@@ -408,7 +427,7 @@ Status ObjectContext::save()
         if (o->m_state == ManagedObject::State::Gone)
             continue;
         int position = -1;
-        o->m_savedOwnerId = ownerIdOf(o, &position);
+        o->m_savedOwnerId = ownerIdOf(o, &position, positions);
         o->m_savedPosition = position;
     }
     m_changed.clear();

@@ -6,6 +6,7 @@
 #include "store/SqliteStore.h"
 #include "store/UndoManager.h"
 
+#include <QHash>
 #include <QObject>
 #include <QSet>
 
@@ -77,6 +78,8 @@ Q_SIGNALS:
     void objectsDeleted(const QList<vorn::ManagedObject*>& objects);
     void objectChanged(vorn::ManagedObject* object, const QString& key);
     void didSave();
+    // A save to the store failed (nothing of it was written; the changes stay pending).
+    void saveFailed(const vorn::Error& error);
     // Every object was dropped or restored: lists must fetch again.
     void contextDidReset();
 
@@ -99,7 +102,10 @@ private:
     void deleteObject(ManagedObject* object, bool fromOwner);
     void undelete(ManagedObject* object);
     void markChanged(ManagedObject* object) { m_changed.insert(object); }
-    qint64 ownerIdOf(const ManagedObject* object, int* position) const;
+    // Positions found are kept in positions, a whole list at a time, so that
+    // asking for every member of a long list stays linear.
+    using PositionCache = QHash<const ManagedObject*, int>;
+    qint64 ownerIdOf(const ManagedObject* object, int* position, PositionCache& positions) const;
 
     const ObjectModel& m_model;
     const Clock& m_clock;

@@ -1,5 +1,6 @@
 #include "store/ObjectModel.h"
 
+#include "store/Keys.h"
 #include "store/UniqueId.h"
 
 #include <QDateTime>
@@ -41,21 +42,21 @@ namespace {
 
 using T = AttributeType;
 
-std::vector<AttributeDescription> attrs(std::initializer_list<std::pair<const char*, T>> list)
+std::vector<AttributeDescription> attrs(std::initializer_list<std::pair<QString, T>> list)
 {
     std::vector<AttributeDescription> result;
     for (const auto& [name, type] : list)
-        result.push_back({QString::fromLatin1(name), type});
+        result.push_back({name, type});
     return result;
 }
 
 void appendSpare(std::vector<AttributeDescription>& a)
 {
-    a.push_back({QStringLiteral("misc1"), T::String});
-    a.push_back({QStringLiteral("misc2"), T::Integer});
-    a.push_back({QStringLiteral("misc3"), T::Float});
-    a.push_back({QStringLiteral("misc4"), T::Bool});
-    a.push_back({QStringLiteral("misc5"), T::Date});
+    a.push_back({key::misc1, T::String});
+    a.push_back({key::misc2, T::Integer});
+    a.push_back({key::misc3, T::Float});
+    a.push_back({key::misc4, T::Bool});
+    a.push_back({key::misc5, T::Date});
 }
 
 } // namespace
@@ -63,137 +64,120 @@ void appendSpare(std::vector<AttributeDescription>& a)
 ObjectModel::ObjectModel()
 {
     auto invoice = attrs({
-        {"uniqueID", T::String},
-        {"kind", T::Integer},
-        {"status", T::Integer},
-        {"number", T::String},
-        {"title", T::String},
-        {"subject", T::String},
-        {"address", T::String},
-        {"emailAddress", T::String},
-        {"clientNumber", T::String},
-        {"dispatchNumber", T::String},
-        {"notes", T::String},
-        {"conditions", T::String},
-        {"footer", T::String},
-        {"currency", T::String},
-        {"date", T::Date},
-        {"due", T::Date},
-        {"paid", T::Date},
-        {"sent", T::Date},
-        {"dispatched", T::Date},
-        {"isDispatched", T::Bool},
-        {"isPaid", T::Bool},
-        {"subAmount", T::Float},
-        {"amount", T::Float},
-        {"paidAmount", T::Float},
-        {"dueAmount", T::Float},
-        {"shippingAmount", T::Float},
-        {"discountAmount", T::Float},
-        {"tax1Amount", T::Float},
-        {"tax2Amount", T::Float},
-        {"tax3Amount", T::Float},
-        {"tax1Percent", T::Float},
-        {"tax2Percent", T::Float},
-        {"tax3Percent", T::Float},
-        {"tax1Kind", T::Integer},
-        {"tax2Kind", T::Integer},
-        {"tax3Kind", T::Integer},
-        {"discountKind", T::Integer},
-        {"discountPercent", T::Float},
-        {"discountTitle", T::String},
-        {"discountSubtitle", T::String},
-        {"hasDiscountSubtitle", T::Bool},
-        {"isDiscountEnabled", T::Bool},
-        {"shippingTitle", T::String},
-        {"shippingSubtitle", T::String},
-        {"hasShippingSubtitle", T::Bool},
-        {"isShippingEnabled", T::Bool},
-        {"isShippingTax1Enabled", T::Bool},
-        {"isShippingTax2Enabled", T::Bool},
-        {"isShippingTax3Enabled", T::Bool},
+        {key::uniqueID, T::String},
+        {key::kind, T::Integer},
+        {key::status, T::Integer},
+        {key::number, T::String},
+        {key::title, T::String},
+        {key::subject, T::String},
+        {key::address, T::String},
+        {key::emailAddress, T::String},
+        {key::clientNumber, T::String},
+        {key::dispatchNumber, T::String},
+        {key::notes, T::String},
+        {key::conditions, T::String},
+        {key::footer, T::String},
+        {key::currency, T::String},
+        {key::date, T::Date},
+        {key::due, T::Date},
+        {key::paid, T::Date},
+        {key::sent, T::Date},
+        {key::dispatched, T::Date},
+        {key::isDispatched, T::Bool},
+        {key::isPaid, T::Bool},
+        {key::subAmount, T::Float},
+        {key::amount, T::Float},
+        {key::paidAmount, T::Float},
+        {key::dueAmount, T::Float},
+        {key::shippingAmount, T::Float},
+        {key::discountAmount, T::Float},
+        {key::tax1Amount, T::Float},
+        {key::tax2Amount, T::Float},
+        {key::tax3Amount, T::Float},
+        {key::tax1Percent, T::Float},
+        {key::tax2Percent, T::Float},
+        {key::tax3Percent, T::Float},
+        {key::tax1Kind, T::Integer},
+        {key::tax2Kind, T::Integer},
+        {key::tax3Kind, T::Integer},
+        {key::discountKind, T::Integer},
+        {key::discountPercent, T::Float},
+        {key::discountTitle, T::String},
+        {key::discountSubtitle, T::String},
+        {key::hasDiscountSubtitle, T::Bool},
+        {key::isDiscountEnabled, T::Bool},
+        {key::shippingTitle, T::String},
+        {key::shippingSubtitle, T::String},
+        {key::hasShippingSubtitle, T::Bool},
+        {key::isShippingEnabled, T::Bool},
+        {key::isShippingTax1Enabled, T::Bool},
+        {key::isShippingTax2Enabled, T::Bool},
+        {key::isShippingTax3Enabled, T::Bool},
     });
     appendSpare(invoice);
 
     auto item = attrs({
-        {"uniqueID", T::String},
-        {"title", T::String},
-        {"subtitle", T::String},
-        {"unit", T::String},
-        {"sku", T::String},
-        {"note", T::String},
-        {"unitCount", T::Float},
-        {"baseAmount", T::Float},
-        {"subAmount", T::Float},
-        {"amount", T::Float},
-        {"isTax1Applied", T::Bool},
-        {"isTax2Applied", T::Bool},
-        {"isTax3Applied", T::Bool},
-        {"isTax2Compound", T::Bool},
-        {"isTax3Compound", T::Bool},
-        {"tax1Title", T::String},
-        {"tax2Title", T::String},
-        {"tax3Title", T::String},
-        {"tax1Percent", T::Float},
-        {"tax2Percent", T::Float},
-        {"tax3Percent", T::Float},
-        {"tax1Amount", T::Float},
-        {"tax2Amount", T::Float},
-        {"tax3Amount", T::Float},
+        {key::uniqueID, T::String},    {key::title, T::String},        {key::subtitle, T::String},
+        {key::unit, T::String},        {key::sku, T::String},          {key::note, T::String},
+        {key::unitCount, T::Float},    {key::baseAmount, T::Float},    {key::subAmount, T::Float},
+        {key::amount, T::Float},       {key::isTax1Applied, T::Bool},  {key::isTax2Applied, T::Bool},
+        {key::isTax3Applied, T::Bool}, {key::isTax2Compound, T::Bool}, {key::isTax3Compound, T::Bool},
+        {key::tax1Title, T::String},   {key::tax2Title, T::String},    {key::tax3Title, T::String},
+        {key::tax1Percent, T::Float},  {key::tax2Percent, T::Float},   {key::tax3Percent, T::Float},
+        {key::tax1Amount, T::Float},   {key::tax2Amount, T::Float},    {key::tax3Amount, T::Float},
     });
     appendSpare(item);
 
     auto recentItem = attrs({
-        {"uniqueID", T::String},
-        {"title", T::String},
-        {"subtitle", T::String},
-        {"unit", T::String},
-        {"sku", T::String},
-        {"note", T::String},
-        {"isTax1Applied", T::Bool},
-        {"isTax2Applied", T::Bool},
-        {"isTax3Applied", T::Bool},
-        {"subAmount", T::Float},
-        {"baseAmount", T::Float},
+        {key::uniqueID, T::String},
+        {key::title, T::String},
+        {key::subtitle, T::String},
+        {key::unit, T::String},
+        {key::sku, T::String},
+        {key::note, T::String},
+        {key::isTax1Applied, T::Bool},
+        {key::isTax2Applied, T::Bool},
+        {key::isTax3Applied, T::Bool},
+        {key::subAmount, T::Float},
+        {key::baseAmount, T::Float},
     });
     appendSpare(recentItem);
 
     auto recentShipping = attrs({
-        {"uniqueID", T::String},
-        {"title", T::String},
-        {"subtitle", T::String},
-        {"note", T::String},
-        {"hasSubtitle", T::Bool},
-        {"isTax1Enabled", T::Bool},
-        {"isTax2Enabled", T::Bool},
-        {"isTax3Enabled", T::Bool},
-        {"amount", T::Float},
+        {key::uniqueID, T::String},
+        {key::title, T::String},
+        {key::subtitle, T::String},
+        {key::note, T::String},
+        {key::hasSubtitle, T::Bool},
+        {key::isTax1Enabled, T::Bool},
+        {key::isTax2Enabled, T::Bool},
+        {key::isTax3Enabled, T::Bool},
+        {key::amount, T::Float},
     });
     appendSpare(recentShipping);
 
     auto address = attrs({
-        {"uniqueID", T::String},
-        {"address", T::String},
-        {"emailAddress", T::String},
-        {"clientNumber", T::String},
-        {"date", T::Date},
+        {key::uniqueID, T::String},
+        {key::address, T::String},
+        {key::emailAddress, T::String},
+        {key::clientNumber, T::String},
+        {key::date, T::Date},
     });
     appendSpare(address);
 
     auto design = attrs({
-        {"uniqueID", T::String},
-        {"title", T::String},
-        {"invoice", T::String},
-        {"item", T::String},
-        {"css", T::String},
-        {"isDefault", T::Bool},
+        {key::uniqueID, T::String},
+        {key::title, T::String},
+        {key::invoice, T::String},
+        {key::item, T::String},
+        {key::css, T::String},
+        {key::isDefault, T::Bool},
     });
     appendSpare(design);
 
-    RelationshipDescription items{QStringLiteral("items"), Entity::Item, QStringLiteral("invoice"), true, true,
-                                  DeleteRule::Cascade};
-    RelationshipDescription owner{QStringLiteral("invoice"), Entity::Invoice, QStringLiteral("items"), false, false,
-                                  DeleteRule::Nullify};
+    RelationshipDescription items{key::items, Entity::Item, key::invoice, true, true, DeleteRule::Cascade};
+    RelationshipDescription owner{key::invoice, Entity::Invoice, key::items,
+                                  false,        false,           DeleteRule::Nullify};
 
     m_entities.push_back(std::make_unique<EntityDescription>(Entity::Invoice, std::move(invoice),
                                                              std::vector<RelationshipDescription>{items}));
@@ -201,7 +185,8 @@ ObjectModel::ObjectModel()
                                                              std::vector<RelationshipDescription>{owner}));
     m_entities.push_back(std::make_unique<EntityDescription>(Entity::Address, std::move(address)));
     m_entities.push_back(std::make_unique<EntityDescription>(Entity::RecentItem, std::move(recentItem)));
-    m_entities.push_back(std::make_unique<EntityDescription>(Entity::RecentShipping, std::move(recentShipping)));
+    m_entities.push_back(
+        std::make_unique<EntityDescription>(Entity::RecentShipping, std::move(recentShipping)));
     m_entities.push_back(std::make_unique<EntityDescription>(Entity::Design, std::move(design)));
 
     auto* itemEntity = m_entities[1].get();
@@ -226,17 +211,17 @@ QVariant ObjectModel::defaultValue(const AttributeDescription& attribute, const 
 {
     // Every object starts with a fresh identity and the five spare attributes set.
     const QString& n = attribute.name;
-    if (n == QLatin1String("uniqueID"))
+    if (n == key::uniqueID)
         return globallyUniqueString();
-    if (n == QLatin1String("misc1"))
+    if (n == key::misc1)
         return QString();
-    if (n == QLatin1String("misc2"))
+    if (n == key::misc2)
         return qint64(0);
-    if (n == QLatin1String("misc3"))
+    if (n == key::misc3)
         return 0.0f;
-    if (n == QLatin1String("misc4"))
+    if (n == key::misc4)
         return false;
-    if (n == QLatin1String("misc5"))
+    if (n == key::misc5)
         return now;
     return {};
 }

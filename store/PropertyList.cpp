@@ -1,13 +1,17 @@
 #include "store/PropertyList.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <QTimeZone>
+#include <QXmlStreamReader>
 
 #include <plist/plist.h>
 
 #include <algorithm>
+#include <bit>
 #include <limits>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace vorn {
@@ -23,45 +27,6 @@ struct PlistDeleter
 };
 using PlistPtr = std::unique_ptr<void, PlistDeleter>;
 
-// The nesting depth of an XML property list, counted over its container
-// tags without building anything; the parser recurses, so depth is capped
-// before it runs.
-int xmlDepth(const QByteArray& data)
-{
-    int depth = 0, maxDepth = 0;
-    const char* p = data.constData();
-    const char* end = p + data.size();
-    while (p < end) {
-        const char* lt = static_cast<const char*>(memchr(p, '<', size_t(end - p)));
-        if (!lt)
-            break;
-        const char* gt = static_cast<const char*>(memchr(lt, '>', size_t(end - lt)));
-        if (!gt)
-            break;
-        const QByteArray tag = QByteArray::fromRawData(lt + 1, int(gt - lt - 1)).trimmed();
-        const bool selfClosing = tag.endsWith('/');
-        // The element name ends at white space: attributes do not hide a container.
-        qsizetype nameEnd = 0;
-        while (nameEnd < tag.size() && !isspace(uchar(tag[nameEnd])) && tag[nameEnd] != '/')
-            ++nameEnd;
-        if (nameEnd == 0 && tag.startsWith('/')) {
-            nameEnd = 1;
-            while (nameEnd < tag.size() && !isspace(uchar(tag[nameEnd])))
-                ++nameEnd;
-        }
-        const QByteArray name = tag.left(nameEnd);
-        const bool container = name == "dict" || name == "array";
-        if (container && selfClosing)
-            maxDepth = std::max(maxDepth, depth + 1);
-        else if (container)
-            maxDepth = std::max(maxDepth, ++depth);
-        else if (name == "/dict" || name == "/array")
-            --depth;
-        p = gt + 1;
-    }
-    return maxDepth;
-}
-
 // Binary property lists: each container holds object references, and a
 // reference to an object that is still being decoded is a cycle. The walk
 // uses an explicit stack, so neither depth nor cycles can overflow ours, and
@@ -69,8 +34,9 @@ int xmlDepth(const QByteArray& data)
 // referenced from several places are copied by the reader each time, so the
 // size of the tree as it will be built is counted too: a few hundred bytes of
 // shared references can otherwise describe billions of nodes.
-bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
+bool binaryIsSafe(const QByteArray& data)
 {
+    constexpr int maxDepth = PropertyList::maximumDepth;
     const auto* d = reinterpret_cast<const unsigned char*>(data.constData());
     const qsizetype size = data.size();
     if (size < 40 || memcmp(d, "bplist00", 8) != 0)
@@ -91,6 +57,7 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
         tableOffset >= quint64(size) || count > quint64(size) ||
         tableOffset + count * quint64(offsetSize) > quint64(size - 32))
         return false;
+    const quint64 maxNodes = PropertyList::unfoldedLimit(count);
     auto offsetOf = [&](quint64 i) { return be(d + tableOffset + i * quint64(offsetSize), offsetSize); };
     // libplist asserts (and so aborts) on a dictionary key with a zero
     // character in it; such keys are refused here.
@@ -135,6 +102,7 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
         size_t next = 0;
     };
     std::vector<Frame> stack;
+    quint64 referencesSeen = 0;
     auto open = [&](quint64 object, Frame& frame) -> bool {
         const quint64 offset = offsetOf(object);
         if (offset >= tableOffset)
@@ -156,6 +124,11 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
         }
         const quint64 refs = type == 0xD ? n * 2 : n;
         if (refs > count * 2 + 2 || pos + refs * quint64(refSize) > tableOffset)
+            return false;
+        // Every reference of a container reached stands for at least one
+        // value: past the limit, the rest of the file need not be read.
+        referencesSeen += refs;
+        if (referencesSeen > maxNodes)
             return false;
         frame.refs.reserve(size_t(refs));
         for (quint64 i = 0; i < refs; ++i) {
@@ -197,6 +170,195 @@ bool binaryIsSafe(const QByteArray& data, int maxDepth, quint64 maxNodes)
     }
     return true;
 }
+
+// XML property lists are read here rather than by libplist, whose parser
+// slows down quadratically on some texts (entities, for one). The format is
+// small: a <plist> element holding one value, values being <dict> (<key>
+// and value pairs), <array>, <string>, <integer>, <real>, <true/>,
+// <false/>, <date> and <data>. Depth and the number of values are checked
+// as the elements arrive, so a hostile file is refused as soon as it
+// crosses a limit.
+class XmlReader
+{
+public:
+    explicit XmlReader(const QByteArray& data) : m_xml(data) {}
+
+    std::optional<QVariant> read()
+    {
+        if (!nextElement())
+            return std::nullopt;
+        std::optional<QVariant> root;
+        if (m_xml.name() == QLatin1String("plist")) {
+            if (!nextElement())
+                return std::nullopt;
+            root = value(1);
+            if (!root || !endOfParent())
+                return std::nullopt;
+        } else {
+            root = value(1);
+            if (!root)
+                return std::nullopt;
+        }
+        // Nothing but the end of the document may follow.
+        while (!m_xml.atEnd()) {
+            const auto token = m_xml.readNext();
+            if (token == QXmlStreamReader::StartElement || token == QXmlStreamReader::Invalid ||
+                (token == QXmlStreamReader::Characters && !m_xml.isWhitespace()))
+                return std::nullopt;
+        }
+        return m_xml.hasError() ? std::nullopt : root;
+    }
+
+private:
+    // Moves to the next start element; false at an end element, text that
+    // is not white space, the end or an error.
+    bool nextElement()
+    {
+        while (!m_xml.atEnd()) {
+            switch (m_xml.readNext()) {
+            case QXmlStreamReader::StartElement:
+                return true;
+            case QXmlStreamReader::Characters:
+                if (!m_xml.isWhitespace())
+                    return false;
+                break;
+            case QXmlStreamReader::EndElement:
+            case QXmlStreamReader::Invalid:
+            case QXmlStreamReader::EndDocument:
+                return false;
+            default:
+                break;
+            }
+        }
+        return false;
+    }
+
+    // After the last child: true when the parent's end element comes next.
+    bool endOfParent()
+    {
+        while (!m_xml.atEnd()) {
+            switch (m_xml.readNext()) {
+            case QXmlStreamReader::EndElement:
+                return true;
+            case QXmlStreamReader::Characters:
+                if (!m_xml.isWhitespace())
+                    return false;
+                break;
+            case QXmlStreamReader::Comment:
+            case QXmlStreamReader::ProcessingInstruction:
+                break;
+            default:
+                return false;
+            }
+        }
+        return false;
+    }
+
+    std::optional<QString> text()
+    {
+        QString t = m_xml.readElementText(QXmlStreamReader::ErrorOnUnexpectedElement);
+        if (m_xml.hasError())
+            return std::nullopt;
+        return t;
+    }
+
+    // The value whose start element was just read; afterwards its end
+    // element has been read.
+    std::optional<QVariant> value(int depth)
+    {
+        if (++m_values > PropertyList::maximumNodes || depth > PropertyList::maximumDepth)
+            return std::nullopt;
+        const QStringView name = m_xml.name();
+        if (name == QLatin1String("dict"))
+            return dictionary(depth);
+        if (name == QLatin1String("array")) {
+            QVariantList list;
+            // Children until the end element ends the loop.
+            while (nextElement()) {
+                auto element = value(depth + 1);
+                if (!element)
+                    return std::nullopt;
+                list.append(std::move(*element));
+            }
+            if (m_xml.tokenType() != QXmlStreamReader::EndElement)
+                return std::nullopt;
+            return QVariant(list);
+        }
+        if (name == QLatin1String("true") || name == QLatin1String("false")) {
+            const bool b = name == QLatin1String("true");
+            if (!text())
+                return std::nullopt;
+            return QVariant(b);
+        }
+        const QString element = name.toString();
+        auto t = text();
+        if (!t)
+            return std::nullopt;
+        if (element == QLatin1String("string"))
+            return QVariant(*t);
+        const QString trimmed = t->trimmed();
+        bool ok = false;
+        if (element == QLatin1String("integer")) {
+            const bool hex = trimmed.startsWith(QLatin1String("0x"), Qt::CaseInsensitive);
+            if (trimmed.startsWith(QLatin1Char('-'))) {
+                const qint64 v = trimmed.toLongLong(&ok, 10);
+                return ok ? std::optional<QVariant>(QVariant(v)) : std::nullopt;
+            }
+            // Values beyond the signed range wrap, as the binary form stores them.
+            const quint64 v = hex ? trimmed.mid(2).toULongLong(&ok, 16) : trimmed.toULongLong(&ok, 10);
+            return ok ? std::optional<QVariant>(QVariant(qint64(v))) : std::nullopt;
+        }
+        if (element == QLatin1String("real")) {
+            // libplist and the platform write infinities as words.
+            const QString word = trimmed.toLower();
+            if (word == QLatin1String("infinity") || word == QLatin1String("+infinity"))
+                return QVariant(std::numeric_limits<double>::infinity());
+            if (word == QLatin1String("-infinity"))
+                return QVariant(-std::numeric_limits<double>::infinity());
+            const double v = trimmed.toDouble(&ok);
+            return ok ? std::optional<QVariant>(QVariant(v)) : std::nullopt;
+        }
+        if (element == QLatin1String("date")) {
+            const QDateTime d = QDateTime::fromString(trimmed, Qt::ISODate);
+            return d.isValid() ? std::optional<QVariant>(QVariant(d.toUTC())) : std::nullopt;
+        }
+        if (element == QLatin1String("data")) {
+            QByteArray base64 = t->toLatin1();
+            base64.removeIf([](char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; });
+            auto decoded = QByteArray::fromBase64Encoding(base64, QByteArray::AbortOnBase64DecodingErrors);
+            return decoded ? std::optional<QVariant>(QVariant(*decoded)) : std::nullopt;
+        }
+        return std::nullopt;
+    }
+
+    std::optional<QVariant> dictionary(int depth)
+    {
+        QVariantMap map;
+        while (nextElement()) {
+            if (m_xml.name() != QLatin1String("key"))
+                return std::nullopt;
+            auto key = text();
+            if (!key || !nextElement())
+                return std::nullopt;
+            auto v = value(depth + 1);
+            if (!v)
+                return std::nullopt;
+            map.insert(*key, std::move(*v));
+        }
+        if (m_xml.tokenType() != QXmlStreamReader::EndElement)
+            return std::nullopt;
+        // A keyed archive's reference as the platform writes it in XML.
+        if (map.size() == 1) {
+            const QVariant uid = map.value(QStringLiteral("CF$UID"));
+            if (uid.typeId() == QMetaType::LongLong && uid.toLongLong() >= 0)
+                return QVariant::fromValue(PlistUid{quint64(uid.toLongLong())});
+        }
+        return QVariant(map);
+    }
+
+    QXmlStreamReader m_xml;
+    quint64 m_values = 0;
+};
 
 QVariant toVariant(plist_t node, int depth)
 {
@@ -246,11 +408,20 @@ QVariant toVariant(plist_t node, int depth)
         return QVariant::fromValue(PlistUid{v});
     }
     case PLIST_ARRAY: {
+        // Walked with an iterator: libplist finds the n-th element of an
+        // array by counting from the first, so indexing would be quadratic.
         QVariantList list;
-        const uint32_t n = plist_array_get_size(node);
-        list.reserve(n);
-        for (uint32_t i = 0; i < n; ++i)
-            list.append(toVariant(plist_array_get_item(node, i), depth + 1));
+        list.reserve(plist_array_get_size(node));
+        plist_array_iter it = nullptr;
+        plist_array_new_iter(node, &it);
+        for (;;) {
+            plist_t item = nullptr;
+            plist_array_next_item(node, it, &item);
+            if (!item)
+                break;
+            list.append(toVariant(item, depth + 1));
+        }
+        free(it);
         return list;
     }
     case PLIST_DICT: {
@@ -307,7 +478,8 @@ plist_t fromVariant(const QVariant& v)
         // 2001 epoch); a date beyond that is pinned to the nearest end
         // rather than wrapped into another century.
         if (sec > std::numeric_limits<int32_t>::max() || sec < std::numeric_limits<int32_t>::min()) {
-            sec = std::clamp<qint64>(sec, std::numeric_limits<int32_t>::min(), std::numeric_limits<int32_t>::max());
+            sec = std::clamp<qint64>(sec, std::numeric_limits<int32_t>::min(),
+                                     std::numeric_limits<int32_t>::max());
             rest = 0;
         }
         return plist_new_date(int32_t(sec), int32_t(rest * 1000));
@@ -336,24 +508,107 @@ plist_t fromVariant(const QVariant& v)
 
 } // namespace
 
-Result<QVariant> PropertyList::read(const QByteArray& data)
+quint64 PropertyList::unfoldedLimit(quint64 objects)
+{
+    return std::min(maximumNodes, objects * unfoldingFactor + unfoldingAllowance);
+}
+
+struct PropertyList::Tree::Nodes
+{
+    PlistPtr root;
+    // The elements of arrays asked for by element, found once.
+    QHash<QString, std::vector<plist_t>> arrays;
+
+    plist_t entry(const QString& key) const
+    {
+        if (plist_get_node_type(root.get()) != PLIST_DICT)
+            return nullptr;
+        return plist_dict_get_item(root.get(), key.toUtf8().constData());
+    }
+    const std::vector<plist_t>* array(const QString& key)
+    {
+        auto found = arrays.find(key);
+        if (found != arrays.end())
+            return &*found;
+        plist_t node = entry(key);
+        if (!node || plist_get_node_type(node) != PLIST_ARRAY)
+            return nullptr;
+        std::vector<plist_t> elements;
+        elements.reserve(plist_array_get_size(node));
+        plist_array_iter it = nullptr;
+        plist_array_new_iter(node, &it);
+        for (;;) {
+            plist_t item = nullptr;
+            plist_array_next_item(node, it, &item);
+            if (!item)
+                break;
+            elements.push_back(item);
+        }
+        free(it);
+        return &*arrays.insert(key, std::move(elements));
+    }
+};
+
+QVariant PropertyList::Tree::value(const QString& key) const
+{
+    if (!m_nodes)
+        return key.isEmpty() ? m_root : m_root.toMap().value(key);
+    if (key.isEmpty())
+        return toVariant(m_nodes->root.get(), 0);
+    plist_t node = m_nodes->entry(key);
+    return node ? toVariant(node, 1) : QVariant();
+}
+
+qsizetype PropertyList::Tree::arraySize(const QString& key) const
+{
+    if (!m_nodes) {
+        const QVariant v = m_root.toMap().value(key);
+        return v.typeId() == QMetaType::QVariantList ? v.toList().size() : -1;
+    }
+    const std::vector<plist_t>* elements = m_nodes->array(key);
+    return elements ? qsizetype(elements->size()) : -1;
+}
+
+QVariant PropertyList::Tree::arrayElement(const QString& key, qsizetype index) const
+{
+    if (!m_nodes)
+        return m_root.toMap().value(key).toList().value(index);
+    const std::vector<plist_t>* elements = m_nodes->array(key);
+    if (!elements || index < 0 || size_t(index) >= elements->size())
+        return {};
+    return toVariant((*elements)[size_t(index)], 2);
+}
+
+Result<PropertyList::Tree> PropertyList::parse(const QByteArray& data)
 {
     if (data.isEmpty())
         return Error::make(ErrorCode::FileReadUnknown, tr("The file is empty."));
     if (data.size() > maximumSize)
         return Error::make(ErrorCode::FileReadUnknown, tr("The file is too large to be a Vorn file."));
-    const bool binary = data.startsWith("bplist00");
-    if (binary ? !binaryIsSafe(data, maximumDepth, maximumNodes) : xmlDepth(data) > maximumDepth)
-        return Error::make(ErrorCode::FileReadUnknown, tr("The file is damaged or not a property list."));
+    const QString damaged = tr("The file is damaged or not a property list.");
+    if (!data.startsWith("bplist00")) {
+        auto root = XmlReader(data).read();
+        if (!root)
+            return Error::make(ErrorCode::FileReadUnknown, damaged);
+        return Tree(std::move(*root));
+    }
+    if (!binaryIsSafe(data))
+        return Error::make(ErrorCode::FileReadUnknown, damaged);
     plist_t root = nullptr;
-    if (binary)
-        plist_from_bin(data.constData(), uint32_t(data.size()), &root);
-    else
-        plist_from_xml(data.constData(), uint32_t(data.size()), &root);
-    PlistPtr guard(root);
+    plist_from_bin(data.constData(), uint32_t(data.size()), &root);
     if (!root)
-        return Error::make(ErrorCode::FileReadUnknown, tr("The file is damaged or not a property list."));
-    return toVariant(root, 0);
+        return Error::make(ErrorCode::FileReadUnknown, damaged);
+    auto nodes = std::make_shared<Tree::Nodes>();
+    nodes->root.reset(root);
+    return Tree(std::move(nodes));
+}
+
+Result<QVariant> PropertyList::read(const QByteArray& data)
+{
+    auto tree = parse(data);
+    if (!tree)
+        return tree.error();
+    return tree.value().value();
 }
 
 QByteArray PropertyList::toXml(const QVariant& root)
@@ -367,15 +622,202 @@ QByteArray PropertyList::toXml(const QVariant& root)
     return result;
 }
 
+namespace {
+
+// Binary property lists are written here: libplist's writer finds shared
+// values in a table of fixed size, which makes it quadratic in the number of
+// objects (seconds for a document of some thousand items). Equal strings,
+// numbers, dates, data and references are written once, containers each time.
+class BinaryWriter
+{
+public:
+    QByteArray write(const QVariant& root)
+    {
+        const quint64 top = add(root);
+        const quint64 count = m_objects.size();
+        const int refSize = bytesFor(count);
+        QByteArray out = "bplist00";
+        std::vector<quint64> offsets;
+        offsets.reserve(m_objects.size());
+        for (const Object& object : m_objects) {
+            offsets.push_back(quint64(out.size()));
+            if (!object.container) {
+                out += object.bytes;
+                continue;
+            }
+            const quint64 n = object.type == 0xD ? object.refs.size() / 2 : object.refs.size();
+            appendMarker(out, object.type, n);
+            for (quint64 ref : object.refs)
+                appendBigEndian(out, ref, refSize);
+        }
+        const quint64 tableOffset = quint64(out.size());
+        const int offsetSize = bytesFor(tableOffset + 1);
+        for (quint64 offset : offsets)
+            appendBigEndian(out, offset, offsetSize);
+        out += QByteArray(6, '\0');
+        out += char(offsetSize);
+        out += char(refSize);
+        appendBigEndian(out, count, 8);
+        appendBigEndian(out, top, 8);
+        appendBigEndian(out, tableOffset, 8);
+        return out;
+    }
+
+private:
+    struct Object
+    {
+        bool container = false;
+        int type = 0;
+        QByteArray bytes;
+        std::vector<quint64> refs;
+    };
+
+    static int bytesFor(quint64 value)
+    {
+        return value <= 0xFF ? 1 : value <= 0xFFFF ? 2 : value <= 0xFFFFFFFFULL ? 4 : 8;
+    }
+    static void appendBigEndian(QByteArray& out, quint64 value, int bytes)
+    {
+        for (int i = bytes - 1; i >= 0; --i)
+            out += char((value >> (8 * i)) & 0xFF);
+    }
+    static void appendInteger(QByteArray& out, qint64 value)
+    {
+        // Negative numbers take all eight bytes, as readers expect.
+        const int bytes = value < 0 ? 8 : bytesFor(quint64(value));
+        out += char(0x10 | std::countr_zero(unsigned(bytes)));
+        appendBigEndian(out, quint64(value), bytes);
+    }
+    static void appendMarker(QByteArray& out, int type, quint64 count)
+    {
+        if (count < 15) {
+            out += char((type << 4) | int(count));
+            return;
+        }
+        out += char((type << 4) | 0xF);
+        appendInteger(out, qint64(count));
+    }
+    static void appendDouble(QByteArray& out, int marker, double value)
+    {
+        out += char(marker);
+        appendBigEndian(out, std::bit_cast<quint64>(value), 8);
+    }
+
+    quint64 leaf(QByteArray bytes)
+    {
+        auto found = m_leaves.constFind(bytes);
+        if (found != m_leaves.cend())
+            return *found;
+        const quint64 index = m_objects.size();
+        m_leaves.insert(bytes, index);
+        m_objects.push_back(Object{false, 0, std::move(bytes), {}});
+        return index;
+    }
+
+    quint64 string(const QString& text)
+    {
+        QByteArray out;
+        const bool ascii =
+            std::all_of(text.cbegin(), text.cend(), [](QChar c) { return c.unicode() < 0x80; });
+        if (ascii) {
+            appendMarker(out, 0x5, quint64(text.size()));
+            out += text.toLatin1();
+        } else {
+            appendMarker(out, 0x6, quint64(text.size()));
+            for (QChar c : text)
+                appendBigEndian(out, c.unicode(), 2);
+        }
+        return leaf(std::move(out));
+    }
+
+    quint64 container(int type, std::vector<quint64> refs)
+    {
+        const quint64 index = m_objects.size();
+        m_objects.push_back(Object{true, type, {}, std::move(refs)});
+        return index;
+    }
+
+    quint64 add(const QVariant& v)
+    {
+        QByteArray out;
+        switch (v.typeId()) {
+        case QMetaType::Bool:
+            out += char(v.toBool() ? 0x09 : 0x08);
+            return leaf(std::move(out));
+        case QMetaType::Int:
+        case QMetaType::UInt:
+        case QMetaType::LongLong:
+        case QMetaType::ULongLong:
+        case QMetaType::Long:
+        case QMetaType::Short:
+            appendInteger(out, v.toLongLong());
+            return leaf(std::move(out));
+        case QMetaType::Float:
+        case QMetaType::Double:
+            appendDouble(out, 0x23, v.toDouble());
+            return leaf(std::move(out));
+        case QMetaType::QByteArray: {
+            const QByteArray data = v.toByteArray();
+            appendMarker(out, 0x4, quint64(data.size()));
+            out += data;
+            return leaf(std::move(out));
+        }
+        case QMetaType::QDateTime: {
+            // Readers keep whole seconds in 32 bits (1933 to 2069 around the
+            // 2001 epoch); a date beyond that is pinned to the nearest end
+            // rather than wrapped into another century.
+            const qint64 ms = v.toDateTime().toMSecsSinceEpoch() - referenceDateOffset * 1000;
+            constexpr qint64 limit = qint64(std::numeric_limits<int32_t>::max()) * 1000;
+            const qint64 clamped = std::clamp<qint64>(ms, -limit - 1000, limit);
+            appendDouble(out, 0x33, double(clamped) / 1000.0);
+            return leaf(std::move(out));
+        }
+        case QMetaType::QVariantList:
+        case QMetaType::QStringList: {
+            const QVariantList list = v.toList();
+            std::vector<quint64> refs;
+            refs.reserve(size_t(list.size()));
+            const quint64 index = container(0xA, {});
+            for (const QVariant& element : list)
+                refs.push_back(add(element));
+            m_objects[index].refs = std::move(refs);
+            return index;
+        }
+        case QMetaType::QVariantMap:
+        case QMetaType::QVariantHash: {
+            const QVariantMap map = v.toMap();
+            std::vector<quint64> refs;
+            refs.reserve(size_t(map.size()) * 2);
+            const quint64 index = container(0xD, {});
+            for (auto it = map.cbegin(); it != map.cend(); ++it)
+                refs.push_back(string(it.key()));
+            for (auto it = map.cbegin(); it != map.cend(); ++it)
+                refs.push_back(add(it.value()));
+            m_objects[index].refs = std::move(refs);
+            return index;
+        }
+        default:
+            break;
+        }
+        if (v.typeId() == qMetaTypeId<PlistUid>()) {
+            const quint64 uid = v.value<PlistUid>().value;
+            const int bytes = bytesFor(uid);
+            out += char(0x80 | (bytes - 1));
+            appendBigEndian(out, uid, bytes);
+            return leaf(std::move(out));
+        }
+        return string(v.toString());
+    }
+
+    std::vector<Object> m_objects;
+    QHash<QByteArray, quint64> m_leaves;
+};
+
+} // namespace
+
 QByteArray PropertyList::toBinary(const QVariant& root)
 {
-    PlistPtr node(fromVariant(root));
-    char* bin = nullptr;
-    uint32_t length = 0;
-    plist_to_bin(static_cast<plist_t>(node.get()), &bin, &length);
-    QByteArray result(bin, qsizetype(length));
-    plist_to_bin_free(bin);
-    return result;
+    return BinaryWriter().write(root);
 }
 
 } // namespace vorn

@@ -7,6 +7,10 @@
 #include <QFile>
 #include <QTimer>
 
+#include <cmath>
+#include <limits>
+#include <optional>
+
 namespace vorn {
 
 Settings::Settings(QString filePath, QObject* parent) : QObject(parent), m_filePath(std::move(filePath)) {}
@@ -81,52 +85,103 @@ void Settings::registerDefaults(const QVariantMap& defaults)
 
 void Settings::changed(const QString& key)
 {
+    m_reported.remove(key);
     m_dirty = true;
     if (m_syncTimer)
         m_syncTimer->start();
     Q_EMIT valueChanged(key);
 }
 
-bool Settings::boolValue(const QString& key) const
+namespace {
+
+// Whole numbers a double may be converted to without leaving qint64's range.
+constexpr double integerLimit = 9.2e18;
+
+std::optional<bool> asBool(const QVariant& v)
 {
-    const QVariant v = value(key);
-    if (v.typeId() == QMetaType::QString) {
-        // Text written by hand: "YES", "true" and numbers other than 0 are true.
-        const QString s = v.toString().trimmed().toLower();
-        return s == QLatin1String("yes") || s == QLatin1String("true") || s.toLongLong() != 0;
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+        return v.toLongLong() != 0;
+    case QMetaType::Double:
+    case QMetaType::Float: {
+        const double d = v.toDouble();
+        return std::isfinite(d) ? std::optional<bool>(d != 0) : std::nullopt;
     }
-    return v.toBool();
+    case QMetaType::QString: {
+        // Text written by hand: "YES", "true" and whole numbers.
+        const QString s = v.toString().trimmed().toLower();
+        if (s == QLatin1String("yes") || s == QLatin1String("true"))
+            return true;
+        if (s == QLatin1String("no") || s == QLatin1String("false"))
+            return false;
+        bool ok = false;
+        const qint64 n = s.toLongLong(&ok);
+        return ok ? std::optional<bool>(n != 0) : std::nullopt;
+    }
+    default:
+        return std::nullopt;
+    }
 }
 
-qint64 Settings::intValue(const QString& key) const
+std::optional<double> asDouble(const QVariant& v)
 {
-    const QVariant v = value(key);
-    if (v.typeId() == QMetaType::Double || v.typeId() == QMetaType::Float)
-        return qint64(v.toDouble());
-    if (v.typeId() == QMetaType::QString)
-        return qint64(v.toString().trimmed().toDouble());
-    return v.toLongLong();
+    double d = 0;
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+    case QMetaType::Double:
+    case QMetaType::Float:
+        d = v.toDouble();
+        break;
+    case QMetaType::QString: {
+        bool ok = false;
+        d = v.toString().trimmed().toDouble(&ok);
+        if (!ok)
+            return std::nullopt;
+        break;
+    }
+    default:
+        return std::nullopt;
+    }
+    return std::isfinite(d) ? std::optional<double>(d) : std::nullopt;
 }
 
-float Settings::floatValue(const QString& key) const
+std::optional<qint64> asInteger(const QVariant& v)
 {
-    return float(doubleValue(key));
+    switch (v.typeId()) {
+    case QMetaType::Bool:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+        return v.toLongLong();
+    case QMetaType::QString: {
+        bool ok = false;
+        const qint64 n = v.toString().trimmed().toLongLong(&ok);
+        if (ok)
+            return n;
+        break;
+    }
+    default:
+        break;
+    }
+    // Reals (and texts of reals) are cut to whole numbers, within range only.
+    const std::optional<double> d = asDouble(v);
+    if (!d || std::fabs(*d) > integerLimit)
+        return std::nullopt;
+    return qint64(*d);
 }
 
-double Settings::doubleValue(const QString& key) const
+std::optional<QString> asString(const QVariant& v)
 {
-    const QVariant v = value(key);
-    if (v.typeId() == QMetaType::QString)
-        return v.toString().trimmed().toDouble();
-    return v.toDouble();
-}
-
-QString Settings::stringValue(const QString& key) const
-{
-    const QVariant v = value(key);
     switch (v.typeId()) {
     case QMetaType::QString:
-        return v.toString();
     case QMetaType::Bool:
     case QMetaType::LongLong:
     case QMetaType::Int:
@@ -134,20 +189,95 @@ QString Settings::stringValue(const QString& key) const
     case QMetaType::Float:
         return v.toString();
     default:
-        return {};
+        return std::nullopt;
     }
+}
+
+} // namespace
+
+void Settings::reportWrongType(const QString& key, const QVariant& value, const char* expected) const
+{
+    if (m_reported.contains(key))
+        return;
+    m_reported.insert(key);
+    qCWarning(lcStore).noquote()
+        << QStringLiteral("The setting “%1” holds %2 (%3) where %4 belongs; its default is used.")
+               .arg(key, QLatin1String(value.typeName()), value.toString().left(40), QLatin1String(expected));
+}
+
+bool Settings::boolValue(const QString& key) const
+{
+    const QVariant v = value(key);
+    if (!v.isValid())
+        return false;
+    if (const auto b = asBool(v))
+        return *b;
+    reportWrongType(key, v, "a yes/no value");
+    return asBool(m_declared.value(key)).value_or(false);
+}
+
+qint64 Settings::intValue(const QString& key) const
+{
+    const QVariant v = value(key);
+    if (!v.isValid())
+        return 0;
+    if (const auto n = asInteger(v))
+        return *n;
+    reportWrongType(key, v, "a whole number");
+    return asInteger(m_declared.value(key)).value_or(0);
+}
+
+float Settings::floatValue(const QString& key) const
+{
+    const double d = doubleValue(key);
+    // A double beyond the float range has no float (and converting it is undefined).
+    if (std::fabs(d) <= double(std::numeric_limits<float>::max()))
+        return float(d);
+    reportWrongType(key, value(key), "a number");
+    const double declared = asDouble(m_declared.value(key)).value_or(0);
+    return std::fabs(declared) <= double(std::numeric_limits<float>::max()) ? float(declared) : 0.0f;
+}
+
+double Settings::doubleValue(const QString& key) const
+{
+    const QVariant v = value(key);
+    if (!v.isValid())
+        return 0;
+    if (const auto d = asDouble(v))
+        return *d;
+    reportWrongType(key, v, "a number");
+    return asDouble(m_declared.value(key)).value_or(0);
+}
+
+QString Settings::stringValue(const QString& key) const
+{
+    const QVariant v = value(key);
+    if (!v.isValid())
+        return {};
+    if (const auto s = asString(v))
+        return *s;
+    reportWrongType(key, v, "text");
+    return asString(m_declared.value(key)).value_or(QString());
 }
 
 QByteArray Settings::dataValue(const QString& key) const
 {
     const QVariant v = value(key);
-    return v.typeId() == QMetaType::QByteArray ? v.toByteArray() : QByteArray();
+    if (!v.isValid() || v.typeId() == QMetaType::QByteArray)
+        return v.toByteArray();
+    reportWrongType(key, v, "data");
+    const QVariant declared = m_declared.value(key);
+    return declared.typeId() == QMetaType::QByteArray ? declared.toByteArray() : QByteArray();
 }
 
 QDateTime Settings::dateValue(const QString& key) const
 {
     const QVariant v = value(key);
-    return v.typeId() == QMetaType::QDateTime ? v.toDateTime() : QDateTime();
+    if (!v.isValid() || v.typeId() == QMetaType::QDateTime)
+        return v.toDateTime();
+    reportWrongType(key, v, "a date");
+    const QVariant declared = m_declared.value(key);
+    return declared.typeId() == QMetaType::QDateTime ? declared.toDateTime() : QDateTime();
 }
 
 Status Settings::synchronize()

@@ -5,6 +5,7 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QObject>
+#include <QSet>
 #include <QString>
 #include <QVariantMap>
 
@@ -38,7 +39,15 @@ public:
     void setValuesForKeys(const QVariantMap& values);
     void removeValue(const QString& key) { setValue(key, QVariant()); }
     void registerDefaults(const QVariantMap& defaults);
+    // Each key's declared default: its type is the type the key is read as,
+    // and it is what a stored value of another type, or out of that type's
+    // range (an integer of 1e300, a rate of "inf"), reads as. Such a value is
+    // named in the log once and left in the file as it is: it is neither used
+    // nor written back as if it were valid.
+    void setDeclaredDefaults(const QVariantMap& defaults) { m_declared = defaults; }
 
+    // Typed reads: a key without a value reads as false, 0, an empty text,
+    // data or date.
     bool boolValue(const QString& key) const;
     qint64 intValue(const QString& key) const;
     float floatValue(const QString& key) const;
@@ -60,10 +69,14 @@ Q_SIGNALS:
 
 private:
     void changed(const QString& key);
+    // Logs once per key that its value is not of the type it is read as.
+    void reportWrongType(const QString& key, const QVariant& value, const char* expected) const;
 
     QString m_filePath;
     QVariantMap m_values;
     QVariantMap m_registered;
+    QVariantMap m_declared;
+    mutable QSet<QString> m_reported;
     bool m_dirty = false;
     bool m_readOnly = false;
     QTimer* m_syncTimer = nullptr;

@@ -97,7 +97,12 @@ Status SqliteStore::checkHeader(const QString& path)
         pageSize = 65536;
     const quint32 pages = bigEndian32(h + 28);
     const bool sizeValid = pages != 0 && bigEndian32(h + 24) == bigEndian32(h + 92);
-    if (pageSize < 512 || (sizeValid && qint64(pages) * pageSize > size))
+    // With a write-ahead log beside the file, the newest pages (the header
+    // among them) may still be in the log: a checkpoint cut short by a full
+    // disk or a crash leaves a header that counts pages the file does not
+    // hold yet. SQLite completes such a file from the log, so then it decides.
+    const bool logDecides = QFileInfo(path + QStringLiteral("-wal")).size() > 0;
+    if (pageSize < 512 || (sizeValid && !logDecides && qint64(pages) * pageSize > size))
         return Error::make(ErrorCode::StoreDamaged,
                            tr("The Vorn database “%1” is damaged and cannot be opened.").arg(path),
                            tr("The file is shorter than its contents require; it may have been cut off while "
@@ -115,8 +120,8 @@ Result<std::unique_ptr<SqliteStore>> SqliteStore::open(const QString& path, cons
     if (rc != SQLITE_OK) {
         const QString reason = db ? QString::fromUtf8(sqlite3_errmsg(db)) : QString();
         sqlite3_close(db);
-        return Error::make(ErrorCode::StoreOpenFailed, tr("The Vorn database “%1” could not be opened.").arg(path),
-                           reason);
+        return Error::make(ErrorCode::StoreOpenFailed,
+                           tr("The Vorn database “%1” could not be opened.").arg(path), reason);
     }
     sqlite3_busy_timeout(db, 5000);
     refuseQuotedLiterals(db);
@@ -144,7 +149,8 @@ Status SqliteStore::validate(const QString& path, const ObjectModel& model)
                            (hasLog ? "?mode=ro" : "?mode=ro&immutable=1");
     if (sqlite3_open_v2(uri.constData(), &db, SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, nullptr) != SQLITE_OK) {
         sqlite3_close(db);
-        return Error::make(ErrorCode::StoreOpenFailed, tr("The Vorn database “%1” could not be opened.").arg(path));
+        return Error::make(ErrorCode::StoreOpenFailed,
+                           tr("The Vorn database “%1” could not be opened.").arg(path));
     }
     refuseQuotedLiterals(db);
     SqliteStore store(path, db, model);
@@ -157,19 +163,24 @@ Error SqliteStore::sqliteError(const QString& what) const
     const int code = sqlite3_errcode(m_db);
     const QString reason = QString::fromUtf8(sqlite3_errmsg(m_db));
     if (code == SQLITE_NOTADB)
-        return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path), reason);
+        return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path),
+                           reason);
     if (code == SQLITE_CORRUPT)
         return Error::make(ErrorCode::StoreDamaged,
                            tr("The Vorn database “%1” is damaged and cannot be opened.").arg(m_path), reason);
     if (code == SQLITE_FULL)
-        return Error::make(ErrorCode::StoreWriteFailed,
-                           tr("The Vorn database could not be saved because the disk is full."), reason);
+        return Error::make(
+            ErrorCode::StoreWriteFailed, tr("The disk is full: the Vorn database could not be saved."),
+            tr("Your changes are kept while Vorn runs and saved with the next change once there "
+               "is space again; what was saved before is not lost. (%1)")
+                .arg(reason));
     if (code == SQLITE_READONLY || code == SQLITE_PERM || code == SQLITE_CANTOPEN)
-        return Error::make(ErrorCode::FileWriteNoPermission,
-                           tr("The Vorn database “%1” cannot be written: you don't have permission.").arg(m_path),
-                           reason);
+        return Error::make(
+            ErrorCode::FileWriteNoPermission,
+            tr("The Vorn database “%1” cannot be written: you don't have permission.").arg(m_path), reason);
     if (code == SQLITE_BUSY || code == SQLITE_LOCKED)
-        return Error::make(ErrorCode::StoreLocked, tr("The Vorn database is in use by another program."), reason);
+        return Error::make(ErrorCode::StoreLocked, tr("The Vorn database is in use by another program."),
+                           reason);
     qCWarning(lcStore) << what << reason;
     return Error::make(ErrorCode::StoreOpenFailed, what, reason);
 }
@@ -221,24 +232,27 @@ Status SqliteStore::prepareSchema(bool& created)
 
     if (appId == 0 && version == 0 && tables == 0) {
         if (sqlite3_db_readonly(m_db, "main") == 1)
-            return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path));
+            return Error::make(ErrorCode::StoreNotVorn,
+                               tr("The file “%1” is not a Vorn database.").arg(m_path));
         if (Status s = createSchema(); !s)
             return s;
         created = true;
     } else if (appId != applicationId) {
         return Error::make(ErrorCode::StoreNotVorn, tr("The file “%1” is not a Vorn database.").arg(m_path));
     } else if (version > ObjectModel::schemaVersion) {
-        return Error::make(ErrorCode::StoreTooNew,
-                           tr("The Vorn database “%1” was made by a newer version of Vorn.").arg(m_path),
-                           tr("This version of Vorn cannot read it. Use the newer version, or restore a backup "
-                              "made with this version."));
+        return Error::make(
+            ErrorCode::StoreTooNew,
+            tr("The Vorn database “%1” was made by a newer version of Vorn.").arg(m_path),
+            tr("This version of Vorn cannot read it. Use the newer version, or restore a backup "
+               "made with this version."));
     }
 
     // Every table must have every column we read and write.
     for (const auto& entity : m_model.entities()) {
         sqlite3_stmt* stmt = nullptr;
-        const QByteArray sql =
-            QStringLiteral("SELECT %1 FROM %2 LIMIT 0").arg(columnList(*entity), quoted(entity->name())).toUtf8();
+        const QByteArray sql = QStringLiteral("SELECT %1 FROM %2 LIMIT 0")
+                                   .arg(columnList(*entity), quoted(entity->name()))
+                                   .toUtf8();
         const int rc = sqlite3_prepare_v2(m_db, sql.constData(), -1, &stmt, nullptr);
         sqlite3_finalize(stmt);
         if (rc != SQLITE_OK) {
@@ -271,7 +285,8 @@ Status SqliteStore::createSchema()
             columns << QStringLiteral("\"_owner\" INTEGER") << QStringLiteral("\"_position\" INTEGER");
         for (const auto& a : entity->attributes())
             columns << quoted(a.name) + QLatin1Char(' ') + QLatin1String(columnType(a.type));
-        sql << QStringLiteral("CREATE TABLE %1 (%2)").arg(quoted(entity->name()), columns.join(QLatin1Char(',')));
+        sql << QStringLiteral("CREATE TABLE %1 (%2)")
+                   .arg(quoted(entity->name()), columns.join(QLatin1Char(',')));
         if (entity->ownerRelationship())
             sql << QStringLiteral("CREATE INDEX %1 ON %2 (\"_owner\", \"_position\")")
                        .arg(quoted(entity->name() + QStringLiteral("_owner")), quoted(entity->name()));
@@ -337,11 +352,13 @@ Status SqliteStore::loadRows(const EntityDescription& entity, sqlite3_stmt* stmt
                 row.values.emplace_back(sqlite3_column_int64(stmt, column) != 0);
                 break;
             case AttributeType::Date:
-                row.values.emplace_back(QDateTime::fromMSecsSinceEpoch(sqlite3_column_int64(stmt, column), Qt::UTC));
+                row.values.emplace_back(
+                    QDateTime::fromMSecsSinceEpoch(sqlite3_column_int64(stmt, column), Qt::UTC));
                 break;
             case AttributeType::Data:
-                row.values.emplace_back(QByteArray(static_cast<const char*>(sqlite3_column_blob(stmt, column)),
-                                                   sqlite3_column_bytes(stmt, column)));
+                row.values.emplace_back(
+                    QByteArray(static_cast<const char*>(sqlite3_column_blob(stmt, column)),
+                               sqlite3_column_bytes(stmt, column)));
                 break;
             }
         }
@@ -429,7 +446,8 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
     case AttributeType::String: {
         const QByteArray utf8 = value.toString().toUtf8();
         // An empty string stays an empty string, never NULL.
-        sqlite3_bind_text(stmt, index, utf8.isNull() ? "" : utf8.constData(), int(utf8.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_text(stmt, index, utf8.isNull() ? "" : utf8.constData(), int(utf8.size()),
+                          SQLITE_TRANSIENT);
         break;
     }
     case AttributeType::Integer:
@@ -441,7 +459,8 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
         // as the float -0.
         const float f = value.toFloat();
         sqlite3_bind_double(stmt, index,
-                            f == 0.0f && std::signbit(f) ? -std::numeric_limits<double>::denorm_min() : double(f));
+                            f == 0.0f && std::signbit(f) ? -std::numeric_limits<double>::denorm_min()
+                                                         : double(f));
         break;
     }
     case AttributeType::Bool:
@@ -452,7 +471,8 @@ void SqliteStore::bindValue(sqlite3_stmt* stmt, int index, AttributeType type, c
         break;
     case AttributeType::Data: {
         const QByteArray data = value.toByteArray();
-        sqlite3_bind_blob(stmt, index, data.isNull() ? "" : data.constData(), int(data.size()), SQLITE_TRANSIENT);
+        sqlite3_bind_blob(stmt, index, data.isNull() ? "" : data.constData(), int(data.size()),
+                          SQLITE_TRANSIENT);
         break;
     }
     }
@@ -466,8 +486,9 @@ Status SqliteStore::insert(const EntityDescription& entity, qint64 id, const std
     QStringList params;
     for (int i = 1; i <= count; ++i)
         params << QStringLiteral("?%1").arg(i);
-    sqlite3_stmt* stmt = statement(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                                       .arg(quoted(entity.name()), columnList(entity), params.join(QLatin1Char(','))));
+    sqlite3_stmt* stmt =
+        statement(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                      .arg(quoted(entity.name()), columnList(entity), params.join(QLatin1Char(','))));
     if (stmt) {
         int index = 1;
         sqlite3_bind_int64(stmt, index++, id);
@@ -488,21 +509,25 @@ Status SqliteStore::update(const EntityDescription& entity, qint64 id, const std
 {
     QStringList sets;
     for (size_t i = 0; i < changed.size(); ++i)
-        sets << QStringLiteral("%1 = ?%2").arg(quoted(entity.attributes()[size_t(changed[i])].name)).arg(i + 2);
+        sets << QStringLiteral("%1 = ?%2")
+                    .arg(quoted(entity.attributes()[size_t(changed[i])].name))
+                    .arg(i + 2);
     sqlite3_stmt* stmt = statement(QStringLiteral("UPDATE %1 SET %2 WHERE \"_id\" = ?1")
                                        .arg(quoted(entity.name()), sets.join(QLatin1Char(','))));
     if (stmt) {
         sqlite3_bind_int64(stmt, 1, id);
         for (size_t i = 0; i < changed.size(); ++i)
-            bindValue(stmt, int(i) + 2, entity.attributes()[size_t(changed[i])].type, values[size_t(changed[i])]);
+            bindValue(stmt, int(i) + 2, entity.attributes()[size_t(changed[i])].type,
+                      values[size_t(changed[i])]);
     }
     return step(stmt, tr("The Vorn database could not be saved."));
 }
 
 Status SqliteStore::updateOwner(const EntityDescription& entity, qint64 id, qint64 ownerId, int position)
 {
-    sqlite3_stmt* stmt = statement(
-        QStringLiteral("UPDATE %1 SET \"_owner\" = ?2, \"_position\" = ?3 WHERE \"_id\" = ?1").arg(quoted(entity.name())));
+    sqlite3_stmt* stmt =
+        statement(QStringLiteral("UPDATE %1 SET \"_owner\" = ?2, \"_position\" = ?3 WHERE \"_id\" = ?1")
+                      .arg(quoted(entity.name())));
     if (stmt) {
         sqlite3_bind_int64(stmt, 1, id);
         if (ownerId)
@@ -514,7 +539,8 @@ Status SqliteStore::updateOwner(const EntityDescription& entity, qint64 id, qint
 
 Status SqliteStore::remove(const EntityDescription& entity, qint64 id)
 {
-    sqlite3_stmt* stmt = statement(QStringLiteral("DELETE FROM %1 WHERE \"_id\" = ?1").arg(quoted(entity.name())));
+    sqlite3_stmt* stmt =
+        statement(QStringLiteral("DELETE FROM %1 WHERE \"_id\" = ?1").arg(quoted(entity.name())));
     if (stmt)
         sqlite3_bind_int64(stmt, 1, id);
     return step(stmt, tr("The Vorn database could not be saved."));

@@ -2,7 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "invoicing/InvoicingControllers.h"
-#include "invoicing/Keys.h"
+#include "store/Keys.h"
 #include "ui/AddressPopover.h"
 #include "ui/DocumentFields.h"
 #include "ui/FormRow.h"

@@ -1,7 +1,7 @@
 #include "ui/AddressPopover.h"
 
 #include "invoicing/AddressController.h"
-#include "invoicing/Keys.h"
+#include "store/Keys.h"
 #include "store/AppState.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"

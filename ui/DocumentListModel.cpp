@@ -1,6 +1,7 @@
 #include "ui/DocumentListModel.h"
 
 #include "invoicing/ValueTransformers.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 
 #include <QColor>
@@ -9,19 +10,6 @@
 #include <QRegularExpression>
 
 namespace vorn {
-
-namespace {
-
-const QString kKind = QStringLiteral("kind");
-const QString kStatus = QStringLiteral("status");
-const QString kNumber = QStringLiteral("number");
-const QString kTitle = QStringLiteral("title");
-const QString kAddress = QStringLiteral("address");
-const QString kDate = QStringLiteral("date");
-const QString kAmount = QStringLiteral("amount");
-const QString kCurrency = QStringLiteral("currency");
-
-} // namespace
 
 int DocumentListModel::columnCount(const QModelIndex& parent) const
 {
@@ -73,27 +61,27 @@ QVariant DocumentListModel::data(const QModelIndex& index, int role) const
     const ManagedObject* doc = objectAt(index.row());
     if (!doc || index.column() < 0 || index.column() >= ColumnCount)
         return {};
-    const qint64 kind = doc->intValue(kKind);
-    const qint64 status = doc->intValue(kStatus);
+    const qint64 kind = doc->intValue(key::kind);
+    const qint64 status = doc->intValue(key::status);
 
     switch (role) {
     case Qt::DisplayRole:
         switch (index.column()) {
         case NumberColumn:
-            return doc->stringValue(kNumber);
+            return doc->stringValue(key::number);
         case TitleColumn: {
-            const QString title = doc->stringValue(kTitle).trimmed();
+            const QString title = doc->stringValue(key::title).trimmed();
             return title.isEmpty() ? kindText(kind) : title;
         }
         case ClientColumn:
-            return firstLine(doc->stringValue(kAddress));
+            return firstLine(doc->stringValue(key::address));
         case DateColumn: {
-            const QDateTime date = doc->dateValue(kDate);
+            const QDateTime date = doc->dateValue(key::date);
             return date.isValid() ? QLocale().toString(date.toLocalTime().date(), QLocale::ShortFormat)
                                   : QString();
         }
         case AmountColumn:
-            return amountText(doc->floatValue(kAmount), doc->stringValue(kCurrency));
+            return amountText(doc->floatValue(key::amount), doc->stringValue(key::currency));
         case StatusColumn:
             return statusText(status);
         }
@@ -103,9 +91,9 @@ QVariant DocumentListModel::data(const QModelIndex& index, int role) const
         case TitleColumn:
             return kindText(kind);
         case ClientColumn:
-            return doc->stringValue(kAddress).trimmed();
+            return doc->stringValue(key::address).trimmed();
         case DateColumn: {
-            const QDateTime date = doc->dateValue(kDate);
+            const QDateTime date = doc->dateValue(key::date);
             return date.isValid() ? QLocale().toString(date.toLocalTime(), QLocale::LongFormat) : QString();
         }
         case StatusColumn:
@@ -130,17 +118,17 @@ QVariant DocumentListModel::data(const QModelIndex& index, int role) const
     case ValueRole:
         switch (index.column()) {
         case NumberColumn:
-            return doc->value(kNumber);
+            return doc->value(key::number);
         case TitleColumn:
-            return doc->value(kTitle);
+            return doc->value(key::title);
         case ClientColumn:
-            return doc->value(kAddress);
+            return doc->value(key::address);
         case DateColumn:
-            return doc->value(kDate);
+            return doc->value(key::date);
         case AmountColumn:
-            return doc->value(kAmount);
+            return doc->value(key::amount);
         case StatusColumn:
-            return doc->value(kStatus);
+            return doc->value(key::status);
         }
         break;
     case StampRole:
@@ -195,8 +183,8 @@ QColor DocumentListModel::stampColor(const QString& stamp)
 
 bool DocumentListModel::showsKey(const QString& key) const
 {
-    return key == kNumber || key == kTitle || key == kKind || key == kAddress || key == kDate ||
-           key == kAmount || key == kCurrency || key == kStatus;
+    return key == key::number || key == key::title || key == key::kind || key == key::address ||
+           key == key::date || key == key::amount || key == key::currency || key == key::status;
 }
 
 } // namespace vorn

@@ -2,6 +2,7 @@
 
 #include "app/AppDelegate.h"
 #include "output/ExportController.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/PdfPages.h"
@@ -158,20 +159,19 @@ void ExportSheet::updateTexts()
         return;
     }
     QStringList lines;
-    const QString title = document->stringValue(QStringLiteral("title"));
-    const QString number = document->stringValue(QStringLiteral("number"));
+    const QString title = document->stringValue(key::title);
+    const QString number = document->stringValue(key::number);
     lines << QStringLiteral("<b>%1</b>")
                  .arg(QStringList{title, number}.join(QLatin1Char(' ')).trimmed().toHtmlEscaped());
     if (m_pages->pageCount() > 0)
         lines << (m_pages->pageCount() == 1 ? tr("1 page") : tr("%1 pages").arg(m_pages->pageCount()));
     if (state.exportKind == ExportController::Email) {
-        const QString address = document->stringValue(QStringLiteral("emailAddress"));
+        const QString address = document->stringValue(key::emailAddress);
         lines << (address.isEmpty() ? tr("Your mail program opens a new message with the PDF attached.")
                                     : tr("Your mail program opens a new message to %1 with the PDF attached.")
                                           .arg(address.toHtmlEscaped()));
     }
-    if (document->intValue(QStringLiteral("kind")) == 1 &&
-        m_app.settings().boolValue(QStringLiteral("markInvoiceAsSent")))
+    if (document->isInvoice() && m_app.settings().boolValue(key::markInvoiceAsSent))
         lines << tr("The invoice will be marked as sent.");
     m_details->setText(lines.join(QStringLiteral("<br><br>")));
 }

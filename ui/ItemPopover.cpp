@@ -1,7 +1,7 @@
 #include "ui/ItemPopover.h"
 
 #include "invoicing/ItemController.h"
-#include "invoicing/Keys.h"
+#include "store/Keys.h"
 #include "store/AppState.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"

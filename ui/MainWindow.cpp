@@ -6,6 +6,7 @@
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
 #include "output/PreviewController.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
 #include "ui/AddressPage.h"
@@ -15,6 +16,8 @@
 #include "ui/FilterPopover.h"
 #include "ui/InfoPage.h"
 #include "ui/ItemsPage.h"
+#include "ui/PreferencesWindow.h"
+#include "ui/HelpMenu.h"
 #include "ui/PreviewWindow.h"
 #include "ui/ReminderSheet.h"
 #include "ui/SelectionSync.h"
@@ -71,7 +74,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     connect(&state, &AppState::contextChanged, this, &MainWindow::contextChanged);
     connect(&state, &AppState::totalsChanged, this, &MainWindow::updateTotals);
     connect(&m_app.settings(), &Settings::valueChanged, this, [this](const QString& key) {
-        if (key == QLatin1String("prefsCurrency"))
+        if (key == key::prefsCurrency)
             updateTotals();
     });
     connect(&state, &AppState::currentInvoiceChanged, this, &MainWindow::validateCommands);
@@ -82,6 +85,7 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
     createOutputWindows();
     contextChanged();
     restoreFrame();
+    HelpMenu::install(*this, m_app);
 }
 
 MainWindow::~MainWindow() = default;
@@ -160,6 +164,11 @@ void MainWindow::createEditMenu()
     m_editMenu->setObjectName(QStringLiteral("editMenu"));
     m_editMenu->addAction(m_undoAction);
     m_editMenu->addAction(m_redoAction);
+    m_editMenu->addSeparator();
+    m_editMenu
+        ->addAction(tr("Preferences…"), QKeySequence(Qt::CTRL | Qt::Key_Comma), this,
+                    [this] { PreferencesWindow::showShared(m_app, this); })
+        ->setMenuRole(QAction::PreferencesRole);
     // Edits made in this pass of the event loop may not have announced
     // themselves yet.
     connect(m_editMenu, &QMenu::aboutToShow, this, &MainWindow::updateUndoActions);
@@ -642,7 +651,7 @@ void MainWindow::updateUndoActions()
 void MainWindow::updateTotals()
 {
     const AppState& state = m_app.state();
-    const QString currency = m_app.settings().stringValue(QStringLiteral("prefsCurrency"));
+    const QString currency = m_app.settings().stringValue(key::prefsCurrency);
     const QString invoices = state.invoiceCount == 1
                                  ? tr("1 invoice")
                                  : tr("%1 invoices").arg(QLocale().toString(state.invoiceCount));

@@ -3,6 +3,7 @@
 #include "app/AppDelegate.h"
 #include "output/ExportController.h"
 #include "output/PreviewController.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/MainWindow.h"
@@ -277,8 +278,8 @@ void PreviewWindow::showPlaceholder(const QString& text)
 void PreviewWindow::updateTitle()
 {
     const ManagedObject* document = m_app.state().currentInvoice();
-    const QString number = document ? document->stringValue(QStringLiteral("number")) : QString();
-    const QString title = document ? document->stringValue(QStringLiteral("title")) : QString();
+    const QString number = document ? document->stringValue(key::number) : QString();
+    const QString title = document ? document->stringValue(key::title) : QString();
     QString name = tr("Preview");
     if (!title.isEmpty() || !number.isEmpty())
         name = tr("Preview – %1").arg(QStringList{title, number}.join(QLatin1Char(' ')).trimmed());

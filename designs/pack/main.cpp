@@ -8,6 +8,7 @@
 
 #include "documents/KeyedArchive.h"
 #include "store/AtomicFile.h"
+#include "store/Keys.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -38,8 +39,7 @@ int main(int argc, char** argv)
         return 2;
     }
     const QString folder = args[1];
-    QVariantMap design{{QStringLiteral("class"), QStringLiteral("Design")},
-                       {QStringLiteral("isDefault"), false}};
+    QVariantMap design{{QStringLiteral("class"), QStringLiteral("Design")}, {vorn::key::isDefault, false}};
     const struct
     {
         const char* file;

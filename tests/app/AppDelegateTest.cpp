@@ -1,4 +1,9 @@
+#include "invoicing/DataController.h"
+#include "invoicing/InvoicingControllers.h"
+#include "documents/InterchangeFile.h"
 #include "tests/app/AppHarness.h"
+
+#include <sqlite3.h>
 
 namespace vorn::test {
 namespace {
@@ -243,20 +248,87 @@ TEST_F(AppDelegateTest, SaveActionPresentsAFailure)
     EXPECT_TRUE(h.context()->hasChanges());
 }
 
-// ---------------------------------------------------------------- state
-
-TEST_F(AppDelegateTest, OpeningAFileFromOutsideOnlyExplains)
+TEST_F(AppDelegateTest, AFailedSaveAfterAnEditIsToldOnceWithItsCause)
 {
     h.launch();
+    DataController& data = app().invoicing().data();
+    ASSERT_NE(data.addInvoice(), nullptr);
+    sqlite3* db = h.context()->store()->handle();
+    auto pragma = [db](const QByteArray& sql) {
+        sqlite3_stmt* stmt = nullptr;
+        sqlite3_prepare_v2(db, sql.constData(), -1, &stmt, nullptr);
+        sqlite3_step(stmt);
+        const qint64 value = sqlite3_column_int64(stmt, 0);
+        sqlite3_finalize(stmt);
+        return value;
+    };
+    // The disk fills up: not one page more.
+    pragma("PRAGMA max_page_count = " + QByteArray::number(pragma("PRAGMA page_count")));
     h.ui.clear();
-    EXPECT_TRUE(app().applicationOpenFile(h.env.home() + "/Invoice.vorn"));
-    ASSERT_EQ(h.ui.calls("alert").size(), 1);
-    EXPECT_EQ(
-        shown(h.ui.calls("alert")[0]),
-        (QStringList{"Vorn, Vorn Documents, and the Vorn Database",
-                     "In order to avoid duplicate entries, hiccups, and to keep the database intact - please "
-                     "use the 'File Menu' to open documents and to restore the Vorn database.",
-                     "OK"}));
+    addDocument(1)->setValue("notes", QString(100000, 'x'));
+    data.addInvoice();
+    data.addInvoice();
+    ASSERT_EQ(h.ui.errors().size(), 1);
+    EXPECT_TRUE(h.ui.errors()[0].message.startsWith("The disk is full"))
+        << qPrintable(h.ui.errors()[0].message);
+    EXPECT_TRUE(h.context()->hasChanges());
+
+    // Space again: the next edit saves everything.
+    pragma("PRAGMA max_page_count = 1000000");
+    data.addInvoice();
+    EXPECT_FALSE(h.context()->hasChanges());
+    EXPECT_EQ(h.ui.errors().size(), 1);
+    h.quit();
+    h.launch();
+    EXPECT_EQ(h.context()->fetch(Entity::Invoice).size(), 5);
+}
+
+// ---------------------------------------------------------------- state
+
+TEST_F(AppDelegateTest, OpeningAFileFromOutsideOnlyExplainsOrRefusesADamagedOne)
+{
+    h.launch();
+    const QString good = h.env.home() + "/Invoice.vorn";
+    ASSERT_TRUE(InterchangeFile::writeDocumentFile(good, *addDocument(1)));
+    h.context()->rollback();
+    const auto write = [this](const QString& name, const QByteArray& bytes) {
+        QFile f(h.env.home() + "/" + name);
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+        return f.fileName();
+    };
+    const struct
+    {
+        QString path;
+        bool refused;
+    } cases[] = {
+        {good, false},
+        {write("Damaged.vorn", "bplist00 not really"), true},
+        {write("Damaged.design", QByteArray(100, 'x')), true},
+        {write("Damaged.vndb", "SQLite format 3 but not a database"), true},
+        {write("Notes.txt", "anything"), false},
+    };
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.path.toStdString());
+        h.ui.clear();
+        EXPECT_TRUE(app().applicationOpenFile(c.path));
+        if (c.refused) {
+            ASSERT_EQ(h.ui.errors().size(), 1);
+            EXPECT_TRUE(h.ui.errors()[0].fullText().contains(QFileInfo(c.path).fileName()))
+                << qPrintable(h.ui.errors()[0].fullText());
+            EXPECT_TRUE(h.ui.calls("alert").isEmpty());
+            continue;
+        }
+        EXPECT_TRUE(h.ui.errors().isEmpty());
+        ASSERT_EQ(h.ui.calls("alert").size(), 1);
+        EXPECT_EQ(
+            shown(h.ui.calls("alert")[0]),
+            (QStringList{"Vorn, Vorn Documents, and the Vorn Database",
+                         "In order to avoid duplicate entries, hiccups, and to keep the database intact - "
+                         "please use the 'File Menu' to open documents and to restore the Vorn database.",
+                         "OK"}));
+    }
+    // Nothing comes in this way.
     EXPECT_TRUE(h.context()->fetch(Entity::Invoice).isEmpty());
     EXPECT_TRUE(app().applicationShouldHandleReopen());
 }

@@ -1,6 +1,7 @@
 #include "app/AssiController.h"
 #include "services/NewsletterSubscription.h"
 #include "services/ServiceUrls.h"
+#include "services/ZRUpdateChecker.h"
 #include "tests/app/AppHarness.h"
 #include "tests/services/HttpStub.h"
 
@@ -189,6 +190,7 @@ TEST_P(CloseAssi, CompletesTheAssistantAndOffersTheVideo)
     launchWith(false);
     assi().setCompanyName("Kim Design");
     assi().setContact("Kim Berger\nMain St. 1");
+    assi().setCheckForUpdates(GetParam() == 0);
     int videos = 0;
     QObject::connect(&assi(), &AssiController::screenCastRequested, [&] { ++videos; });
     h.ui.answerAlert(GetParam());
@@ -208,6 +210,11 @@ TEST_P(CloseAssi, CompletesTheAssistantAndOffersTheVideo)
     EXPECT_EQ(h.storedSetting("isAssiDone"), true);
     EXPECT_EQ(h.storedSetting("prefsName"), "Kim Design");
     EXPECT_EQ(h.storedSetting("prefsContact"), "Kim Berger\nMain St. 1");
+    // The consent was given here: the launch asks no more and checks a day later.
+    EXPECT_EQ(h.storedSetting("ZRUpdateChecker:CheckAtStartup"), GetParam() == 0);
+    EXPECT_EQ(h.storedSetting("firstUpdateCheck"), true);
+    EXPECT_EQ(h.storedSetting("ZRUpdateChecker:LastCheckDate"),
+              ZRUpdateChecker::referenceSeconds(h.clock.now()));
 
     // The next launch leaves the assistant closed.
     h.quit();

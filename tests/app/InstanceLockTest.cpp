@@ -1,11 +1,17 @@
 #include "app/InstanceLock.h"
+#include "app/InstanceChannel.h"
 
+#include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QSysInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -78,6 +84,38 @@ TEST_F(InstanceLockTest, ALockThatCannotBeCreatedIsAnError)
     ASSERT_FALSE(s.ok());
     EXPECT_NE(s.error().code, ErrorCode::StoreLocked);
     EXPECT_FALSE(InstanceLock::isHeldElsewhere(path()));
+}
+
+} // namespace
+} // namespace vorn::test
+
+namespace vorn::test {
+namespace {
+
+// A later start hands its files to the running instance (from another
+// thread here, since sending waits for the answer).
+TEST(InstanceChannelTest, ALaterStartHandsItsFilesToTheRunningInstance)
+{
+    QTemporaryDir dir;
+    const QString name = InstanceChannel::nameFor(dir.filePath("Vorn.vndb.lock"));
+    EXPECT_NE(name, InstanceChannel::nameFor(dir.filePath("other/Vorn.vndb.lock")));
+    EXPECT_FALSE(InstanceChannel::send(name, {"/tmp/a.vorn"}, 200)) << "nobody listens yet";
+
+    InstanceChannel channel(name);
+    ASSERT_TRUE(channel.listen());
+    QList<QStringList> received;
+    QObject::connect(&channel, &InstanceChannel::filesReceived, [&](const QStringList& p) { received << p; });
+    const QList<QStringList> sent = {{"/home/kim/Invoice 1.vorn", "/home/kim/Ä.design"}, {}};
+    for (const QStringList& paths : sent) {
+        std::atomic<int> answer = -1;
+        std::thread later([&] { answer = InstanceChannel::send(name, paths) ? 1 : 0; });
+        QDeadlineTimer deadline(5000);
+        while (answer < 0 && !deadline.hasExpired())
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        later.join();
+        EXPECT_EQ(answer, 1);
+    }
+    EXPECT_EQ(received, sent);
 }
 
 } // namespace

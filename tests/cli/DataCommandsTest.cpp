@@ -60,12 +60,15 @@ TEST_F(DataCommandsTest, CheckAsksTheRepairQuestionAndRepairsFromTheSafetyCopyOn
 {
     seed(3, QStringLiteral("A"));
     ASSERT_TRUE(execOn(h.storePath(), "DELETE FROM Invoice WHERE number = 'A2'"));
-    // Without a safety copy there is nothing to repair from.
+    // Without a safety copy there is nothing to repair from: the question
+    // comes first, then the missing copy is told, and nothing changes.
     ASSERT_FALSE(QFileInfo::exists(h.backupPath()));
-    expectRefusal(
-        runCli({"check"}), 1,
-        QStringLiteral("No valid backup file available. Please restore your Vorn database from your own "
-                       "(Time Machine) backups."));
+    const CliRun refused = runCli({"check"});
+    EXPECT_EQ(refused.code, 1);
+    EXPECT_EQ(refused.out, BackupController::repairQuestionText() + QStringLiteral("\n"));
+    EXPECT_EQ(refused.err,
+              QStringLiteral("vorn-cli: No valid backup file available. Please restore your Vorn "
+                             "database from your own (Time Machine) backups.\n"));
     EXPECT_EQ(numbersIn(h.storePath()), (QStringList{QStringLiteral("A1"), QStringLiteral("A3")}));
 
     seed(3, QStringLiteral("B"));

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "invoicing/InvoicingControllers.h"
-#include "invoicing/Keys.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"

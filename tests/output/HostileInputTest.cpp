@@ -150,6 +150,13 @@ INSTANTIATE_TEST_SUITE_P(
                     documentWith(QVariantMap{{"NS.objects", QVariantList{uid(4)}}, {"$class", uid(9)}},
                                  {arrayClass})},
         HostileCase{"referencesTooDeep", nestedUidArrays(KeyedArchive::maximumDepth + 10)},
+        HostileCase{
+            "sharedObjectsUnfoldingFarPastTheFile",
+            archiveOf({"$null", arrayClass,
+                       QVariantMap{{"NS.objects", QVariantList(100, uid(3))}, {"$class", uid(1)}},
+                       QVariantMap{{"NS.objects", QVariantList(100, uid(4))}, {"$class", uid(1)}},
+                       QVariantMap{{"NS.objects", QVariantList(100, uid(5))}, {"$class", uid(1)}}, "x"},
+                      uid(2))},
         HostileCase{"nullAsValue",
                     documentWith(QVariantMap{{"NS.objects", QVariantList{uid(0)}}, {"$class", uid(9)}},
                                  {arrayClass})},

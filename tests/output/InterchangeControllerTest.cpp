@@ -1,12 +1,14 @@
 #include "output/InterchangeController.h"
 #include "documents/InterchangeFile.h"
 #include "documents/KeyedArchive.h"
+#include "invoicing/Calculator.h"
 
 #include "store/AppState.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/PropertyList.h"
 #include "store/Settings.h"
+#include "store/SqliteStore.h"
 #include "tests/support/ScriptedUserInterface.h"
 
 #include <QFile>
@@ -122,6 +124,55 @@ TEST_F(InterchangeControllerTest, ImportAsksThenAddsTheDocumentAsItIsAndSaves)
     for (const ManagedObject* d : context.fetch(Entity::Invoice))
         withNumber += d->stringValue("number") == "RE-9" ? 1 : 0;
     EXPECT_EQ(withNumber, 2);
+}
+
+TEST_F(InterchangeControllerTest, ALongDocumentArrivesWhole)
+{
+    // Several thousand items, each different, through the file and the
+    // store: all of them, in their order, adding up to the same totals.
+    constexpr int items = 5000;
+    ObjectContext source(nullptr, clock);
+    AppState sourceState(settings, ui, clock, FileLocations{});
+    sourceState.setContext(&source);
+    ManagedObject* original = source.insertNewObject(Entity::Invoice);
+    QList<ManagedObject*> lines;
+    for (int i = 0; i < items; ++i) {
+        ManagedObject* item = source.insertNewObject(Entity::Item);
+        item->setValue("title", QString("Line %1").arg(i));
+        item->setValue("unitCount", float(1 + i % 7));
+        item->setValue("baseAmount", float(i % 90) + 0.25f);
+        item->setValue("isTax1Applied", i % 3 != 0);
+        item->setValue("tax1Percent", 0.19f);
+        lines.append(item);
+    }
+    original->setObjects("items", lines);
+    Calculator(sourceState).calculateInvoice(original);
+
+    const QString storePath = dir.filePath("store.vndb");
+    auto store = SqliteStore::open(storePath, ObjectModel::vorn());
+    ASSERT_TRUE(store.ok());
+    ObjectContext target(std::move(store.value()), clock);
+    state.setContext(&target);
+    ui.answerAlert(0);
+    ui.answerPanel(writeFile("long.vorn", InterchangeFile::documentFileData(*original)));
+    ManagedObject* imported = interchange.importInvoice();
+    ASSERT_NE(imported, nullptr);
+    Calculator(state).calculateInvoice(imported);
+    ASSERT_TRUE(target.save());
+
+    auto reopened = SqliteStore::open(storePath, ObjectModel::vorn());
+    ASSERT_TRUE(reopened.ok());
+    ObjectContext again(std::move(reopened.value()), clock);
+    const QList<ManagedObject*> documents = again.fetch(Entity::Invoice);
+    ASSERT_EQ(documents.size(), 1);
+    const QList<ManagedObject*> read = documents.first()->items();
+    ASSERT_EQ(read.size(), items);
+    for (int i = 0; i < items; ++i)
+        ASSERT_EQ(read[i]->stringValue("title"), QString("Line %1").arg(i)) << "item " << i;
+    for (const char* total : {"subAmount", "tax1Amount", "amount"}) {
+        EXPECT_NE(original->floatValue(total), 0.0f) << total;
+        EXPECT_EQ(documents.first()->floatValue(total), original->floatValue(total)) << total;
+    }
 }
 
 TEST_F(InterchangeControllerTest, CancellingOrABadFileImportsNothing)

@@ -73,7 +73,8 @@ enum class Shown
     Nothing,
     UpToDate,
     Update,
-    Failure
+    Failure,
+    FailureLogged // a background check fails without a word
 };
 
 struct VersionCase
@@ -106,12 +107,16 @@ TEST_P(VersionCheck, ShowsTheRightNotification)
     ASSERT_TRUE(waitForResults(1));
 
     EXPECT_FALSE(checker.isChecking());
-    EXPECT_EQ(results[0].isError, row.shown == Shown::Failure);
-    const QStringList titles[] = {{}, {"You're up to date!"}, {"Update available!"}, {errorTitle}};
+    EXPECT_EQ(results[0].isError, row.shown == Shown::Failure || row.shown == Shown::FailureLogged);
+    const QStringList titles[] = {{}, {"You're up to date!"}, {"Update available!"}, {errorTitle}, {}};
     EXPECT_EQ(ui.alertTitles(), titles[int(row.shown)]);
     if (!row.text.isEmpty()) {
         ASSERT_FALSE(ui.calls("alert").isEmpty());
-        EXPECT_EQ(ui.calls("alert").last().text, row.text);
+        // A failure adds its reason to the text.
+        const QString shownText = ui.calls("alert").last().text;
+        EXPECT_TRUE(row.shown == Shown::Failure ? shownText.startsWith(row.text + "\n\n")
+                                                : shownText == row.text)
+            << qPrintable(shownText);
     }
     const bool downloads = row.shown == Shown::Update && row.answer == 0;
     EXPECT_EQ(ui.calls("url").size(), downloads ? 1 : 0);
@@ -147,10 +152,11 @@ const VersionCase versionCases[] = {
      Shown::UpToDate},
     {"BinaryList", {200, PropertyList::toBinary(entry("1.0.0"))}, true, 0, Shown::UpToDate},
     {"ReleaseNotesMissing", listing("2.0"), true, 1, Shown::Update, question, {404, "gone"}},
-    {"ServerError", {500, "broken"}, false, 0, Shown::Failure, failureText},
-    {"NotFound", {404, "missing"}, true, 0, Shown::Failure},
-    {"Timeout", {200, {}, true}, false, 0, Shown::Failure},
-    {"ConnectionRefused", {}, false, 0, Shown::Failure, {}, {}, true},
+    {"ServerErrorInTheBackground", {500, "broken"}, false, 0, Shown::FailureLogged},
+    {"NotFound", {404, "missing"}, true, 0, Shown::Failure, failureText},
+    {"Timeout", {200, {}, true}, true, 0, Shown::Failure},
+    {"ConnectionRefused", {}, true, 0, Shown::Failure, {}, {}, true},
+    {"ConnectionRefusedInTheBackground", {}, false, 0, Shown::FailureLogged, {}, {}, true},
     {"BadPropertyList",
      {200, "<?xml version=\"1.0\"?><plist><dict><key>version</key>"},
      true,
@@ -275,6 +281,23 @@ TEST_F(UpdateCheckerTest, ACheckWaitingForItsReleaseNotesIsNotStartedTwice)
     EXPECT_FALSE(checker.isChecking());
     EXPECT_EQ(stub.count("/macpad/list.plist"), 1);
     EXPECT_EQ(ui.alertTitles(), QStringList{"Update available!"});
+}
+
+TEST_F(UpdateCheckerTest, AWindowTakesTheOfferInPlaceOfTheAlert)
+{
+    stub.route("/macpad/list.plist", listing("1.1.0"));
+    stub.route("/macpad/Vorn.txt", {200, "Faster PDFs.\n"});
+    QList<std::pair<QString, QString>> offers;
+    QObject::connect(&checker, &ZRUpdateChecker::updateAvailable,
+                     [&](const CheckResult& r, const QString& notes) {
+                         offers.append({r.productVersion, notes});
+                     });
+    checker.checkForUpdates();
+    ASSERT_TRUE(waitForResults(1));
+    EXPECT_EQ(offers, (QList<std::pair<QString, QString>>{{"Vorn 1.1.0", "Faster PDFs."}}));
+    EXPECT_TRUE(ui.alertTitles().isEmpty());
+    EXPECT_TRUE(checker.download());
+    EXPECT_EQ(ui.calls("url").value(0).title, stub.url("/downloads/Vorn.zip").toString());
 }
 
 TEST(UpdateCheckerDates, CountFromTheFirstOfJanuary2001)

@@ -15,6 +15,7 @@ QVariantMap sampleTree(bool withUid)
                       {"big", std::numeric_limits<qint64>::max()},
                       {"rate", 0.19},
                       {"tiny", 1e-300},
+                      {"infinite", -std::numeric_limits<double>::infinity()},
                       {"yes", true},
                       {"no", false},
                       {"when", utc(2026, 11, 21, 9, 52, 0)},
@@ -153,6 +154,10 @@ const HostileCase hostileCases[] = {
     {"BinarySelfReference", binary({array({0})})},
     // The dictionary's key is the one-letter text "k".
     {"BinaryLongCycle", binary({array({1}), container(0xD, {2, 3}), "\x51k", array({0})})},
+    // Four objects unfolding to a million values: within the absolute
+    // limit, far past what so small a file may stand for.
+    {"BinarySharedPastItsSize", binary({array(QList<quint64>(100, 1)), array(QList<quint64>(100, 2)),
+                                        array(QList<quint64>(100, 3)), integer(1)})},
     {"BinaryTruncated", twoThirds(PropertyList::toBinary(sampleTree(true)))},
     {"BinaryOnlyHeader", QByteArray("bplist00")},
     {"BinaryOffsetPastEnd",

@@ -159,24 +159,111 @@ TEST_P(BadSettingsTest, UnreadableFileIsReportedAndNeverOverwritten)
 INSTANTIATE_TEST_SUITE_P(Files, BadSettingsTest, ::testing::ValuesIn(badSettingsCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(SettingsTest, ValuesWrittenByHandReadAsTheTypeAskedFor)
+// A value as the file holds it, read through one typed getter: text written
+// by hand reads as the type asked for; a value of the wrong type or out of
+// that type's range reads as the key's declared default, is named in the log
+// once, and stays in the file as it was.
+struct TypedRead
 {
-    writeBytes(file(), "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict>"
-                       "<key>a</key><string>YES</string><key>b</key><string>0</string>"
-                       "<key>c</key><string> 12 </string><key>d</key><string>0.19</string>"
-                       "<key>e</key><integer>3</integer><key>f</key><real>2.5</real>"
-                       "</dict></plist>");
+    const char* name;
+    const char* key;
+    const char* stored; // the value's element in the file
+    std::function<QVariant(const Settings&, const QString&)> read;
+    QVariant expected;
+    bool wrongType;
+};
+
+QVariant readBool(const Settings& s, const QString& k)
+{
+    return s.boolValue(k);
+}
+QVariant readInt(const Settings& s, const QString& k)
+{
+    return s.intValue(k);
+}
+QVariant readFloat(const Settings& s, const QString& k)
+{
+    return s.floatValue(k);
+}
+QVariant readString(const Settings& s, const QString& k)
+{
+    return s.stringValue(k);
+}
+QVariant readData(const Settings& s, const QString& k)
+{
+    return s.dataValue(k);
+}
+QVariant readDate(const Settings& s, const QString& k)
+{
+    return s.dateValue(k);
+}
+
+const QVariantMap declaredDefaults{{"invCount", qint64(1000)},
+                                   {"tax1Rate", 0.07},
+                                   {"invPattern", "INV-%YEAR%-%COUNT%"},
+                                   {"tax1Enabled", true}};
+
+const TypedRead typedReads[] = {
+    {"YesText", "a", "<string>YES</string>", readBool, true, false},
+    {"ZeroText", "a", "<string>0</string>", readBool, false, false},
+    {"IntegerTextWithSpaces", "invCount", "<string> 12 </string>", readInt, qint64(12), false},
+    {"RealText", "tax1Rate", "<string>0.19</string>", readFloat, 0.19f, false},
+    {"IntegerAsText", "a", "<integer>3</integer>", readString, "3", false},
+    {"RealCutToWhole", "invCount", "<real>2.5</real>", readInt, qint64(2), false},
+    {"IntegerBeyondAnyCount", "invCount", "<real>1e300</real>", readInt, qint64(1000), true},
+    {"IntegerNotANumber", "invCount", "<string>nan</string>", readInt, qint64(1000), true},
+    {"IntegerInfinite", "invCount", "<real>-inf</real>", readInt, qint64(1000), true},
+    {"IntegerAsList", "invCount", "<array><integer>1</integer></array>", readInt, qint64(1000), true},
+    {"RateInfinite", "tax1Rate", "<string>inf</string>", readFloat, 0.07f, true},
+    {"RateBeyondFloat", "tax1Rate", "<real>1e39</real>", readFloat, 0.07f, true},
+    {"PatternAsList", "invPattern", "<array><string>INV</string></array>", readString, "INV-%YEAR%-%COUNT%",
+     true},
+    {"SwitchAsDictionary", "tax1Enabled", "<dict/>", readBool, true, true},
+    {"SwitchAsWord", "tax1Enabled", "<string>maybe</string>", readBool, true, true},
+    {"LogoAsText", "prefsLogo", "<string>logo.png</string>", readData, QByteArray(), true},
+    {"DateAsNumber", "lastCheck", "<integer>5</integer>", readDate, QDateTime(), true},
+};
+
+class TypedReadTest : public SettingsTest, public ::testing::WithParamInterface<TypedRead>
+{
+};
+
+int loggedLines = 0;
+QString loggedKey;
+
+TEST_P(TypedReadTest, ReadsAsItsTypeOrAsTheDeclaredDefault)
+{
+    const TypedRead& row = GetParam();
+    writeBytes(file(),
+               QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>") +
+                   row.key + "</key>" + row.stored + "</dict></plist>");
     Settings settings(file());
     ASSERT_TRUE(settings.load());
-    EXPECT_TRUE(settings.boolValue("a"));
-    EXPECT_FALSE(settings.boolValue("b"));
-    EXPECT_EQ(settings.intValue("c"), 12);
-    EXPECT_EQ(settings.floatValue("d"), 0.19f);
-    EXPECT_EQ(settings.stringValue("e"), "3");
-    EXPECT_EQ(settings.intValue("f"), 2);
-    EXPECT_TRUE(settings.dataValue("a").isEmpty());
-    EXPECT_FALSE(settings.dateValue("a").isValid());
+    settings.setDeclaredDefaults(declaredDefaults);
+    const QVariant original = settings.value(row.key);
+
+    loggedLines = 0;
+    loggedKey = row.key;
+    const QtMessageHandler previous =
+        qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString& m) {
+            loggedLines += m.contains(loggedKey) ? 1 : 0;
+        });
+    const QVariant first = row.read(settings, row.key);
+    const QVariant second = row.read(settings, row.key);
+    qInstallMessageHandler(previous);
+
+    EXPECT_EQ(first, row.expected);
+    EXPECT_EQ(first.typeId(), row.expected.typeId());
+    EXPECT_EQ(second, first);
+    EXPECT_EQ(loggedLines, row.wrongType ? 1 : 0);
+    // Saving other settings leaves the value as the file held it.
+    settings.setValue("other", true);
+    ASSERT_TRUE(settings.synchronize());
+    EXPECT_EQ(stored().value(row.key), original);
 }
+
+INSTANTIATE_TEST_SUITE_P(Values, TypedReadTest, ::testing::ValuesIn(typedReads),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace
 } // namespace vorn::test

@@ -2,7 +2,8 @@
 
 #include <QString>
 
-// Attribute and settings keys used by the invoicing controllers, spelled once.
+// Every attribute, relationship and settings key of the application, spelled
+// once. The entity model (ObjectModel) is built from these names.
 namespace vorn::key {
 
 // Invoice
@@ -62,6 +63,9 @@ inline const QString misc4 = QStringLiteral("misc4");
 inline const QString misc5 = QStringLiteral("misc5");
 inline const QString items = QStringLiteral("items");
 
+// Item -> Invoice (the owner of a line item)
+inline const QString invoice = QStringLiteral("invoice");
+
 // Item, RecentItem, RecentShipping
 inline const QString subtitle = QStringLiteral("subtitle");
 inline const QString unit = QStringLiteral("unit");
@@ -81,6 +85,11 @@ inline const QString hasSubtitle = QStringLiteral("hasSubtitle");
 inline const QString isTax1Enabled = QStringLiteral("isTax1Enabled");
 inline const QString isTax2Enabled = QStringLiteral("isTax2Enabled");
 inline const QString isTax3Enabled = QStringLiteral("isTax3Enabled");
+
+// Design
+inline const QString item = QStringLiteral("item");
+inline const QString css = QStringLiteral("css");
+inline const QString isDefault = QStringLiteral("isDefault");
 
 // Settings
 inline const QString invHaveNumber = QStringLiteral("invHaveNumber");
@@ -117,6 +126,7 @@ inline const QString tax2Enabled = QStringLiteral("tax2Enabled");
 inline const QString tax3Enabled = QStringLiteral("tax3Enabled");
 inline const QString tax2IsCompound = QStringLiteral("tax2IsCompound");
 inline const QString tax3IsCompound = QStringLiteral("tax3IsCompound");
+inline const QString markInvoiceAsSent = QStringLiteral("markInvoiceAsSent");
 inline const QString showItemSubAmount = QStringLiteral("showItemSubAmount");
 inline const QString listSortKey = QStringLiteral("listSortKey");
 inline const QString listSortAscending = QStringLiteral("listSortAscending");

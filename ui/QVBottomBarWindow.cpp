@@ -1,0 +1,45 @@
+#include "ui/QVBottomBarWindow.h"
+
+#include "ui/QVBox.h"
+
+#include <QHBoxLayout>
+#include <QPropertyAnimation>
+#include <QVBoxLayout>
+
+namespace vorn {
+
+QVBottomBarWindow::QVBottomBarWindow(BarSize size, QWidget* parent) : QDialog(parent), m_size(size)
+{
+    auto* outer = new QVBoxLayout(this);
+    outer->setContentsMargins(0, 0, 0, 0);
+    outer->setSpacing(0);
+    m_content = new QVBoxLayout;
+    m_content->setContentsMargins(16, 16, 16, 12);
+    outer->addLayout(m_content, 1);
+    m_bar = new QVBox(QVBox::Gray, this);
+    m_bar->setObjectName(QStringLiteral("bottomBar"));
+    m_bar->setFixedHeight(int(size));
+    auto* bar = new QHBoxLayout(m_bar);
+    bar->setContentsMargins(12, 2, 12, 2);
+    outer->addWidget(m_bar);
+}
+
+QLayout* QVBottomBarWindow::barLayout() const
+{
+    return m_bar->layout();
+}
+
+void QVBottomBarWindow::resizeToSize(const QSize& contentSize, bool animate)
+{
+    const QSize target(contentSize.width(), contentSize.height() + int(m_size));
+    if (!animate || !isVisible()) {
+        resize(target);
+        return;
+    }
+    auto* animation = new QPropertyAnimation(this, "size", this);
+    animation->setDuration(180);
+    animation->setEndValue(target);
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+} // namespace vorn
