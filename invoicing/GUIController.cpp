@@ -138,9 +138,39 @@ void GUIController::showPreferences()
     m_state.ui().showPreferencesWindow();
 }
 
+QStringList GUIController::sortableKeys()
+{
+    return {key::number, key::address, key::date, key::amount, key::status};
+}
+
+void GUIController::sortListBy(const QString& sortKey, bool ascending)
+{
+    const bool known = sortableKeys().contains(sortKey);
+    const QString k = known ? sortKey : key::date;
+    const bool up = known ? ascending : false;
+    // Equal values keep the order of creation, newest first as by default.
+    m_state.invoicesController().setSortDescriptors({{k, up}, {SortDescriptor::storeOrder(), false}});
+    m_state.settings().setValue(key::listSortKey, k);
+    m_state.settings().setValue(key::listSortAscending, up);
+}
+
+void GUIController::restoreListSort()
+{
+    const Settings& s = m_state.settings();
+    if (!s.value(key::listSortKey).isValid())
+        return;
+    sortListBy(s.stringValue(key::listSortKey), s.boolValue(key::listSortAscending));
+}
+
 void GUIController::calculatorButtonAction()
 {
-    m_state.ui().openApplication(QStringLiteral("calculator"));
+    if (m_state.ui().openApplication(QStringLiteral("calculator")))
+        return;
+    m_state.ui().inform(
+        tr("No calculator found"),
+        tr("Vorn starts GNOME Calculator, KCalc, Galculator or Qalculate, but none of them is "
+           "installed."),
+        UserInterface::AlertStyle::Informational);
 }
 
 } // namespace vorn

@@ -71,7 +71,16 @@ public:
     void cancelReminderSheet();
     ReminderSheet& reminderSheet() { return m_reminder; }
 
+    // The list's order, chosen by a click on a column header and kept in
+    // the settings (listSortKey, listSortAscending). Keys outside the
+    // sortable columns fall back to the date, newest first.
+    static QStringList sortableKeys();
+    void sortListBy(const QString& key, bool ascending);
+    // Puts the remembered order in force (at launch).
+    void restoreListSort();
+
     void showPreferences();
+    // Starts the desktop's calculator; says so when there is none.
     void calculatorButtonAction();
 
 Q_SIGNALS:

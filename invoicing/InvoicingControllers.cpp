@@ -13,7 +13,8 @@ InvoicingControllers::InvoicingControllers(AppState& state)
       m_items(std::make_unique<ItemController>(state, *m_calculator)),
       m_shipping(std::make_unique<ShippingController>(state, *m_calculator)),
       m_discount(std::make_unique<DiscountController>(state, *m_calculator)),
-      m_addresses(std::make_unique<AddressController>(state, *m_numbering))
+      m_addresses(std::make_unique<AddressController>(state, *m_numbering)),
+      m_editor(std::make_unique<DocumentEditor>(state, *m_calculator))
 {
 }
 

@@ -4,6 +4,7 @@
 #include "invoicing/Calculator.h"
 #include "invoicing/DataController.h"
 #include "invoicing/DiscountController.h"
+#include "invoicing/DocumentEditor.h"
 #include "invoicing/FilterController.h"
 #include "invoicing/GUIController.h"
 #include "invoicing/ItemController.h"
@@ -36,6 +37,7 @@ public:
     ShippingController& shipping() { return *m_shipping; }
     DiscountController& discount() { return *m_discount; }
     AddressController& addresses() { return *m_addresses; }
+    DocumentEditor& editor() { return *m_editor; }
 
 private:
     std::unique_ptr<Calculator> m_calculator;
@@ -47,6 +49,7 @@ private:
     std::unique_ptr<ShippingController> m_shipping;
     std::unique_ptr<DiscountController> m_discount;
     std::unique_ptr<AddressController> m_addresses;
+    std::unique_ptr<DocumentEditor> m_editor;
 };
 
 } // namespace vorn

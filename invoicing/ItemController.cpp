@@ -260,6 +260,16 @@ QList<int> ItemController::moveItems(const QList<int>& indexes, int toIndex)
     return m_dragAndDrop->moveObjectsInArrangedObjectsFromIndexes(indexes, toIndex);
 }
 
+bool ItemController::dropRows(const QVDragAndDropArrayController::Pasteboard& pasteboard, bool fromThisTable,
+                              bool optionHeld, int row)
+{
+    if (SentLock::refuse(m_state) || !m_state.currentInvoice())
+        return false;
+    ObjectContext* context = m_state.context();
+    UndoGroup group(context ? context->undoManager() : nullptr, tr("Move Items"));
+    return m_dragAndDrop->acceptDrop(pasteboard, fromThisTable, optionHeld, row);
+}
+
 void ItemController::afterRearrange()
 {
     // Sums run in the lines' order, so a new order is recomputed.

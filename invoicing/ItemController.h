@@ -1,5 +1,7 @@
 #pragma once
 
+#include "invoicing/QVDragAndDropArrayController.h"
+
 #include <QObject>
 #include <QString>
 
@@ -8,7 +10,6 @@ namespace vorn {
 class AppState;
 class Calculator;
 class ManagedObject;
-class QVDragAndDropArrayController;
 
 // The lines of the current document: the item popover (manual entry and the
 // remembered items), deleting and editing a line, and the order of lines.
@@ -62,6 +63,10 @@ public:
     // Moves lines as one block to drop above row toIndex (refused for a sent
     // document); the new order is the document's and is saved.
     QList<int> moveItems(const QList<int>& indexes, int toIndex);
+    // A drop on the items table by the table's drop rules, as one undoable
+    // action; refused (with the alert) for a sent document.
+    bool dropRows(const QVDragAndDropArrayController::Pasteboard& pasteboard, bool fromThisTable,
+                  bool optionHeld, int row);
 
     // Scrolls the items table to the selected line shortly after a change.
     void scheduleDelayedScroll();

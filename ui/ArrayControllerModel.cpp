@@ -36,7 +36,16 @@ ManagedObject* ArrayControllerModel::objectAt(int row) const
 
 int ArrayControllerModel::rowOf(const ManagedObject* object) const
 {
-    return object ? int(m_rows.indexOf(const_cast<ManagedObject*>(object))) : -1;
+    if (!object)
+        return -1;
+    // Edits arrive one attribute at a time, for every line a recalculation
+    // touches: rows are found through an index built once per list.
+    if (m_rowIndex.isEmpty() && !m_rows.isEmpty()) {
+        m_rowIndex.reserve(m_rows.size());
+        for (int i = 0; i < m_rows.size(); ++i)
+            m_rowIndex.insert(m_rows[i], i);
+    }
+    return m_rowIndex.value(object, -1);
 }
 
 bool ArrayControllerModel::showsKey(const QString& key) const
@@ -69,10 +78,12 @@ void ArrayControllerModel::sync()
     if (prefix + suffix == oldSize) {
         beginInsertRows({}, int(prefix), int(prefix + newSize - oldSize - 1));
         m_rows = next;
+        m_rowIndex.clear();
         endInsertRows();
     } else if (prefix + suffix == newSize) {
         beginRemoveRows({}, int(prefix), int(prefix + oldSize - newSize - 1));
         m_rows = next;
+        m_rowIndex.clear();
         endRemoveRows();
     } else if (oldSize == newSize && sameObjects(m_rows, next)) {
         Q_EMIT layoutAboutToBeChanged({}, QAbstractItemModel::VerticalSortHint);
@@ -82,11 +93,13 @@ void ArrayControllerModel::sync()
         for (const QModelIndex& i : before)
             after.append(index(int(next.indexOf(m_rows[i.row()])), i.column()));
         m_rows = next;
+        m_rowIndex.clear();
         changePersistentIndexList(before, after);
         Q_EMIT layoutChanged({}, QAbstractItemModel::VerticalSortHint);
     } else {
         beginResetModel();
         m_rows = next;
+        m_rowIndex.clear();
         endResetModel();
     }
     m_syncing = false;

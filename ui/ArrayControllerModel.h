@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QAbstractTableModel>
+#include <QHash>
 #include <QList>
 #include <QPointer>
 
@@ -48,6 +49,7 @@ private:
 
     ArrayController& m_controller;
     QList<ManagedObject*> m_rows;
+    mutable QHash<const ManagedObject*, int> m_rowIndex;
     QPointer<ObjectContext> m_context;
     QMetaObject::Connection m_changeConnection;
     QMetaObject::Connection m_destroyConnection;

@@ -1,9 +1,11 @@
 #include "ui/DocumentListModel.h"
 
+#include "invoicing/ValueTransformers.h"
 #include "store/Keys.h"
 #include "store/ManagedObject.h"
 
 #include <QColor>
+#include <QHash>
 #include <QLocale>
 #include <QRegularExpression>
 
@@ -94,6 +96,8 @@ QVariant DocumentListModel::data(const QModelIndex& index, int role) const
             const QDateTime date = doc->dateValue(key::date);
             return date.isValid() ? QLocale().toString(date.toLocalTime(), QLocale::LongFormat) : QString();
         }
+        case StatusColumn:
+            return kind == 0 ? kindText(kind) : statusText(status);
         }
         break;
     case Qt::TextAlignmentRole:
@@ -127,6 +131,8 @@ QVariant DocumentListModel::data(const QModelIndex& index, int role) const
             return doc->value(key::status);
         }
         break;
+    case StampRole:
+        return ValueTransformers::entityToImageTable(doc);
     case KindRole:
         return kind;
     case StatusRole:
@@ -142,6 +148,9 @@ QVariant DocumentListModel::headerData(int section, Qt::Orientation orientation,
     if (role == Qt::TextAlignmentRole)
         return QVariant::fromValue((section == AmountColumn ? Qt::AlignRight : Qt::AlignLeft) |
                                    Qt::AlignVCenter);
+    // The status column shows stamps only; its name is in the tooltip.
+    if (section == StatusColumn && (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole))
+        return tr("Status");
     if (role != Qt::DisplayRole)
         return {};
     switch (section) {
@@ -156,9 +165,20 @@ QVariant DocumentListModel::headerData(int section, Qt::Orientation orientation,
     case AmountColumn:
         return tr("Amount");
     case StatusColumn:
-        return tr("Status");
+        return QString();
     }
     return {};
+}
+
+QColor DocumentListModel::stampColor(const QString& stamp)
+{
+    static const QHash<QString, QColor> colors{{QStringLiteral("StampM0"), QColor(0x9e, 0x9e, 0x9e)},
+                                               {QStringLiteral("StampM1"), QColor(0x1e, 0x88, 0xe5)},
+                                               {QStringLiteral("StampM2"), QColor(0xc6, 0x28, 0x28)},
+                                               {QStringLiteral("StampM3"), QColor(0x2e, 0x7d, 0x32)},
+                                               {QStringLiteral("StampM4"), QColor(0xef, 0x8f, 0x00)},
+                                               {QStringLiteral("StampM5"), QColor(0x7b, 0x1f, 0xa2)}};
+    return colors.value(stamp);
 }
 
 bool DocumentListModel::showsKey(const QString& key) const

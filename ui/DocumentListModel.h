@@ -2,6 +2,8 @@
 
 #include "ui/ArrayControllerModel.h"
 
+#include <QColor>
+
 namespace vorn {
 
 // The document list of the main window: one row per document of the
@@ -26,6 +28,8 @@ public:
         ValueRole = Qt::UserRole + 1,
         KindRole,
         StatusRole,
+        // The status stamp of the row ("StampM0".."StampM5").
+        StampRole,
     };
 
     using ArrayControllerModel::ArrayControllerModel;
@@ -39,6 +43,8 @@ public:
     // The first line of an address block that holds more than white space.
     static QString firstLine(const QString& text);
     static QString amountText(float amount, const QString& currency);
+    // The colour of a status stamp.
+    static QColor stampColor(const QString& stamp);
 
 protected:
     bool showsKey(const QString& key) const override;

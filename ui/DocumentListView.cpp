@@ -28,6 +28,26 @@ public:
         const QWidget* widget = option.widget;
         QStyle* style = widget ? widget->style() : QApplication::style();
         style->drawPrimitive(QStyle::PE_PanelItemViewItem, &opt, painter, widget);
+        if (index.column() == DocumentListModel::StatusColumn) {
+            // The stamp: a coloured mark, filled for invoices that are sent or settled.
+            const QString stamp = index.data(DocumentListModel::StampRole).toString();
+            const QColor color = DocumentListModel::stampColor(stamp);
+            const int d = qMin(opt.rect.height(), opt.rect.width()) - 12;
+            const QRect mark(opt.rect.center().x() - d / 2, opt.rect.center().y() - d / 2, d, d);
+            painter->save();
+            painter->setRenderHint(QPainter::Antialiasing);
+            painter->setPen(QPen(color, 2));
+            painter->setBrush(stamp == QLatin1String("StampM0") ? Qt::NoBrush : QBrush(color));
+            if (stamp == QLatin1String("StampM5"))
+                painter->drawRoundedRect(mark, 2, 2);
+            else
+                painter->drawEllipse(mark);
+            painter->restore();
+            return;
+        }
+        // Numbers differ at their end ("INV-2026-1001"): a short cell keeps both ends.
+        if (index.column() == DocumentListModel::NumberColumn)
+            opt.textElideMode = Qt::ElideMiddle;
         opt.rect.adjust(kCellPadding - 3, 0, -(kCellPadding - 3), 0);
         style->drawControl(QStyle::CE_ItemViewItem, &opt, painter, widget);
     }
@@ -59,7 +79,10 @@ DocumentListView::DocumentListView(QWidget* parent) : QTableView(parent)
     horizontalHeader()->setHighlightSections(false);
     horizontalHeader()->setStretchLastSection(false);
     horizontalHeader()->setDefaultAlignment(Qt::AlignLeft | Qt::AlignVCenter);
-    horizontalHeader()->setMinimumSectionSize(48);
+    horizontalHeader()->setMinimumSectionSize(24);
+    // The list is narrow: the client column gives way rather than scrolling sideways.
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
     horizontalHeader()->setStyleSheet(
         QStringLiteral("QHeaderView::section { padding-left: %1px; padding-right: %1px; }")
             .arg(kCellPadding - 2));
@@ -75,13 +98,18 @@ void DocumentListView::setModel(QAbstractItemModel* model)
     QHeaderView* header = horizontalHeader();
     const QFontMetrics metrics = fontMetrics();
     const auto width = [&metrics](const QString& sample) { return metrics.horizontalAdvance(sample) + 28; };
+    // The list pane is narrow: cells just fit their text and padding.
+    const auto tight = [&metrics](const QString& sample) {
+        return metrics.horizontalAdvance(sample) + 2 * (kCellPadding - 3) + 6;
+    };
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setSectionResizeMode(DocumentListModel::ClientColumn, QHeaderView::Stretch);
-    header->resizeSection(DocumentListModel::NumberColumn, width(QStringLiteral("INV-2026-00000")));
+    header->resizeSection(DocumentListModel::NumberColumn, tight(QStringLiteral("INV-2026")));
     header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Consulting, November 2026")));
-    header->resizeSection(DocumentListModel::DateColumn, width(QStringLiteral("00/00/0000")));
-    header->resizeSection(DocumentListModel::AmountColumn, width(QStringLiteral("000,000.00 EUR")));
-    header->resizeSection(DocumentListModel::StatusColumn, width(QStringLiteral("Partly Paid")));
+    header->resizeSection(DocumentListModel::DateColumn, tight(QStringLiteral("00/00/00")));
+    header->resizeSection(DocumentListModel::AmountColumn, tight(QStringLiteral("00,000.00 $")));
+    header->setSectionResizeMode(DocumentListModel::StatusColumn, QHeaderView::Fixed);
+    header->resizeSection(DocumentListModel::StatusColumn, 22);
 }
 
 void DocumentListView::setPlaceholderText(const QString& text)

@@ -10,9 +10,13 @@
 #include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
+#include "ui/AddressPage.h"
 #include "ui/DocumentListModel.h"
 #include "ui/DocumentListView.h"
 #include "ui/ExportSheet.h"
+#include "ui/FilterPopover.h"
+#include "ui/InfoPage.h"
+#include "ui/ItemsPage.h"
 #include "ui/HelpMenu.h"
 #include "ui/PreferencesWindow.h"
 #include "ui/PreviewWindow.h"
@@ -21,15 +25,27 @@
 #include "ui/UiLog.h"
 
 #include <QAction>
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
+#include <QGraphicsOpacityEffect>
+#include <QGridLayout>
+#include <QHeaderView>
 #include <QLabel>
+#include <QLineEdit>
 #include <QLocale>
 #include <QMenuBar>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QPropertyAnimation>
 #include <QScreen>
+#include <QSplitter>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QStyle>
+#include <QTimer>
 #include <QToolBar>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 namespace vorn {
@@ -37,6 +53,10 @@ namespace vorn {
 namespace {
 
 const QString kGeometryKey = QStringLiteral("mainWindowGeometry");
+// Commands that work on the page of the current document.
+const QStringList kDocumentPageCommands{
+    QStringLiteral("showAddressPopover"), QStringLiteral("showItemPopover"), QStringLiteral("deleteItem"),
+    QStringLiteral("showShippingPopover"), QStringLiteral("showDiscountPopover")};
 
 } // namespace
 
@@ -59,6 +79,8 @@ MainWindow::MainWindow(AppDelegate& app, QWidget* parent) : QMainWindow(parent),
             updateTotals();
     });
     connect(&state, &AppState::currentInvoiceChanged, this, &MainWindow::validateCommands);
+    connect(&state.itemsController(), &ArrayController::selectionChanged, this,
+            &MainWindow::validateCommands);
     connect(&state, &AppState::stateChanged, this, &MainWindow::validateCommands);
     connect(&m_app.invoicing().gui(), &GUIController::toolbarChanged, this, &MainWindow::validateCommands);
     createOutputWindows();
@@ -105,6 +127,15 @@ void MainWindow::createActions()
 
 void MainWindow::createMenus()
 {
+    createFileMenu();
+    createEditMenu();
+    createViewMenu();
+    createDocumentMenu();
+    createItemsMenu();
+}
+
+void MainWindow::createFileMenu()
+{
     m_fileMenu = menuBar()->addMenu(tr("&File"));
     m_fileMenu->setObjectName(QStringLiteral("fileMenu"));
     m_fileMenu->addAction(command(QStringLiteral("addInvoice")));
@@ -128,7 +159,10 @@ void MainWindow::createMenus()
     m_fileMenu->addAction(command(QStringLiteral("restoreVornData")));
     m_fileMenu->addSeparator();
     m_fileMenu->addAction(m_quitAction);
+}
 
+void MainWindow::createEditMenu()
+{
     m_editMenu = menuBar()->addMenu(tr("&Edit"));
     m_editMenu->setObjectName(QStringLiteral("editMenu"));
     m_editMenu->addAction(m_undoAction);
@@ -141,17 +175,45 @@ void MainWindow::createMenus()
     // Edits made in this pass of the event loop may not have announced
     // themselves yet.
     connect(m_editMenu, &QMenu::aboutToShow, this, &MainWindow::updateUndoActions);
+}
 
+void MainWindow::createViewMenu()
+{
+    m_viewMenu = menuBar()->addMenu(tr("&View"));
+    m_viewMenu->setObjectName(QStringLiteral("viewMenu"));
+    for (QAction* page : m_pageActions->actions())
+        m_viewMenu->addAction(page);
+    m_viewMenu->addSeparator();
+    m_viewMenu->addAction(command(QStringLiteral("openFilterPopover")));
+}
+
+void MainWindow::createDocumentMenu()
+{
     m_documentMenu = menuBar()->addMenu(tr("&Document"));
     m_documentMenu->setObjectName(QStringLiteral("documentMenu"));
     m_documentMenu->addAction(command(QStringLiteral("duplicateInvoice")));
     m_documentMenu->addAction(command(QStringLiteral("convertQuoteToInvoice")));
     m_documentMenu->addAction(command(QStringLiteral("setDispatched")));
     m_documentMenu->addSeparator();
+    m_documentMenu->addAction(command(QStringLiteral("showAddressPopover")));
+    m_documentMenu->addSeparator();
     m_documentMenu->addAction(command(QStringLiteral("openReminderSheet")));
+    m_documentMenu->addAction(command(QStringLiteral("calculatorButtonAction")));
     m_documentMenu->addSeparator();
     m_documentMenu->addAction(command(QStringLiteral("deleteInvoice")));
     connect(m_documentMenu, &QMenu::aboutToShow, this, &MainWindow::validateCommands);
+}
+
+void MainWindow::createItemsMenu()
+{
+    m_itemsMenu = menuBar()->addMenu(tr("&Items"));
+    m_itemsMenu->setObjectName(QStringLiteral("itemsMenu"));
+    m_itemsMenu->addAction(command(QStringLiteral("showItemPopover")));
+    m_itemsMenu->addAction(command(QStringLiteral("deleteItem")));
+    m_itemsMenu->addSeparator();
+    m_itemsMenu->addAction(command(QStringLiteral("showShippingPopover")));
+    m_itemsMenu->addAction(command(QStringLiteral("showDiscountPopover")));
+    connect(m_itemsMenu, &QMenu::aboutToShow, this, &MainWindow::validateCommands);
 }
 
 QToolBar* MainWindow::addFixedToolBar(QMainWindow& window, const QString& title, const QString& name)
@@ -173,6 +235,9 @@ void MainWindow::createToolBar()
     m_toolBar->addAction(command(QStringLiteral("addQuote")));
     m_toolBar->addAction(command(QStringLiteral("deleteInvoice")));
     m_toolBar->addSeparator();
+    for (QAction* page : m_pageActions->actions())
+        m_toolBar->addAction(page);
+    m_toolBar->addSeparator();
     m_toolBar->addAction(m_saveAction);
     m_toolBar->addAction(m_undoAction);
     m_toolBar->addAction(m_redoAction);
@@ -182,6 +247,12 @@ void MainWindow::createToolBar()
     m_toolBar->addAction(command(QStringLiteral("pdfInvoice")));
     m_toolBar->addAction(command(QStringLiteral("emailInvoice")));
     m_toolBar->addAction(command(QStringLiteral("openReminderSheet")));
+    m_toolBar->addAction(command(QStringLiteral("calculatorButtonAction")));
+    // Every button names what it does for screen readers, also the ones
+    // whose label is a short word.
+    for (QAction* action : m_toolBar->actions())
+        if (QWidget* button = m_toolBar->widgetForAction(action))
+            button->setAccessibleName(action->iconText());
 }
 
 QAction* MainWindow::addCommand(const QString& name, const char* theme, int fallback, const QString& text,
@@ -228,6 +299,62 @@ void MainWindow::createDocumentActions()
     addCommand(QStringLiteral("openReminderSheet"), "appointment-soon", QStyle::SP_MessageBoxWarning,
                tr("Payment &Reminder…"), {}, [&invoicing] { invoicing.gui().openReminderSheet(); })
         ->setIconText(tr("Reminder"));
+
+    addCommand(QStringLiteral("calculatorButtonAction"), "accessories-calculator", QStyle::SP_ComputerIcon,
+               tr("&Calculator"), QKeySequence(tr("Ctrl+Shift+K")),
+               [&invoicing] { invoicing.gui().calculatorButtonAction(); })
+        ->setIconText(tr("Calculator"));
+    addCommand(QStringLiteral("showAddressPopover"), "x-office-address-book", QStyle::SP_DirHomeIcon,
+               tr("Choose &Address…"), QKeySequence(tr("Ctrl+Shift+A")), [this, &invoicing] {
+                   showPage(0);
+                   invoicing.addresses().showAddressPopover();
+               });
+    addCommand(QStringLiteral("showItemPopover"), "list-add", QStyle::SP_FileDialogNewFolder,
+               tr("&Add Item…"), QKeySequence(tr("Ctrl+Shift+I")), [this, &invoicing] {
+                   showPage(1);
+                   invoicing.items().showItemPopover();
+               });
+    addCommand(QStringLiteral("deleteItem"), "list-remove", QStyle::SP_TrashIcon, tr("De&lete Item"),
+               QKeySequence(tr("Ctrl+Backspace")), [&invoicing] { invoicing.items().deleteItem(); });
+    addCommand(QStringLiteral("showShippingPopover"), "mail-send", QStyle::SP_ArrowRight, tr("&Shipping…"),
+               {}, [this, &invoicing] {
+                   showPage(1);
+                   invoicing.shipping().showShippingPopover();
+               });
+    addCommand(QStringLiteral("showDiscountPopover"), "view-financial-account-savings", QStyle::SP_ArrowDown,
+               tr("D&iscount…"), {}, [this, &invoicing] {
+                   showPage(1);
+                   invoicing.discount().showDiscountPopover();
+               });
+    addCommand(QStringLiteral("openFilterPopover"), "view-filter", QStyle::SP_FileDialogListView,
+               tr("&Filter List…"), QKeySequence(tr("Ctrl+Shift+F")), [this] { openFilterPopover(); });
+
+    // The three document pages, chosen from the toolbar.
+    m_pageActions = new QActionGroup(this);
+    m_pageActions->setExclusive(true);
+    const struct
+    {
+        const char* id;
+        const char* theme;
+        QStyle::StandardPixmap fallback;
+        QString text;
+    } pages[] = {{"addressItem", "contact-new", QStyle::SP_DirHomeIcon, tr("Address")},
+                 {"itemsItem", "view-list-details", QStyle::SP_FileDialogDetailedView, tr("Items")},
+                 {"infoItem", "document-properties", QStyle::SP_FileDialogInfoView, tr("Info")}};
+    for (int tag = 0; tag < 3; ++tag) {
+        auto* page = new QAction(
+            QIcon::fromTheme(QLatin1String(pages[tag].theme), style()->standardIcon(pages[tag].fallback)),
+            pages[tag].text, m_pageActions);
+        page->setObjectName(QLatin1String(pages[tag].id));
+        page->setCheckable(true);
+        page->setShortcut(QKeySequence(Qt::CTRL | Qt::Key(Qt::Key_1 + tag)));
+        page->setToolTip(tr("Show the %1 page").arg(pages[tag].text));
+        connect(page, &QAction::toggled, this, [this, tag](bool on) {
+            if (on)
+                m_app.invoicing().gui().setSelectedToolbarItem(tag);
+        });
+        registerToolbarItem(QLatin1String(pages[tag].id), page);
+    }
 
     // Documents and the database as files.
     addCommand(QStringLiteral("importInvoice"), "document-import", QStyle::SP_DialogOpenButton,
@@ -286,7 +413,12 @@ void MainWindow::validateCommands()
     const GUIController& gui = m_app.invoicing().gui();
     for (auto it = m_commands.cbegin(); it != m_commands.cend(); ++it) {
         const GUIController::Validation validation = gui.validateUserInterfaceItem(it.key());
-        it.value()->setEnabled(validation.enabled && gui.hasPrerequisites(it.key()));
+        bool enabled = validation.enabled && gui.hasPrerequisites(it.key());
+        if (kDocumentPageCommands.contains(it.key()))
+            enabled = enabled && m_app.state().currentInvoice();
+        if (it.key() == QLatin1String("deleteItem"))
+            enabled = enabled && m_app.state().itemsController().selectedObject();
+        it.value()->setEnabled(enabled);
         if (validation.title) {
             it.value()->setText(*validation.title);
             it.value()->setIconText(*validation.title);
@@ -296,31 +428,194 @@ void MainWindow::validateCommands()
 
 void MainWindow::createCentralArea()
 {
-    auto* central = new QWidget(this);
-    auto* layout = new QVBoxLayout(central);
-    layout->setContentsMargins(0, 0, 0, 0);
-    layout->setSpacing(0);
+    m_splitter = new QSplitter(Qt::Horizontal, this);
+    m_splitter->setObjectName(QStringLiteral("mainSplitView"));
+    m_splitter->setChildrenCollapsible(false);
 
+    // Left: the list, the filter button and the totals of the filtered list.
+    auto* listPane = new QWidget(m_splitter);
+    listPane->setObjectName(QStringLiteral("listPane"));
+    auto* listLayout = new QVBoxLayout(listPane);
+    listLayout->setContentsMargins(0, 0, 0, 0);
+    listLayout->setSpacing(0);
     m_model = new DocumentListModel(m_app.state().invoicesController(), this);
-    m_list = new DocumentListView(central);
+    m_list = new DocumentListView(listPane);
     m_list->setObjectName(QStringLiteral("documentList"));
+    m_list->setAccessibleName(tr("Documents"));
     m_list->setModel(m_model);
+    m_list->setColumnHidden(DocumentListModel::TitleColumn, true);
+    m_list->horizontalHeader()->setSectionsClickable(true);
+    m_list->horizontalHeader()->setSortIndicatorShown(true);
+    connect(m_list->horizontalHeader(), &QHeaderView::sectionClicked, this, &MainWindow::sortByColumn);
     m_selectionSync = new SelectionSync(*m_model, *m_list, this);
-    layout->addWidget(m_list);
-    setCentralWidget(central);
+    listLayout->addWidget(m_list, 1);
     registerFocusTarget(QStringLiteral("documentList"), m_list);
 
-    m_countsLabel = new QLabel(this);
+    auto* bottom = new QWidget(listPane);
+    auto* bottomLayout = new QGridLayout(bottom);
+    bottomLayout->setContentsMargins(4, 2, 4, 2);
+    bottomLayout->setVerticalSpacing(0);
+    m_filterButton = new QToolButton(bottom);
+    m_filterButton->setObjectName(QStringLiteral("filterButton"));
+    m_filterButton->setAutoRaise(true);
+    m_filterButton->setIconSize(QSize(20, 20));
+    connect(m_filterButton, &QToolButton::clicked, this, &MainWindow::openFilterPopover);
+    m_countsLabel = new QLabel(bottom);
     m_countsLabel->setObjectName(QStringLiteral("documentCounts"));
-    m_amountsLabel = new QLabel(this);
+    m_amountsLabel = new QLabel(bottom);
     m_amountsLabel->setObjectName(QStringLiteral("documentTotals"));
     m_amountsLabel->setTextInteractionFlags(Qt::TextSelectableByMouse);
-    m_countsLabel->setContentsMargins(6, 2, 6, 2);
-    m_amountsLabel->setContentsMargins(6, 2, 6, 2);
-    statusBar()->addWidget(m_countsLabel, 1);
-    statusBar()->addPermanentWidget(m_amountsLabel);
-    statusBar()->setSizeGripEnabled(true);
+    m_amountsLabel->setWordWrap(true);
+    m_countsLabel->setWordWrap(true);
+    bottomLayout->addWidget(m_filterButton, 0, 0, 2, 1, Qt::AlignTop);
+    bottomLayout->addWidget(m_countsLabel, 0, 1);
+    bottomLayout->addWidget(m_amountsLabel, 1, 1);
+    bottomLayout->setColumnStretch(1, 1);
+    listLayout->addWidget(bottom);
+    m_filterPopover = new FilterPopover(m_app.invoicing().filter(), m_app.state().filterTag, this);
+    connect(&m_app.invoicing().filter(), &FilterController::filterChanged, this,
+            &MainWindow::updateFilterButton);
+
+    // Right: the current document's pages.
+    m_pages = new QStackedWidget(m_splitter);
+    m_pages->setObjectName(QStringLiteral("documentPages"));
+    m_addressPage = new AddressPage(m_app, m_pages);
+    m_itemsPage = new ItemsPage(m_app, m_pages);
+    m_infoPage = new InfoPage(m_app, m_pages);
+    m_noDocument = new QLabel(tr("Select a document in the list, or make a new invoice or quote."), m_pages);
+    m_noDocument->setObjectName(QStringLiteral("noDocument"));
+    m_noDocument->setAlignment(Qt::AlignCenter);
+    m_noDocument->setWordWrap(true);
+    m_noDocument->setEnabled(false);
+    m_pages->addWidget(m_addressPage);
+    m_pages->addWidget(m_itemsPage);
+    m_pages->addWidget(m_infoPage);
+    m_pages->addWidget(m_noDocument);
+    registerFocusTarget(QStringLiteral("addressView"), m_addressPage->addressField());
+    registerFocusTarget(QStringLiteral("subjectView"), m_addressPage->subjectField());
+    for (const char* name :
+         {"dispatchedNumberView", "shippingPopoverAmountView", "shippingPopoverSubtitleView",
+          "discountPopoverTitleView", "discountPopoverSubtitleView", "itemPopoverQuantityView"})
+        if (auto* w = findChild<QWidget*>(QLatin1String(name)))
+            registerFocusTarget(QLatin1String(name), w);
+
+    // The list keeps its width when the window is resized; the divider
+    // stays between the narrowest and the widest list.
+    listPane->setMinimumWidth(int(GUIController::constrainMinCoordinate(0)));
+    listPane->setMaximumWidth(int(GUIController::constrainMaxCoordinate(0)));
+    m_splitter->addWidget(listPane);
+    m_splitter->addWidget(m_pages);
+    m_splitter->setStretchFactor(0, 0);
+    m_splitter->setStretchFactor(1, 1);
+    m_splitter->setSizes({int(GUIController::constrainMaxCoordinate(0)), 900});
+    setCentralWidget(m_splitter);
+
+    connect(&m_app.settings(), &Settings::valueChanged, this, [this](const QString& key) {
+        if (key == QLatin1String("mainTabIndex"))
+            showCurrentPage(true);
+    });
+    connect(&m_app.state(), &AppState::currentInvoiceChanged, this, [this] { showCurrentPage(false); });
+    statusBar()->hide();
+    updateFilterButton();
     updateTotals();
+    showCurrentPage(false);
+}
+
+int MainWindow::currentPageIndex() const
+{
+    const qint64 index = m_app.settings().intValue(QStringLiteral("mainTabIndex"));
+    return index >= 0 && index <= 2 ? int(index) : 0;
+}
+
+void MainWindow::showPage(int index)
+{
+    m_app.invoicing().gui().selectMainTabIndex(index);
+}
+
+void MainWindow::showCurrentPage(bool fade)
+{
+    const int index = currentPageIndex();
+    if (QAction* page = m_pageActions->actions().value(index); page && !page->isChecked())
+        page->setChecked(true);
+    QWidget* next = m_app.state().currentInvoice() ? m_pages->widget(index) : m_noDocument;
+    if (next == m_pages->currentWidget())
+        return;
+    m_pages->setCurrentWidget(next);
+    if (!fade || !isVisible())
+        return;
+    // A short fade-in of the new page.
+    auto* effect = new QGraphicsOpacityEffect(next);
+    next->setGraphicsEffect(effect);
+    auto* animation = new QPropertyAnimation(effect, "opacity", next);
+    animation->setDuration(120);
+    animation->setStartValue(0.0);
+    animation->setEndValue(1.0);
+    m_app.state().isAnimating = true;
+    connect(animation, &QPropertyAnimation::finished, this, [this, next] {
+        next->setGraphicsEffect(nullptr);
+        m_app.state().isAnimating = false;
+    });
+    animation->start(QAbstractAnimation::DeleteWhenStopped);
+}
+
+void MainWindow::sortByColumn(int column)
+{
+    static const QHash<int, QString> keys{{DocumentListModel::NumberColumn, QStringLiteral("number")},
+                                          {DocumentListModel::ClientColumn, QStringLiteral("address")},
+                                          {DocumentListModel::DateColumn, QStringLiteral("date")},
+                                          {DocumentListModel::AmountColumn, QStringLiteral("amount")},
+                                          {DocumentListModel::StatusColumn, QStringLiteral("status")}};
+    const Qt::SortOrder order = m_list->horizontalHeader()->sortIndicatorOrder();
+    if (keys.contains(column))
+        m_app.invoicing().gui().sortListBy(keys.value(column), order == Qt::AscendingOrder);
+    showSortIndicator();
+}
+
+void MainWindow::showSortIndicator()
+{
+    const QList<SortDescriptor>& sort = m_app.state().invoicesController().sortDescriptors();
+    const QString key = sort.isEmpty() ? QStringLiteral("date") : sort.first().key;
+    static const QHash<QString, int> columns{{QStringLiteral("number"), DocumentListModel::NumberColumn},
+                                             {QStringLiteral("address"), DocumentListModel::ClientColumn},
+                                             {QStringLiteral("date"), DocumentListModel::DateColumn},
+                                             {QStringLiteral("amount"), DocumentListModel::AmountColumn},
+                                             {QStringLiteral("status"), DocumentListModel::StatusColumn}};
+    const QSignalBlocker block(m_list->horizontalHeader());
+    m_list->horizontalHeader()->setSortIndicator(
+        columns.value(key, DocumentListModel::DateColumn),
+        !sort.isEmpty() && sort.first().ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+}
+
+void MainWindow::openFilterPopover()
+{
+    m_filterPopover->open(m_filterButton);
+}
+
+void MainWindow::updateFilterButton()
+{
+    const FilterController& filter = m_app.invoicing().filter();
+    const bool active = filter.filterButtonImage() == QLatin1String("torchGlow");
+    const QIcon plain =
+        QIcon::fromTheme(QStringLiteral("view-filter"), style()->standardIcon(QStyle::SP_FileDialogListView));
+    if (!active) {
+        m_filterButton->setIcon(plain);
+    } else {
+        // The active picture: the same filter with a glowing dot.
+        QPixmap pixmap = plain.pixmap(m_filterButton->iconSize());
+        QPainter painter(&pixmap);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(QColor(0xf5, 0x7c, 0x00));
+        const int d = pixmap.width() / 2;
+        painter.drawEllipse(pixmap.width() - d, pixmap.height() - d, d, d);
+        m_filterButton->setIcon(QIcon(pixmap));
+    }
+    const QString name = FilterPopover::filterName(m_app.state().filterTag);
+    m_filterButton->setAccessibleName(tr("Filter"));
+    m_filterButton->setAccessibleDescription(active ? tr("Showing %1").arg(name)
+                                                    : tr("Showing all documents"));
+    m_filterButton->setToolTip(active ? tr("Filter: %1").arg(name) : tr("Filter the list"));
+    m_filterButton->setProperty("filterActive", active);
 }
 
 void MainWindow::contextChanged()
@@ -331,6 +626,9 @@ void MainWindow::contextChanged()
         m_undoConnection =
             connect(context->undoManager(), &UndoManager::changed, this, &MainWindow::updateUndoActions);
     m_saveAction->setEnabled(context != nullptr);
+    if (context)
+        m_app.invoicing().gui().restoreListSort();
+    showSortIndicator();
     m_list->setPlaceholderText(context
                                    ? tr("No documents yet.")
                                    : tr("The Vorn database could not be opened, so there are no documents "
@@ -345,8 +643,14 @@ void MainWindow::updateUndoActions()
     UndoManager* undo = context ? context->undoManager() : nullptr;
     const QString undoName = undo ? undo->undoActionName() : QString();
     const QString redoName = undo ? undo->redoActionName() : QString();
+    // The action's name goes into the menu and the tooltip; the toolbar
+    // keeps its short label so that no button moves.
     m_undoAction->setText(undoName.isEmpty() ? tr("&Undo") : tr("&Undo %1").arg(undoName));
     m_redoAction->setText(redoName.isEmpty() ? tr("&Redo") : tr("&Redo %1").arg(redoName));
+    m_undoAction->setIconText(tr("Undo"));
+    m_redoAction->setIconText(tr("Redo"));
+    m_undoAction->setToolTip(undoName.isEmpty() ? tr("Undo") : tr("Undo %1").arg(undoName));
+    m_redoAction->setToolTip(redoName.isEmpty() ? tr("Redo") : tr("Redo %1").arg(redoName));
     m_undoAction->setEnabled(undo && undo->canUndo());
     m_redoAction->setEnabled(undo && undo->canRedo());
 }
@@ -361,10 +665,11 @@ void MainWindow::updateTotals()
     const QString quotes =
         state.quoteCount == 1 ? tr("1 quote") : tr("%1 quotes").arg(QLocale().toString(state.quoteCount));
     m_countsLabel->setText(tr("%1, %2").arg(invoices, quotes));
-    m_amountsLabel->setText(tr("Total %1    Paid %2    Due %3")
+    m_amountsLabel->setText(tr("Total %1\nPaid %2 · Due %3")
                                 .arg(DocumentListModel::amountText(state.totalAmount, currency),
                                      DocumentListModel::amountText(state.paidAmount, currency),
                                      DocumentListModel::amountText(state.dueAmount, currency)));
+    m_amountsLabel->setAccessibleName(m_amountsLabel->text());
 }
 
 void MainWindow::centerOnScreen()
@@ -407,6 +712,15 @@ bool MainWindow::focusTarget(const QString& name)
         return false;
     }
     widget->setFocus(Qt::OtherFocusReason);
+    // The request may come as a popover closes, which hands the keyboard
+    // back to the window afterwards: the focus is set again once it has.
+    QTimer::singleShot(0, widget, [widget] {
+        if (!QApplication::activePopupWidget() && QApplication::activeWindow() != widget->window()) {
+            widget->window()->activateWindow();
+            QApplication::setActiveWindow(widget->window());
+        }
+        widget->setFocus(Qt::OtherFocusReason);
+    });
     return true;
 }
 

@@ -9,13 +9,21 @@
 #include <functional>
 
 class QAction;
+class QActionGroup;
+class QSplitter;
+class QStackedWidget;
+class QToolButton;
 class QLabel;
 class QMenu;
 class QToolBar;
 
 namespace vorn {
 
+class AddressPage;
 class AppDelegate;
+class FilterPopover;
+class InfoPage;
+class ItemsPage;
 class DocumentListModel;
 class DocumentListView;
 class ExportSheet;
@@ -45,6 +53,21 @@ public:
     // Output and document commands by name ("printInvoice", "showPreview", ...).
     QAction* command(const QString& name) const { return m_commands.value(name); }
     QToolBar* mainToolBar() const { return m_toolBar; }
+    QMenu* viewMenu() const { return m_viewMenu; }
+    QMenu* itemsMenu() const { return m_itemsMenu; }
+    QSplitter* splitter() const { return m_splitter; }
+    QStackedWidget* pages() const { return m_pages; }
+    AddressPage* addressPage() const { return m_addressPage; }
+    ItemsPage* itemsPage() const { return m_itemsPage; }
+    InfoPage* infoPage() const { return m_infoPage; }
+    QToolButton* filterButton() const { return m_filterButton; }
+    FilterPopover* filterPopover() const { return m_filterPopover; }
+    QLabel* totalsLabel() const { return m_amountsLabel; }
+    QLabel* countsLabel() const { return m_countsLabel; }
+    // Chooses a document page (0 address, 1 items, 2 info) as the toolbar does.
+    void showPage(int index);
+    int currentPageIndex() const;
+    void openFilterPopover();
     QAction* saveAction() const { return m_saveAction; }
     QAction* undoAction() const { return m_undoAction; }
     QAction* redoAction() const { return m_redoAction; }
@@ -74,6 +97,16 @@ protected:
 private:
     void createActions();
     void createMenus();
+    // One function per menu, so a menu can grow without touching the others.
+    void createFileMenu();
+    void createEditMenu();
+    void createViewMenu();
+    void createDocumentMenu();
+    void createItemsMenu();
+    void showCurrentPage(bool fade);
+    void sortByColumn(int column);
+    void showSortIndicator();
+    void updateFilterButton();
     void createToolBar();
     void createCentralArea();
     void createDocumentActions();
@@ -90,6 +123,17 @@ private:
     QMenu* m_fileMenu = nullptr;
     QMenu* m_editMenu = nullptr;
     QMenu* m_documentMenu = nullptr;
+    QMenu* m_viewMenu = nullptr;
+    QMenu* m_itemsMenu = nullptr;
+    QActionGroup* m_pageActions = nullptr;
+    QSplitter* m_splitter = nullptr;
+    QStackedWidget* m_pages = nullptr;
+    AddressPage* m_addressPage = nullptr;
+    ItemsPage* m_itemsPage = nullptr;
+    InfoPage* m_infoPage = nullptr;
+    QLabel* m_noDocument = nullptr;
+    QToolButton* m_filterButton = nullptr;
+    FilterPopover* m_filterPopover = nullptr;
     PreviewWindow* m_previewWindow = nullptr;
     ExportSheet* m_exportSheet = nullptr;
     ReminderSheet* m_reminderSheet = nullptr;

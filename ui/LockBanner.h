@@ -1,0 +1,25 @@
+#pragma once
+
+#include <QLabel>
+
+namespace vorn {
+
+class AppState;
+
+// A line above a document page that says why its fields are read-only
+// while the document is marked as sent; hidden otherwise.
+class LockBanner : public QLabel
+{
+    Q_OBJECT
+public:
+    explicit LockBanner(AppState& state, QWidget* parent = nullptr);
+    void refresh();
+
+private:
+    void watchContext();
+
+    AppState& m_state;
+    QMetaObject::Connection m_connection;
+};
+
+} // namespace vorn

@@ -1,0 +1,30 @@
+#pragma once
+
+#include <QFrame>
+
+namespace vorn {
+
+// A small window that opens below the button it belongs to and closes when
+// the user clicks elsewhere or presses Escape. The core decides whether it
+// is shown; dismissed() tells it when the user closed it.
+class Popover : public QFrame
+{
+    Q_OBJECT
+public:
+    explicit Popover(QWidget* parent = nullptr);
+
+    void showBelow(QWidget* anchor);
+    // Hides without reporting a dismissal (the core closed it).
+    void close();
+
+Q_SIGNALS:
+    void dismissed();
+
+protected:
+    void hideEvent(QHideEvent* event) override;
+
+private:
+    bool m_closing = false;
+};
+
+} // namespace vorn
