@@ -3070,7 +3070,7 @@ Bezahlt %2 · Fällig %3</translation>
     </message>
     <message>
         <source>S&amp;treet:</source>
-        <translation>&amp;Straße:</translation>
+        <translation>St&amp;raße:</translation>
     </message>
     <message>
         <source>&amp;Postcode:</source>
@@ -3090,7 +3090,7 @@ Bezahlt %2 · Fällig %3</translation>
     </message>
     <message>
         <source>Ta&amp;x number:</source>
-        <translation>Steuer&amp;nummer:</translation>
+        <translation>Steuernu&amp;mmer:</translation>
     </message>
     <message>
         <source>Contact &amp;e-mail:</source>

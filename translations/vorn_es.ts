@@ -3066,7 +3066,7 @@ Pagado %2 · Pendiente %3</translation>
     </message>
     <message>
         <source>Le&amp;gal name:</source>
-        <translation>&amp;Razón social:</translation>
+        <translation>Ra&amp;zón social:</translation>
     </message>
     <message>
         <source>S&amp;treet:</source>
@@ -3094,7 +3094,7 @@ Pagado %2 · Pendiente %3</translation>
     </message>
     <message>
         <source>Contact &amp;e-mail:</source>
-        <translation>&amp;Correo de contacto:</translation>
+        <translation>Correo de c&amp;ontacto:</translation>
     </message>
     <message>
         <source>Contact p&amp;hone:</source>

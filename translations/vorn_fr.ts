@@ -3074,7 +3074,7 @@ Payé %2 · Dû %3</translation>
     </message>
     <message>
         <source>&amp;Postcode:</source>
-        <translation>&amp;Code postal&#xa0;:</translation>
+        <translation>Code p&amp;ostal&#xa0;:</translation>
     </message>
     <message>
         <source>C&amp;ity:</source>
@@ -3094,7 +3094,7 @@ Payé %2 · Dû %3</translation>
     </message>
     <message>
         <source>Contact &amp;e-mail:</source>
-        <translation>&amp;E-mail de contact&#xa0;:</translation>
+        <translation>E-&amp;mail de contact&#xa0;:</translation>
     </message>
     <message>
         <source>Contact p&amp;hone:</source>
