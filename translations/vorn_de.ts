@@ -2173,7 +2173,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Document</source>
-        <translation>&amp;Dokument</translation>
+        <translation>D&amp;okument</translation>
     </message>
     <message>
         <source>Toolbar</source>
@@ -2209,7 +2209,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Convert Quote to Invoice…</source>
-        <translation>Angebot in Rechnung &amp;umwandeln …</translation>
+        <translation>Angebot in Rechnung u&amp;mwandeln …</translation>
     </message>
     <message>
         <source>Mark as &amp;Dispatched Now</source>
@@ -2233,7 +2233,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>Export &amp;Listed Documents as XML…</source>
-        <translation>&amp;Aufgelistete Dokumente als XML exportieren …</translation>
+        <translation>Aufgelis&amp;tete Dokumente als XML exportieren …</translation>
     </message>
     <message>
         <source>Export &amp;All Documents as XML…</source>
@@ -2241,7 +2241,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Back Up Database…</source>
-        <translation>Datenbank &amp;sichern …</translation>
+        <translation>Datenbank si&amp;chern …</translation>
     </message>
     <message>
         <source>&amp;Restore Database…</source>
@@ -2269,7 +2269,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>Export as P&amp;DF…</source>
-        <translation>Als P&amp;DF exportieren …</translation>
+        <translation>Als &amp;PDF exportieren …</translation>
     </message>
     <message>
         <source>Ctrl+Shift+E</source>

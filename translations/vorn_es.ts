@@ -2153,7 +2153,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
     <message>
         <source>&amp;Quit Vorn</source>
-        <translation>&amp;Salir de Vorn</translation>
+        <translation>Salir de V&amp;orn</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -2229,7 +2229,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
     <message>
         <source>&amp;Import Document…</source>
-        <translation>&amp;Importar documento…</translation>
+        <translation>I&amp;mportar documento…</translation>
     </message>
     <message>
         <source>Export &amp;Listed Documents as XML…</source>

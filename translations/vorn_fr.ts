@@ -2173,7 +2173,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Document</source>
-        <translation>&amp;Document</translation>
+        <translation>Doc&amp;ument</translation>
     </message>
     <message>
         <source>Toolbar</source>
@@ -2189,7 +2189,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>New &amp;Quote</source>
-        <translation>Nouveau &amp;devis</translation>
+        <translation>&amp;Nouveau devis</translation>
     </message>
     <message>
         <source>Ctrl+Shift+N</source>
@@ -2229,7 +2229,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Import Document…</source>
-        <translation>&amp;Importer un document…</translation>
+        <translation>Imp&amp;orter un document…</translation>
     </message>
     <message>
         <source>Export &amp;Listed Documents as XML…</source>
@@ -2281,7 +2281,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Send by &amp;E-mail…</source>
-        <translation>Envoyer par &amp;e-mail…</translation>
+        <translation>Envoyer par e-&amp;mail…</translation>
     </message>
     <message>
         <source>E-mail</source>
