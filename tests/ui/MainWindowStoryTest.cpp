@@ -269,6 +269,12 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     window->showPage(2);
     InfoPage* info = window->infoPage();
     EXPECT_EQ(window->pages()->currentWidget(), info);
+    // The e-invoice fields start empty; each edit is one named step.
+    auto* leitweg = info->findChild<QLineEdit*>(QStringLiteral("buyerReferenceView"));
+    EXPECT_TRUE(leitweg->text().isEmpty());
+    type(leitweg, QStringLiteral("04011000-12345-67"));
+    EXPECT_EQ(invoice->stringValue(key::buyerReference), QStringLiteral("04011000-12345-67"));
+    EXPECT_TRUE(window->undoAction()->text().contains(QStringLiteral("Change Buyer Reference")));
     info->statusField()->setCurrentIndex(3);
     Q_EMIT info->statusField()->activated(3);
     EXPECT_EQ(invoice->intValue(key::status), 3);
@@ -312,6 +318,7 @@ TEST_F(MainWindowStoryTest, ASentInvoiceIsReadOnlyAndSaysWhy)
 
     auto* title = info->findChild<QLineEdit*>(QStringLiteral("titleView"));
     EXPECT_TRUE(title->isReadOnly());
+    EXPECT_TRUE(info->findChild<QLineEdit*>(QStringLiteral("orderReferenceView"))->isReadOnly());
     EXPECT_FALSE(title->toolTip().isEmpty());
     EXPECT_TRUE(info->findChild<QLabel*>(QStringLiteral("lockBanner"))->isVisible());
     EXPECT_TRUE(info->statusField()->isEnabled());
