@@ -1308,6 +1308,22 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <source>Change</source>
         <translation>Ändern</translation>
     </message>
+    <message>
+        <source>Change Buyer Country</source>
+        <translation>Käuferland ändern</translation>
+    </message>
+    <message>
+        <source>Change Buyer VAT ID</source>
+        <translation>USt-IdNr. des Käufers ändern</translation>
+    </message>
+    <message>
+        <source>Change Buyer Reference</source>
+        <translation>Käuferreferenz ändern</translation>
+    </message>
+    <message>
+        <source>Change Order Reference</source>
+        <translation>Bestellreferenz ändern</translation>
+    </message>
 </context>
 <context>
     <name>vorn::DocumentListModel</name>
@@ -1906,6 +1922,46 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Quotes are not paid; convert the quote into an invoice first.</source>
         <translation>Angebote werden nicht bezahlt; wandeln Sie das Angebot zuerst in eine Rechnung um.</translation>
+    </message>
+    <message>
+        <source>E-Invoice</source>
+        <translation>E-Rechnung</translation>
+    </message>
+    <message>
+        <source>e.g. DE</source>
+        <translation>z.&#xa0;B. DE</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country as a two-letter code</source>
+        <translation>Das Land des Käufers als Code aus zwei Buchstaben</translation>
+    </message>
+    <message>
+        <source>Buyer countr&amp;y:</source>
+        <translation>Käufer&amp;land:</translation>
+    </message>
+    <message>
+        <source>Buyer country</source>
+        <translation>Käuferland</translation>
+    </message>
+    <message>
+        <source>&amp;Buyer VAT ID:</source>
+        <translation>&amp;USt-IdNr. des Käufers:</translation>
+    </message>
+    <message>
+        <source>Buyer VAT ID</source>
+        <translation>USt-IdNr. des Käufers</translation>
+    </message>
+    <message>
+        <source>The reference the buyer gave, for public bodies their Leitweg-ID</source>
+        <translation>Die Referenz des Käufers, bei öffentlichen Auftraggebern die Leitweg-ID</translation>
+    </message>
+    <message>
+        <source>Buyer reference (&amp;Leitweg-ID):</source>
+        <translation>Käufe&amp;rreferenz (Leitweg-ID):</translation>
+    </message>
+    <message>
+        <source>Order &amp;reference:</source>
+        <translation>Bestellreferen&amp;z:</translation>
     </message>
 </context>
 <context>

@@ -1308,6 +1308,22 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <source>Change</source>
         <translation>Cambiar</translation>
     </message>
+    <message>
+        <source>Change Buyer Country</source>
+        <translation>Cambiar país del comprador</translation>
+    </message>
+    <message>
+        <source>Change Buyer VAT ID</source>
+        <translation>Cambiar NIF-IVA del comprador</translation>
+    </message>
+    <message>
+        <source>Change Buyer Reference</source>
+        <translation>Cambiar referencia del comprador</translation>
+    </message>
+    <message>
+        <source>Change Order Reference</source>
+        <translation>Cambiar referencia del pedido</translation>
+    </message>
 </context>
 <context>
     <name>vorn::DocumentListModel</name>
@@ -1906,6 +1922,46 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Quotes are not paid; convert the quote into an invoice first.</source>
         <translation>Los presupuestos no se pagan; convierta primero el presupuesto en factura.</translation>
+    </message>
+    <message>
+        <source>E-Invoice</source>
+        <translation>Factura electrónica</translation>
+    </message>
+    <message>
+        <source>e.g. DE</source>
+        <translation>p. ej. ES</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country as a two-letter code</source>
+        <translation>El país del comprador como código de dos letras</translation>
+    </message>
+    <message>
+        <source>Buyer countr&amp;y:</source>
+        <translation>País de&amp;l comprador:</translation>
+    </message>
+    <message>
+        <source>Buyer country</source>
+        <translation>País del comprador</translation>
+    </message>
+    <message>
+        <source>&amp;Buyer VAT ID:</source>
+        <translation>NIF-IVA del comp&amp;rador:</translation>
+    </message>
+    <message>
+        <source>Buyer VAT ID</source>
+        <translation>NIF-IVA del comprador</translation>
+    </message>
+    <message>
+        <source>The reference the buyer gave, for public bodies their Leitweg-ID</source>
+        <translation>La referencia que dio el comprador; para organismos públicos alemanes, su Leitweg-ID</translation>
+    </message>
+    <message>
+        <source>Buyer reference (&amp;Leitweg-ID):</source>
+        <translation>Referencia del comprador (Leit&amp;weg-ID):</translation>
+    </message>
+    <message>
+        <source>Order &amp;reference:</source>
+        <translation>Referencia de s&amp;u pedido:</translation>
     </message>
 </context>
 <context>

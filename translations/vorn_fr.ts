@@ -1308,6 +1308,22 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <source>Change</source>
         <translation>Modifier</translation>
     </message>
+    <message>
+        <source>Change Buyer Country</source>
+        <translation>Modifier le pays de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>Change Buyer VAT ID</source>
+        <translation>Modifier le n° de TVA de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>Change Buyer Reference</source>
+        <translation>Modifier la référence acheteur</translation>
+    </message>
+    <message>
+        <source>Change Order Reference</source>
+        <translation>Modifier la référence de commande</translation>
+    </message>
 </context>
 <context>
     <name>vorn::DocumentListModel</name>
@@ -1906,6 +1922,46 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Quotes are not paid; convert the quote into an invoice first.</source>
         <translation>Les devis ne sont pas payés&#xa0;; convertissez d’abord le devis en facture.</translation>
+    </message>
+    <message>
+        <source>E-Invoice</source>
+        <translation>Facture électronique</translation>
+    </message>
+    <message>
+        <source>e.g. DE</source>
+        <translation>p.&#xa0;ex. FR</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country as a two-letter code</source>
+        <translation>Le pays de l&apos;acheteur, en code à deux lettres</translation>
+    </message>
+    <message>
+        <source>Buyer countr&amp;y:</source>
+        <translation>Pa&amp;ys de l&apos;acheteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Buyer country</source>
+        <translation>Pays de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>&amp;Buyer VAT ID:</source>
+        <translation>N° de TVA de &amp;l&apos;acheteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Buyer VAT ID</source>
+        <translation>N° de TVA de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>The reference the buyer gave, for public bodies their Leitweg-ID</source>
+        <translation>La référence donnée par l&apos;acheteur, pour les organismes publics allemands leur Leitweg-ID</translation>
+    </message>
+    <message>
+        <source>Buyer reference (&amp;Leitweg-ID):</source>
+        <translation>&amp;Référence acheteur (Leitweg-ID)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Order &amp;reference:</source>
+        <translation>Ré&amp;férence de commande&#xa0;:</translation>
     </message>
 </context>
 <context>
