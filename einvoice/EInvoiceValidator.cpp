@@ -11,7 +11,7 @@ namespace {
 
 class Texts
 {
-    Q_DECLARE_TR_FUNCTIONS(EInvoiceValidator)
+    Q_DECLARE_TR_FUNCTIONS(vorn::EInvoiceValidator)
 };
 
 QString tr(const char* text)
@@ -64,8 +64,8 @@ QStringList problems(const EInvoiceData& e)
         out << tr("Only invoices can be sent as e-invoices; this is a quote.");
         return out;
     }
-    need(!e.number.isEmpty(), "The invoice number is missing.");
-    need(e.issueDate.isValid(), "The invoice date is missing.");
+    need(!e.number.isEmpty(), QT_TR_NOOP("The invoice number is missing."));
+    need(e.issueDate.isValid(), QT_TR_NOOP("The invoice date is missing."));
     if (e.currencyText.trimmed().isEmpty())
         out << tr("The invoice's currency is missing.");
     else if (e.currency.isEmpty())
@@ -73,10 +73,10 @@ QStringList problems(const EInvoiceData& e)
                    .arg(e.currencyText.trimmed());
 
     const EInvoiceData::Party& seller = e.seller;
-    need(!seller.name.isEmpty(), "The seller's legal name is missing.");
-    need(!seller.street.isEmpty(), "The seller's street is missing.");
-    need(!seller.postcode.isEmpty(), "The seller's postcode is missing.");
-    need(!seller.city.isEmpty(), "The seller's city is missing.");
+    need(!seller.name.isEmpty(), QT_TR_NOOP("The seller's legal name is missing."));
+    need(!seller.street.isEmpty(), QT_TR_NOOP("The seller's street is missing."));
+    need(!seller.postcode.isEmpty(), QT_TR_NOOP("The seller's postcode is missing."));
+    need(!seller.city.isEmpty(), QT_TR_NOOP("The seller's city is missing."));
     if (seller.countryCode.isEmpty())
         out << tr("The seller's country is missing.");
     else if (!isCountryCode(seller.countryCode))
@@ -96,7 +96,8 @@ QStringList problems(const EInvoiceData& e)
         out << tr("The BIC “%1” is not valid: it has 8 or 11 letters and digits.").arg(e.bic);
 
     const EInvoiceData::Party& buyer = e.buyer;
-    need(!buyer.name.isEmpty(), "The buyer's name is missing: it is the first line of the address.");
+    need(!buyer.name.isEmpty(),
+         QT_TR_NOOP("The buyer's name is missing: it is the first line of the address."));
     if (buyer.countryCode.isEmpty())
         out << tr("The buyer's country is missing.");
     else if (!isCountryCode(buyer.countryCode))
@@ -123,13 +124,13 @@ QStringList problems(const EInvoiceData& e)
                   "export it again.");
 
     if (xrechnung) {
-        need(!e.buyerReference.isEmpty(), "The buyer reference (Leitweg-ID) is missing.");
-        need(!seller.email.isEmpty(), "The seller's contact e-mail is missing.");
-        need(!seller.phone.isEmpty(), "The seller's contact phone is missing.");
-        need(!buyer.email.isEmpty(), "The buyer's e-mail address is missing.");
+        need(!e.buyerReference.isEmpty(), QT_TR_NOOP("The buyer reference (Leitweg-ID) is missing."));
+        need(!seller.email.isEmpty(), QT_TR_NOOP("The seller's contact e-mail is missing."));
+        need(!seller.phone.isEmpty(), QT_TR_NOOP("The seller's contact phone is missing."));
+        need(!buyer.email.isEmpty(), QT_TR_NOOP("The buyer's e-mail address is missing."));
         need(!buyer.postcode.isEmpty() && !buyer.city.isEmpty(),
-             "The buyer's postcode and city are missing: write them on the last line of the address, as in "
-             "“10115 Berlin”.");
+             QT_TR_NOOP("The buyer's postcode and city are missing: write them on the last line of the "
+                        "address, as in “10115 Berlin”."));
     }
     return out;
 }

@@ -1,12 +1,12 @@
 #include "invoicing/DocumentEditor.h"
 
 #include "invoicing/Calculator.h"
-#include "store/Keys.h"
 #include "invoicing/SentLock.h"
 #include "invoicing/TextValue.h"
 #include "invoicing/ValueTransformers.h"
 #include "store/AppState.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 
 #include <QHash>
@@ -156,6 +156,10 @@ QString DocumentEditor::actionName(const QString& key)
         {key::notes, QT_TR_NOOP("Change Notes")},
         {key::conditions, QT_TR_NOOP("Change Conditions")},
         {key::footer, QT_TR_NOOP("Change Footer")},
+        {key::buyerCountryCode, QT_TR_NOOP("Change Buyer Country")},
+        {key::buyerVatID, QT_TR_NOOP("Change Buyer VAT ID")},
+        {key::buyerReference, QT_TR_NOOP("Change Buyer Reference")},
+        {key::orderReference, QT_TR_NOOP("Change Order Reference")},
         {key::unitCount, QT_TR_NOOP("Change Quantity")},
         {key::unit, QT_TR_NOOP("Change Unit")},
         {key::baseAmount, QT_TR_NOOP("Change Price")},

@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>CiiSummary</name>
+    <message>
+        <source>The amount %1 of the e-invoice is not a number.</source>
+        <translation>Der Betrag %1 der E-Rechnung ist keine Zahl.</translation>
+    </message>
+    <message>
+        <source>The e-invoice could not be read: %1</source>
+        <translation>Die E-Rechnung konnte nicht gelesen werden: %1</translation>
+    </message>
+</context>
+<context>
     <name>DesignPreview</name>
     <message>
         <source>The sample items of the design preview are missing.</source>
@@ -33,6 +44,44 @@
     <message>
         <source>Third Tax</source>
         <translation>Dritte Steuer</translation>
+    </message>
+</context>
+<context>
+    <name>EInvoiceData</name>
+    <message>
+        <source>No tax charged</source>
+        <translation>Keine Steuer berechnet</translation>
+    </message>
+    <message>
+        <source>Shipping</source>
+        <translation>Versand</translation>
+    </message>
+    <message>
+        <source>Discount of %1 % on the total</source>
+        <translation>Rabatt von %1 % auf den Gesamtbetrag</translation>
+    </message>
+    <message>
+        <source>Discount on the total</source>
+        <translation>Rabatt auf den Gesamtbetrag</translation>
+    </message>
+    <message>
+        <source>The amounts are computed without rounding and printed to the cent; the VAT computed per rate from the rounded line amounts differs from the printed total by %1 %2, given as the rounding amount.</source>
+        <translation>Die Beträge werden ohne Rundung berechnet und auf den Cent genau ausgegeben; die je Steuersatz aus den gerundeten Postenbeträgen berechnete Umsatzsteuer weicht um %1 %2 von der ausgegebenen Summe ab, die als Rundungsbetrag angegeben ist.</translation>
+    </message>
+</context>
+<context>
+    <name>FacturX</name>
+    <message>
+        <source>The colour profile of PDF/A files is missing.</source>
+        <translation>Das Farbprofil für PDF/A-Dateien fehlt.</translation>
+    </message>
+    <message>
+        <source>An encrypted PDF cannot become a PDF/A file.</source>
+        <translation>Ein verschlüsseltes PDF kann keine PDF/A-Datei werden.</translation>
+    </message>
+    <message>
+        <source>The PDF could not be made into a Factur-X file.</source>
+        <translation>Aus dem PDF konnte keine Factur-X-Datei erstellt werden.</translation>
     </message>
 </context>
 <context>
@@ -114,7 +163,7 @@
 <context>
     <name>Logo</name>
     <message>
-        <source>&lt;small&gt;&lt;small&gt;Please provide a 'Logo Image' in the Preferences&lt;br /&gt;or remove the 'LOGO' substitute from the design/template.&lt;/small&gt;&lt;/small&gt;</source>
+        <source>&lt;small&gt;&lt;small&gt;Please provide a &apos;Logo Image&apos; in the Preferences&lt;br /&gt;or remove the &apos;LOGO&apos; substitute from the design/template.&lt;/small&gt;&lt;/small&gt;</source>
         <translation>&lt;small&gt;&lt;small&gt;Bitte wählen Sie in den Einstellungen ein „Logo-Bild“&lt;br /&gt;oder entfernen Sie den Platzhalter „LOGO“ aus dem Design/der Vorlage.&lt;/small&gt;&lt;/small&gt;</translation>
     </message>
 </context>
@@ -204,7 +253,7 @@
         <translation>Fehler!</translation>
     </message>
     <message>
-        <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
+        <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to &apos;Created&apos; first. Then you will also be able to resend the modified invoice.</source>
         <translation>Die ausgewählte Rechnung ist bereits als versendet markiert. Wenn Sie wirklich Änderungen vornehmen müssen, setzen Sie ihren Status bitte zuerst auf „Erstellt“ zurück. Dann können Sie die geänderte Rechnung auch erneut versenden.</translation>
     </message>
     <message>
@@ -294,7 +343,7 @@
         <translation>Die Vorn-Datenbank „%1“ konnte nicht geöffnet werden.</translation>
     </message>
     <message>
-        <source>The Vorn database “%1” cannot be written: you don't have permission.</source>
+        <source>The Vorn database “%1” cannot be written: you don&apos;t have permission.</source>
         <translation>Die Vorn-Datenbank „%1“ kann nicht geschrieben werden: Ihnen fehlt die Berechtigung.</translation>
     </message>
     <message>
@@ -324,6 +373,10 @@
     <message>
         <source>Your changes are kept while Vorn runs and saved with the next change once there is space again; what was saved before is not lost. (%1)</source>
         <translation>Ihre Änderungen bleiben erhalten, solange Vorn läuft, und werden mit der nächsten Änderung gesichert, sobald wieder Platz ist; was zuvor gesichert wurde, geht nicht verloren. (%1)</translation>
+    </message>
+    <message>
+        <source>The Vorn database “%1” could not be brought up to date.</source>
+        <translation>Die Vorn-Datenbank „%1“ konnte nicht auf den neuesten Stand gebracht werden.</translation>
     </message>
 </context>
 <context>
@@ -365,7 +418,7 @@
         <translation>Die Vorn-Datenbank „%1“ ist beschädigt.</translation>
     </message>
     <message>
-        <source>SQLite's integrity check found: %1</source>
+        <source>SQLite&apos;s integrity check found: %1</source>
         <translation>Die Integritätsprüfung von SQLite ergab: %1</translation>
     </message>
     <message>
@@ -501,6 +554,108 @@
     </message>
 </context>
 <context>
+    <name>vorn::AddressPage</name>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Address…</source>
+        <translation>Adresse &amp;wählen …</translation>
+    </message>
+    <message>
+        <source>Client &amp;address:</source>
+        <translation>Kunden&amp;adresse:</translation>
+    </message>
+    <message>
+        <source>Client address</source>
+        <translation>Kundenadresse</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail:</source>
+        <translation>&amp;E-Mail:</translation>
+    </message>
+    <message>
+        <source>&amp;Generate</source>
+        <translation>Er&amp;zeugen</translation>
+    </message>
+    <message>
+        <source>Generate client number</source>
+        <translation>Kundennummer erzeugen</translation>
+    </message>
+    <message>
+        <source>Client &amp;number:</source>
+        <translation>Kunden&amp;nummer:</translation>
+    </message>
+    <message>
+        <source>Client number</source>
+        <translation>Kundennummer</translation>
+    </message>
+    <message>
+        <source>&amp;Subject:</source>
+        <translation>&amp;Betreff:</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::AddressPopover</name>
+    <message>
+        <source>Client Address</source>
+        <translation>Kundenadresse</translation>
+    </message>
+    <message>
+        <source>Address source</source>
+        <translation>Adressquelle</translation>
+    </message>
+    <message>
+        <source>Search contacts</source>
+        <translation>Kontakte durchsuchen</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Kontakte</translation>
+    </message>
+    <message>
+        <source>Open Contacts Application</source>
+        <translation>Kontakte-Programm öffnen</translation>
+    </message>
+    <message>
+        <source>Recent Addresses</source>
+        <translation>Zuletzt verwendete Adressen</translation>
+    </message>
+    <message>
+        <source>&amp;Generate</source>
+        <translation>Er&amp;zeugen</translation>
+    </message>
+    <message>
+        <source>Generate client number</source>
+        <translation>Kundennummer erzeugen</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse:</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail:</source>
+        <translation>&amp;E-Mail:</translation>
+    </message>
+    <message>
+        <source>Client &amp;number:</source>
+        <translation>Kunden&amp;nummer:</translation>
+    </message>
+    <message>
+        <source>Client number</source>
+        <translation>Kundennummer</translation>
+    </message>
+    <message>
+        <source>&amp;Use Address</source>
+        <translation>Adresse &amp;übernehmen</translation>
+    </message>
+    <message>
+        <source>No contacts found. Vorn reads vCard files from the contacts folder set in the preferences.</source>
+        <translation>Keine Kontakte gefunden. Vorn liest vCard-Dateien aus dem Kontakte-Ordner, der in den Einstellungen festgelegt ist.</translation>
+    </message>
+</context>
+<context>
     <name>vorn::AppDelegate</name>
     <message>
         <source>Expected a folder to store application data, found a file (%1).</source>
@@ -511,7 +666,7 @@
         <translation>Der Ordner „%1“ konnte nicht angelegt werden.</translation>
     </message>
     <message>
-        <source>You don't have permission to create it.</source>
+        <source>You don&apos;t have permission to create it.</source>
         <translation>Ihnen fehlt die Berechtigung, ihn anzulegen.</translation>
     </message>
     <message>
@@ -551,7 +706,7 @@
         <translation>Vorn, Vorn-Dokumente und die Vorn-Datenbank</translation>
     </message>
     <message>
-        <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the 'File Menu' to open documents and to restore the Vorn database.</source>
+        <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the &apos;File Menu&apos; to open documents and to restore the Vorn database.</source>
         <translation>Um doppelte Einträge und Pannen zu vermeiden und die Datenbank intakt zu halten, verwenden Sie bitte das Menü „Datei“, um Dokumente zu öffnen und die Vorn-Datenbank wiederherzustellen.</translation>
     </message>
     <message>
@@ -566,7 +721,7 @@
         <translation>Achtung!</translation>
     </message>
     <message>
-        <source>It seems that you've already setup Vorn and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
+        <source>It seems that you&apos;ve already setup Vorn and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
         <translation>Offenbar haben Sie Vorn bereits eingerichtet und den Einrichtungsassistenten mindestens einmal ausgeführt. Wenn Sie das erneut tun, werden alle Ihre Anpassungen gelöscht und durch die Standardwerte ersetzt. Möchten Sie wirklich fortfahren?</translation>
     </message>
     <message>
@@ -728,7 +883,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
 <context>
     <name>vorn::BackupController</name>
     <message>
-        <source>It looks like your Vorn database got somehow corrupted or destroyed. Vorn can try to repair it or restore it from an internal backup. You should only proceed if you're sure that your database really is not intact, since this action will replace any possible data. Should Vorn not be able to repair or restore your database, please restore it from your own (Time Machine) backups. Do you want to proceed?</source>
+        <source>It looks like your Vorn database got somehow corrupted or destroyed. Vorn can try to repair it or restore it from an internal backup. You should only proceed if you&apos;re sure that your database really is not intact, since this action will replace any possible data. Should Vorn not be able to repair or restore your database, please restore it from your own (Time Machine) backups. Do you want to proceed?</source>
         <translation>Ihre Vorn-Datenbank scheint beschädigt oder zerstört zu sein. Vorn kann versuchen, sie zu reparieren oder aus einer internen Sicherung wiederherzustellen. Fahren Sie nur fort, wenn Sie sicher sind, dass Ihre Datenbank wirklich nicht intakt ist, denn dabei werden möglicherweise vorhandene Daten ersetzt. Sollte Vorn Ihre Datenbank nicht reparieren oder wiederherstellen können, stellen Sie sie bitte aus Ihren eigenen (Time Machine-)Sicherungen wieder her. Möchten Sie fortfahren?</translation>
     </message>
     <message>
@@ -827,7 +982,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Leider nicht!</translation>
     </message>
     <message>
-        <source>You can't convert an invoice into a quote.</source>
+        <source>You can&apos;t convert an invoice into a quote.</source>
         <translation>Eine Rechnung kann nicht in ein Angebot umgewandelt werden.</translation>
     </message>
     <message>
@@ -839,7 +994,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>In Rechnung umwandeln</translation>
     </message>
     <message>
-        <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the counter for your invoice numbering and you can't undo this action.</source>
+        <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the counter for your invoice numbering and you can&apos;t undo this action.</source>
         <translation>Möchten Sie das ausgewählte Angebot wirklich in eine Rechnung umwandeln? Dabei ändern sich auch der Titel und der Zähler Ihrer Rechnungsnummern, und Sie können diesen Schritt nicht rückgängig machen.</translation>
     </message>
     <message>
@@ -855,7 +1010,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Fehler!</translation>
     </message>
     <message>
-        <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to 'Created' first.</source>
+        <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to &apos;Created&apos; first.</source>
         <translation>Die ausgewählte Rechnung ist bereits als versendet markiert. Wenn Sie sie wirklich löschen müssen, setzen Sie ihren Status bitte zuerst auf „Erstellt“ zurück.</translation>
     </message>
     <message>
@@ -941,7 +1096,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Fehler!</translation>
     </message>
     <message>
-        <source>You can't delete the default design.</source>
+        <source>You can&apos;t delete the default design.</source>
         <translation>Das Standarddesign kann nicht gelöscht werden.</translation>
     </message>
     <message>
@@ -986,6 +1141,188 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Discount</source>
         <translation>Rabatt</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::DiscountPopover</name>
+    <message>
+        <source>Discount</source>
+        <translation>Rabatt</translation>
+    </message>
+    <message>
+        <source>Show s&amp;ubtitle</source>
+        <translation>Untertitel an&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>Fixed amount</source>
+        <translation>Fester Betrag</translation>
+    </message>
+    <message>
+        <source>Percentage of the total</source>
+        <translation>Prozentsatz vom Gesamtbetrag</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Untertitel:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>&amp;Art:</translation>
+    </message>
+    <message>
+        <source>&amp;Percent:</source>
+        <translation>&amp;Prozent:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>&amp;Betrag:</translation>
+    </message>
+    <message>
+        <source>&amp;No Discount</source>
+        <translation>&amp;Kein Rabatt</translation>
+    </message>
+    <message>
+        <source>&amp;Give Discount</source>
+        <translation>Rabatt &amp;gewähren</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::DocumentEditor</name>
+    <message>
+        <source>No document is selected.</source>
+        <translation>Es ist kein Dokument ausgewählt.</translation>
+    </message>
+    <message>
+        <source>This invoice is marked as sent, so it cannot be changed. Set its status back to &quot;Created&quot; to change it.</source>
+        <translation>Diese Rechnung ist als versendet markiert und kann daher nicht geändert werden. Setzen Sie ihren Status auf „Erstellt“ zurück, um sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>Change Title</source>
+        <translation>Titel ändern</translation>
+    </message>
+    <message>
+        <source>Change Subtitle</source>
+        <translation>Untertitel ändern</translation>
+    </message>
+    <message>
+        <source>Change Subject</source>
+        <translation>Betreff ändern</translation>
+    </message>
+    <message>
+        <source>Change Address</source>
+        <translation>Adresse ändern</translation>
+    </message>
+    <message>
+        <source>Change E-mail Address</source>
+        <translation>E-Mail-Adresse ändern</translation>
+    </message>
+    <message>
+        <source>Change Client Number</source>
+        <translation>Kundennummer ändern</translation>
+    </message>
+    <message>
+        <source>Change Number</source>
+        <translation>Nummer ändern</translation>
+    </message>
+    <message>
+        <source>Change Date</source>
+        <translation>Datum ändern</translation>
+    </message>
+    <message>
+        <source>Change Due Date</source>
+        <translation>Fälligkeitsdatum ändern</translation>
+    </message>
+    <message>
+        <source>Change Status</source>
+        <translation>Status ändern</translation>
+    </message>
+    <message>
+        <source>Change Paid Date</source>
+        <translation>Zahlungsdatum ändern</translation>
+    </message>
+    <message>
+        <source>Change Paid Amount</source>
+        <translation>Bezahlten Betrag ändern</translation>
+    </message>
+    <message>
+        <source>Change Dispatched</source>
+        <translation>Versandstatus ändern</translation>
+    </message>
+    <message>
+        <source>Change Dispatch Number</source>
+        <translation>Versandnummer ändern</translation>
+    </message>
+    <message>
+        <source>Change Currency</source>
+        <translation>Währung ändern</translation>
+    </message>
+    <message>
+        <source>Change Notes</source>
+        <translation>Notizen ändern</translation>
+    </message>
+    <message>
+        <source>Change Conditions</source>
+        <translation>Bedingungen ändern</translation>
+    </message>
+    <message>
+        <source>Change Footer</source>
+        <translation>Fußzeile ändern</translation>
+    </message>
+    <message>
+        <source>Change Quantity</source>
+        <translation>Menge ändern</translation>
+    </message>
+    <message>
+        <source>Change Unit</source>
+        <translation>Einheit ändern</translation>
+    </message>
+    <message>
+        <source>Change Price</source>
+        <translation>Preis ändern</translation>
+    </message>
+    <message>
+        <source>Change SKU</source>
+        <translation>Artikelnummer ändern</translation>
+    </message>
+    <message>
+        <source>Change Note</source>
+        <translation>Notiz ändern</translation>
+    </message>
+    <message>
+        <source>Change Tax</source>
+        <translation>Steuer ändern</translation>
+    </message>
+    <message>
+        <source>Shipping</source>
+        <translation>Versand</translation>
+    </message>
+    <message>
+        <source>Discount</source>
+        <translation>Rabatt</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Ändern</translation>
+    </message>
+    <message>
+        <source>Change Buyer Country</source>
+        <translation>Käuferland ändern</translation>
+    </message>
+    <message>
+        <source>Change Buyer VAT ID</source>
+        <translation>USt-IdNr. des Käufers ändern</translation>
+    </message>
+    <message>
+        <source>Change Buyer Reference</source>
+        <translation>Käuferreferenz ändern</translation>
+    </message>
+    <message>
+        <source>Change Order Reference</source>
+        <translation>Bestellreferenz ändern</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1378,160 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Status</source>
         <translation>Status</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::EInvoiceController</name>
+    <message>
+        <source>No invoice is selected.</source>
+        <translation>Es ist keine Rechnung ausgewählt.</translation>
+    </message>
+    <message>
+        <source>The invoice changed while its PDF was made.</source>
+        <translation>Die Rechnung wurde geändert, während ihr PDF erstellt wurde.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written because a file of that name already exists.</source>
+        <translation>„%1“ konnte nicht geschrieben werden, da bereits eine Datei mit diesem Namen existiert.</translation>
+    </message>
+    <message>
+        <source>Choose another name, or move the existing file aside, and try again.</source>
+        <translation>Wählen Sie einen anderen Namen oder verschieben Sie die vorhandene Datei und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The e-invoice cannot be made</source>
+        <translation>Die E-Rechnung kann nicht erstellt werden</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Export As XRechnung XML</source>
+        <translation>Als XRechnung-XML exportieren</translation>
+    </message>
+    <message>
+        <source>Export As E-Invoice (Factur-X PDF)</source>
+        <translation>Als E-Rechnung exportieren (Factur-X-PDF)</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::EInvoiceValidator</name>
+    <message>
+        <source>Only invoices can be sent as e-invoices; this is a quote.</source>
+        <translation>Nur Rechnungen können als E-Rechnung versendet werden; dies ist ein Angebot.</translation>
+    </message>
+    <message>
+        <source>The invoice&apos;s currency is missing.</source>
+        <translation>Die Währung der Rechnung fehlt.</translation>
+    </message>
+    <message>
+        <source>The currency “%1” has no ISO code: write it as a three-letter code such as EUR.</source>
+        <translation>Die Währung „%1“ hat keinen ISO-Code: Schreiben Sie sie als dreibuchstabigen Code wie EUR.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s country is missing.</source>
+        <translation>Das Land des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s country “%1” is not a two-letter country code such as DE.</source>
+        <translation>Das Land des Verkäufers „%1“ ist kein zweibuchstabiger Ländercode wie DE.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s VAT identifier or tax number is missing.</source>
+        <translation>Die USt-IdNr. oder Steuernummer des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s VAT identifier “%1” must begin with its country code, as in DE123456789.</source>
+        <translation>Die USt-IdNr. „%1“ des Verkäufers muss mit ihrem Ländercode beginnen, wie in DE123456789.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s IBAN is missing.</source>
+        <translation>Die IBAN des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The IBAN “%1” is not valid: its length or check digits are wrong.</source>
+        <translation>Die IBAN „%1“ ist ungültig: Ihre Länge oder Prüfziffern sind falsch.</translation>
+    </message>
+    <message>
+        <source>The BIC “%1” is not valid: it has 8 or 11 letters and digits.</source>
+        <translation>Die BIC „%1“ ist ungültig: Sie besteht aus 8 oder 11 Buchstaben und Ziffern.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country is missing.</source>
+        <translation>Das Land des Käufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country “%1” is not a two-letter country code such as DE.</source>
+        <translation>Das Land des Käufers „%1“ ist kein zweibuchstabiger Ländercode wie DE.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s VAT identifier “%1” must begin with its country code, as in FR12345678901.</source>
+        <translation>Die USt-IdNr. „%1“ des Käufers muss mit ihrem Ländercode beginnen, wie in FR12345678901.</translation>
+    </message>
+    <message>
+        <source>The invoice has no items.</source>
+        <translation>Die Rechnung hat keine Posten.</translation>
+    </message>
+    <message>
+        <source>Item %1 has no description.</source>
+        <translation>Posten %1 hat keine Beschreibung.</translation>
+    </message>
+    <message>
+        <source>The invoice total must be more than zero: an invoice with a negative total is a credit note.</source>
+        <translation>Der Gesamtbetrag der Rechnung muss größer als null sein: Eine Rechnung mit negativem Gesamtbetrag ist eine Gutschrift.</translation>
+    </message>
+    <message>
+        <source>The invoice&apos;s amounts do not add up: change an item or recompute the invoice, then export it again.</source>
+        <translation>Die Beträge der Rechnung gehen nicht auf: Ändern Sie einen Posten oder berechnen Sie die Rechnung neu und exportieren Sie sie dann erneut.</translation>
+    </message>
+    <message>
+        <source>The invoice number is missing.</source>
+        <translation>Die Rechnungsnummer fehlt.</translation>
+    </message>
+    <message>
+        <source>The invoice date is missing.</source>
+        <translation>Das Rechnungsdatum fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s legal name is missing.</source>
+        <translation>Der Firmenname des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s street is missing.</source>
+        <translation>Die Straße des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s postcode is missing.</source>
+        <translation>Die Postleitzahl des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s city is missing.</source>
+        <translation>Der Ort des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s name is missing: it is the first line of the address.</source>
+        <translation>Der Name des Käufers fehlt: Er steht in der ersten Zeile der Adresse.</translation>
+    </message>
+    <message>
+        <source>The buyer reference (Leitweg-ID) is missing.</source>
+        <translation>Die Käuferreferenz (Leitweg-ID) fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s contact e-mail is missing.</source>
+        <translation>Die Kontakt-E-Mail des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s contact phone is missing.</source>
+        <translation>Das Kontakttelefon des Verkäufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s e-mail address is missing.</source>
+        <translation>Die E-Mail-Adresse des Käufers fehlt.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s postcode and city are missing: write them on the last line of the address, as in “10115 Berlin”.</source>
+        <translation>Postleitzahl und Ort des Käufers fehlen: Schreiben Sie sie in die letzte Zeile der Adresse, wie in „10115 Berlin“.</translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1649,57 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::FilterPopover</name>
+    <message>
+        <source>All Documents</source>
+        <translation>Alle Dokumente</translation>
+    </message>
+    <message>
+        <source>Sent Invoices</source>
+        <translation>Versendete Rechnungen</translation>
+    </message>
+    <message>
+        <source>Overdue Invoices</source>
+        <translation>Überfällige Rechnungen</translation>
+    </message>
+    <message>
+        <source>Paid Invoices</source>
+        <translation>Bezahlte Rechnungen</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Angebote</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message>
+        <source>This Week</source>
+        <translation>Diese Woche</translation>
+    </message>
+    <message>
+        <source>This Month</source>
+        <translation>Dieser Monat</translation>
+    </message>
+    <message>
+        <source>This Year</source>
+        <translation>Dieses Jahr</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Anzeigen</translation>
+    </message>
+    <message>
+        <source>Dated within</source>
+        <translation>Zeitraum</translation>
+    </message>
+</context>
+<context>
     <name>vorn::GUIController</name>
     <message>
         <source>Delete Invoice</source>
@@ -1166,6 +1708,14 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Delete Quote</source>
         <translation>Angebot löschen</translation>
+    </message>
+    <message>
+        <source>No calculator found</source>
+        <translation>Kein Taschenrechner gefunden</translation>
+    </message>
+    <message>
+        <source>Vorn starts GNOME Calculator, KCalc, Galculator or Qalculate, but none of them is installed.</source>
+        <translation>Vorn startet GNOME Rechner, KCalc, Galculator oder Qalculate, aber keines davon ist installiert.</translation>
     </message>
 </context>
 <context>
@@ -1248,13 +1798,180 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::InfoPage</name>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Number</source>
+        <translation>Nächste Nu&amp;mmer</translation>
+    </message>
+    <message>
+        <source>Next number</source>
+        <translation>Nächste Nummer</translation>
+    </message>
+    <message>
+        <source>Number this document from the numbering pattern</source>
+        <translation>Dieses Dokument nach dem Nummernmuster nummerieren</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Nummer:</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Nummer</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Datum:</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message>
+        <source> days from today</source>
+        <translation> Tage ab heute</translation>
+    </message>
+    <message>
+        <source>Due in days from today</source>
+        <translation>Fällig in Tagen ab heute</translation>
+    </message>
+    <message>
+        <source>D&amp;ue date:</source>
+        <translation>Fällig&amp;keit:</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Fälligkeit</translation>
+    </message>
+    <message>
+        <source>&amp;Status:</source>
+        <translation>&amp;Status:</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Paid amount</source>
+        <translation>Bezahlter Betrag</translation>
+    </message>
+    <message>
+        <source>Paid &amp;amount:</source>
+        <translation>&amp;Bezahlter Betrag:</translation>
+    </message>
+    <message>
+        <source>&amp;Paid on:</source>
+        <translation>Bezahlt &amp;am:</translation>
+    </message>
+    <message>
+        <source>Paid on</source>
+        <translation>Bezahlt am</translation>
+    </message>
+    <message>
+        <source>D&amp;ispatched</source>
+        <translation>&amp;Versandt</translation>
+    </message>
+    <message>
+        <source>Dispatch number</source>
+        <translation>Versandnummer</translation>
+    </message>
+    <message>
+        <source>Stamp &amp;Now</source>
+        <translation>Jetzt &amp;eintragen</translation>
+    </message>
+    <message>
+        <source>Mark as dispatched now</source>
+        <translation>Jetzt als versandt markieren</translation>
+    </message>
+    <message>
+        <source>Dispatch:</source>
+        <translation>Versand:</translation>
+    </message>
+    <message>
+        <source>Dispatched</source>
+        <translation>Versandt</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Währung:</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Währung</translation>
+    </message>
+    <message>
+        <source>N&amp;otes:</source>
+        <translation>N&amp;otizen:</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions:</source>
+        <translation>Bedin&amp;gungen:</translation>
+    </message>
+    <message>
+        <source>&amp;Footer:</source>
+        <translation>&amp;Fußzeile:</translation>
+    </message>
+    <message>
+        <source>Quotes are not paid; convert the quote into an invoice first.</source>
+        <translation>Angebote werden nicht bezahlt; wandeln Sie das Angebot zuerst in eine Rechnung um.</translation>
+    </message>
+    <message>
+        <source>E-Invoice</source>
+        <translation>E-Rechnung</translation>
+    </message>
+    <message>
+        <source>e.g. DE</source>
+        <translation>z.&#xa0;B. DE</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country as a two-letter code</source>
+        <translation>Das Land des Käufers als Code aus zwei Buchstaben</translation>
+    </message>
+    <message>
+        <source>Buyer countr&amp;y:</source>
+        <translation>Käufer&amp;land:</translation>
+    </message>
+    <message>
+        <source>Buyer country</source>
+        <translation>Käuferland</translation>
+    </message>
+    <message>
+        <source>&amp;Buyer VAT ID:</source>
+        <translation>&amp;USt-IdNr. des Käufers:</translation>
+    </message>
+    <message>
+        <source>Buyer VAT ID</source>
+        <translation>USt-IdNr. des Käufers</translation>
+    </message>
+    <message>
+        <source>The reference the buyer gave, for public bodies their Leitweg-ID</source>
+        <translation>Die Referenz des Käufers, bei öffentlichen Auftraggebern die Leitweg-ID</translation>
+    </message>
+    <message>
+        <source>Buyer reference (&amp;Leitweg-ID):</source>
+        <translation>Käufe&amp;rreferenz (Leitweg-ID):</translation>
+    </message>
+    <message>
+        <source>Order &amp;reference:</source>
+        <translation>Bestellreferen&amp;z:</translation>
+    </message>
+</context>
+<context>
     <name>vorn::InterchangeController</name>
     <message>
         <source>Warning!</source>
         <translation>Achtung!</translation>
     </message>
     <message>
-        <source>The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
+        <source>The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by design it can&apos;t know or care about duplicate invoices, messed up numbers, or if you&apos;re having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
         <translation>Für die Richtigkeit Ihrer Daten sind Sie verantwortlich, und zwar ganz allein. Vorn ist nur eine dumme App und kann von Haus aus weder wissen noch sich darum kümmern, ob es doppelte Rechnungen oder durcheinandergeratene Nummern gibt oder ob Sie einen schlechten Tag haben. Tun Sie sich also bitte selbst einen Gefallen und prüfen Sie, was Sie hier tun. Möchten Sie die Rechnung trotzdem importieren?</translation>
     </message>
     <message>
@@ -1314,10 +2031,170 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ItemPopover</name>
+    <message>
+        <source>New Item</source>
+        <translation>Neuer Posten</translation>
+    </message>
+    <message>
+        <source>Item source</source>
+        <translation>Postenquelle</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Untertitel:</translation>
+    </message>
+    <message>
+        <source>&amp;Quantity:</source>
+        <translation>&amp;Menge:</translation>
+    </message>
+    <message>
+        <source>U&amp;nit:</source>
+        <translation>&amp;Einheit:</translation>
+    </message>
+    <message>
+        <source>Unit &amp;price:</source>
+        <translation>Einzel&amp;preis:</translation>
+    </message>
+    <message>
+        <source>S&amp;KU:</source>
+        <translation>Artikel&amp;nummer:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>N&amp;otiz:</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Steuer %1</translation>
+    </message>
+    <message>
+        <source>Taxes:</source>
+        <translation>Steuern:</translation>
+    </message>
+    <message>
+        <source>Recent Items</source>
+        <translation>Zuletzt verwendete Posten</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item</source>
+        <translation>Posten &amp;hinzufügen</translation>
+    </message>
+    <message>
+        <source>&amp;Use Item</source>
+        <translation>Posten ü&amp;bernehmen</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemTableModel</name>
+    <message>
+        <source>Gross %1</source>
+        <translation>Brutto %1</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Menge</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Einheit</translation>
+    </message>
+    <message>
+        <source>Unit Price</source>
+        <translation>Einzelpreis</translation>
+    </message>
+    <message>
+        <source>Tax 1</source>
+        <translation>Steuer 1</translation>
+    </message>
+    <message>
+        <source>Tax 2</source>
+        <translation>Steuer 2</translation>
+    </message>
+    <message>
+        <source>Tax 3</source>
+        <translation>Steuer 3</translation>
+    </message>
+    <message>
+        <source>Net</source>
+        <translation>Netto</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemsPage</name>
+    <message>
+        <source>Items</source>
+        <translation>Posten</translation>
+    </message>
+    <message>
+        <source>Add Item…</source>
+        <translation>Posten hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Delete Item</source>
+        <translation>Posten löschen</translation>
+    </message>
+    <message>
+        <source>Shipping…</source>
+        <translation>Versand …</translation>
+    </message>
+    <message>
+        <source>Discount…</source>
+        <translation>Rabatt …</translation>
+    </message>
+    <message>
+        <source>Subtotal %1</source>
+        <translation>Zwischensumme %1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Steuer %1</translation>
+    </message>
+    <message>
+        <source>Shipping %1</source>
+        <translation>Versand %1</translation>
+    </message>
+    <message>
+        <source>Discount %1 %</source>
+        <translation>Rabatt %1 %</translation>
+    </message>
+    <message>
+        <source>Discount %1</source>
+        <translation>Rabatt %1</translation>
+    </message>
+    <message>
+        <source>Total %1 %2</source>
+        <translation>Gesamt %1 %2</translation>
+    </message>
+</context>
+<context>
     <name>vorn::LineNumberRuler</name>
     <message>
         <source>Line numbers</source>
         <translation>Zeilennummern</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::LockBanner</name>
+    <message>
+        <source>This invoice is marked as sent, so its fields are read-only. To change it, set its status back to &quot;Created&quot; on the Info page.</source>
+        <translation>Diese Rechnung ist als versendet markiert, daher sind ihre Felder schreibgeschützt. Um sie zu ändern, setzen Sie ihren Status auf der Seite „Info“ auf „Erstellt“ zurück.</translation>
     </message>
 </context>
 <context>
@@ -1352,7 +2229,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Document</source>
-        <translation>&amp;Dokument</translation>
+        <translation>D&amp;okument</translation>
     </message>
     <message>
         <source>Toolbar</source>
@@ -1388,7 +2265,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Convert Quote to Invoice…</source>
-        <translation>Angebot in Rechnung &amp;umwandeln …</translation>
+        <translation>Angebot in Rechnung u&amp;mwandeln …</translation>
     </message>
     <message>
         <source>Mark as &amp;Dispatched Now</source>
@@ -1412,7 +2289,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>Export &amp;Listed Documents as XML…</source>
-        <translation>&amp;Aufgelistete Dokumente als XML exportieren …</translation>
+        <translation>Aufgelis&amp;tete Dokumente als XML exportieren …</translation>
     </message>
     <message>
         <source>Export &amp;All Documents as XML…</source>
@@ -1420,7 +2297,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>&amp;Back Up Database…</source>
-        <translation>Datenbank &amp;sichern …</translation>
+        <translation>Datenbank si&amp;chern …</translation>
     </message>
     <message>
         <source>&amp;Restore Database…</source>
@@ -1448,7 +2325,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
     <message>
         <source>Export as P&amp;DF…</source>
-        <translation>Als P&amp;DF exportieren …</translation>
+        <translation>Als &amp;PDF exportieren …</translation>
     </message>
     <message>
         <source>Ctrl+Shift+E</source>
@@ -1515,12 +2392,142 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>Total %1    Paid %2    Due %3</source>
-        <translation>Gesamt %1    Bezahlt %2    Offen %3</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ansicht</translation>
+    </message>
+    <message>
+        <source>&amp;Items</source>
+        <translation>&amp;Posten</translation>
+    </message>
+    <message>
+        <source>&amp;Calculator</source>
+        <translation>&amp;Taschenrechner</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+K</source>
+        <translation>Ctrl+Shift+K</translation>
+    </message>
+    <message>
+        <source>Calculator</source>
+        <translation>Taschenrechner</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Address…</source>
+        <translation>&amp;Adresse wählen …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item…</source>
+        <translation>&amp;Posten hinzufügen …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+I</source>
+        <translation>Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Item</source>
+        <translation>Posten &amp;löschen</translation>
+    </message>
+    <message>
+        <source>Ctrl+Backspace</source>
+        <translation>Ctrl+Backspace</translation>
+    </message>
+    <message>
+        <source>&amp;Shipping…</source>
+        <translation>&amp;Versand …</translation>
+    </message>
+    <message>
+        <source>D&amp;iscount…</source>
+        <translation>&amp;Rabatt …</translation>
+    </message>
+    <message>
+        <source>&amp;Filter List…</source>
+        <translation>Liste &amp;filtern …</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+F</source>
+        <translation>Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Posten</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Info</translation>
+    </message>
+    <message>
+        <source>Show the %1 page</source>
+        <translation>Seite „%1“ anzeigen</translation>
+    </message>
+    <message>
+        <source>Export as E-Invoice (&amp;Factur-X PDF)…</source>
+        <translation>Als E-Rechnung exportieren (&amp;Factur-X-PDF) …</translation>
+    </message>
+    <message>
+        <source>Export as XRec&amp;hnung XML…</source>
+        <translation>Als XRec&amp;hnung-XML exportieren …</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Dokumente</translation>
+    </message>
+    <message>
+        <source>Select a document in the list, or make a new invoice or quote.</source>
+        <translation>Wählen Sie ein Dokument in der Liste aus oder erstellen Sie eine neue Rechnung oder ein neues Angebot.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Showing %1</source>
+        <translation>Angezeigt: %1</translation>
+    </message>
+    <message>
+        <source>Showing all documents</source>
+        <translation>Alle Dokumente werden angezeigt</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filter: %1</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation>Liste filtern</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Widerrufen</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Widerrufen: %1</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Wiederholen: %1</translation>
+    </message>
+    <message>
+        <source>Total %1
+Paid %2 · Due %3</source>
+        <translation>Gesamt %1
+Bezahlt %2 · Fällig %3</translation>
     </message>
 </context>
 <context>
@@ -1746,10 +2753,13 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <source>The preview could not be made: %1</source>
         <translation>Die Vorschau konnte nicht erstellt werden: %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n page(s)</source>
-        <translation>
-            <numerusform>%n Seite</numerusform><numerusform>%n Seiten</numerusform></translation>
+    <message>
+        <source>1 page</source>
+        <translation>1 Seite</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 Seiten</translation>
     </message>
 </context>
 <context>
@@ -2011,7 +3021,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Seitenzahlen drucken</translation>
     </message>
     <message>
-        <source>Print the document's details beside the page numbers</source>
+        <source>Print the document&apos;s details beside the page numbers</source>
         <translation>Die Angaben des Dokuments neben die Seitenzahlen drucken</translation>
     </message>
     <message>
@@ -2105,6 +3115,66 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Client counter offset:</source>
         <translation>Versatz des Kundenzählers:</translation>
+    </message>
+    <message>
+        <source>E-invoices</source>
+        <translation>E-Rechnungen</translation>
+    </message>
+    <message>
+        <source>Le&amp;gal name:</source>
+        <translation>&amp;Firmenname:</translation>
+    </message>
+    <message>
+        <source>S&amp;treet:</source>
+        <translation>St&amp;raße:</translation>
+    </message>
+    <message>
+        <source>&amp;Postcode:</source>
+        <translation>&amp;Postleitzahl:</translation>
+    </message>
+    <message>
+        <source>C&amp;ity:</source>
+        <translation>&amp;Ort:</translation>
+    </message>
+    <message>
+        <source>Co&amp;untry code:</source>
+        <translation>&amp;Ländercode:</translation>
+    </message>
+    <message>
+        <source>&amp;VAT identifier:</source>
+        <translation>&amp;USt-IdNr.:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;x number:</source>
+        <translation>Steuernu&amp;mmer:</translation>
+    </message>
+    <message>
+        <source>Contact &amp;e-mail:</source>
+        <translation>Kontakt-&amp;E-Mail:</translation>
+    </message>
+    <message>
+        <source>Contact p&amp;hone:</source>
+        <translation>Kontakt&amp;telefon:</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Zahlungen</translation>
+    </message>
+    <message>
+        <source>&amp;IBAN:</source>
+        <translation>&amp;IBAN:</translation>
+    </message>
+    <message>
+        <source>&amp;BIC:</source>
+        <translation>&amp;BIC:</translation>
+    </message>
+    <message>
+        <source>Account &amp;holder:</source>
+        <translation>Kontoin&amp;haber:</translation>
+    </message>
+    <message>
+        <source>Export invoices as Factur-X PDF (e-invoice)</source>
+        <translation>Rechnungen als Factur-X-PDF exportieren (E-Rechnung)</translation>
     </message>
 </context>
 <context>
@@ -2262,6 +3332,57 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ShippingPopover</name>
+    <message>
+        <source>Shipping</source>
+        <translation>Versand</translation>
+    </message>
+    <message>
+        <source>Shipping source</source>
+        <translation>Versandquelle</translation>
+    </message>
+    <message>
+        <source>Show s&amp;ubtitle</source>
+        <translation>Untertitel an&amp;zeigen</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titel:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Untertitel:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>&amp;Betrag:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>&amp;Notiz:</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Steuer %1</translation>
+    </message>
+    <message>
+        <source>Taxes:</source>
+        <translation>Steuern:</translation>
+    </message>
+    <message>
+        <source>Recent Shipping</source>
+        <translation>Zuletzt verwendete Versandarten</translation>
+    </message>
+    <message>
+        <source>&amp;No Shipping</source>
+        <translation>&amp;Kein Versand</translation>
+    </message>
+    <message>
+        <source>&amp;Charge Shipping</source>
+        <translation>&amp;Versand berechnen</translation>
+    </message>
+</context>
+<context>
     <name>vorn::TemplateEditor</name>
     <message>
         <source>Indent</source>
@@ -2366,7 +3487,7 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Die Liste der verfügbaren Versionen konnte nicht geladen werden. Bitte prüfen Sie Ihre Internetverbindung und versuchen Sie es später erneut.</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>Sie sind auf dem neuesten Stand!</translation>
     </message>
     <message>

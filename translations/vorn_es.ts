@@ -13,6 +13,17 @@
     </message>
 </context>
 <context>
+    <name>CiiSummary</name>
+    <message>
+        <source>The amount %1 of the e-invoice is not a number.</source>
+        <translation>El importe %1 de la factura electrónica no es un número.</translation>
+    </message>
+    <message>
+        <source>The e-invoice could not be read: %1</source>
+        <translation>No se ha podido leer la factura electrónica: %1</translation>
+    </message>
+</context>
+<context>
     <name>DesignPreview</name>
     <message>
         <source>The sample items of the design preview are missing.</source>
@@ -33,6 +44,44 @@
     <message>
         <source>Third Tax</source>
         <translation>Tercer impuesto</translation>
+    </message>
+</context>
+<context>
+    <name>EInvoiceData</name>
+    <message>
+        <source>No tax charged</source>
+        <translation>Sin impuestos</translation>
+    </message>
+    <message>
+        <source>Shipping</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>Discount of %1 % on the total</source>
+        <translation>Descuento del %1 % sobre el total</translation>
+    </message>
+    <message>
+        <source>Discount on the total</source>
+        <translation>Descuento sobre el total</translation>
+    </message>
+    <message>
+        <source>The amounts are computed without rounding and printed to the cent; the VAT computed per rate from the rounded line amounts differs from the printed total by %1 %2, given as the rounding amount.</source>
+        <translation>Los importes se calculan sin redondeo y se imprimen al céntimo; el IVA calculado por tipo a partir de los importes redondeados de las líneas difiere del total impreso en %1 %2, indicados como importe de redondeo.</translation>
+    </message>
+</context>
+<context>
+    <name>FacturX</name>
+    <message>
+        <source>The colour profile of PDF/A files is missing.</source>
+        <translation>Falta el perfil de color de los archivos PDF/A.</translation>
+    </message>
+    <message>
+        <source>An encrypted PDF cannot become a PDF/A file.</source>
+        <translation>Un PDF cifrado no puede convertirse en un archivo PDF/A.</translation>
+    </message>
+    <message>
+        <source>The PDF could not be made into a Factur-X file.</source>
+        <translation>No se ha podido convertir el PDF en un archivo Factur-X.</translation>
     </message>
 </context>
 <context>
@@ -114,7 +163,7 @@
 <context>
     <name>Logo</name>
     <message>
-        <source>&lt;small&gt;&lt;small&gt;Please provide a 'Logo Image' in the Preferences&lt;br /&gt;or remove the 'LOGO' substitute from the design/template.&lt;/small&gt;&lt;/small&gt;</source>
+        <source>&lt;small&gt;&lt;small&gt;Please provide a &apos;Logo Image&apos; in the Preferences&lt;br /&gt;or remove the &apos;LOGO&apos; substitute from the design/template.&lt;/small&gt;&lt;/small&gt;</source>
         <translation>&lt;small&gt;&lt;small&gt;Indique una «imagen de logotipo» en las preferencias&lt;br /&gt;o quite el sustituto «LOGO» del diseño o la plantilla.&lt;/small&gt;&lt;/small&gt;</translation>
     </message>
 </context>
@@ -204,7 +253,7 @@
         <translation>¡Error!</translation>
     </message>
     <message>
-        <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
+        <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to &apos;Created&apos; first. Then you will also be able to resend the modified invoice.</source>
         <translation>La factura seleccionada ya está marcada como enviada. Si de verdad necesita modificarla, cambie primero su estado a «Creada». Así también podrá volver a enviar la factura modificada.</translation>
     </message>
     <message>
@@ -294,7 +343,7 @@
         <translation>No se pudo abrir la base de datos de Vorn «%1».</translation>
     </message>
     <message>
-        <source>The Vorn database “%1” cannot be written: you don't have permission.</source>
+        <source>The Vorn database “%1” cannot be written: you don&apos;t have permission.</source>
         <translation>No se puede escribir la base de datos de Vorn «%1»: no tiene permiso.</translation>
     </message>
     <message>
@@ -324,6 +373,10 @@
     <message>
         <source>Your changes are kept while Vorn runs and saved with the next change once there is space again; what was saved before is not lost. (%1)</source>
         <translation>Sus cambios se conservan mientras Vorn esté abierto y se guardan con el siguiente cambio en cuanto vuelva a haber espacio; lo que se guardó antes no se pierde. (%1)</translation>
+    </message>
+    <message>
+        <source>The Vorn database “%1” could not be brought up to date.</source>
+        <translation>No se ha podido actualizar la base de datos de Vorn «%1».</translation>
     </message>
 </context>
 <context>
@@ -365,7 +418,7 @@
         <translation>La base de datos de Vorn «%1» está dañada.</translation>
     </message>
     <message>
-        <source>SQLite's integrity check found: %1</source>
+        <source>SQLite&apos;s integrity check found: %1</source>
         <translation>La comprobación de integridad de SQLite encontró: %1</translation>
     </message>
     <message>
@@ -501,6 +554,108 @@
     </message>
 </context>
 <context>
+    <name>vorn::AddressPage</name>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Address…</source>
+        <translation>&amp;Elegir dirección…</translation>
+    </message>
+    <message>
+        <source>Client &amp;address:</source>
+        <translation>&amp;Dirección del cliente:</translation>
+    </message>
+    <message>
+        <source>Client address</source>
+        <translation>Dirección del cliente</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail:</source>
+        <translation>&amp;Correo:</translation>
+    </message>
+    <message>
+        <source>&amp;Generate</source>
+        <translation>&amp;Generar</translation>
+    </message>
+    <message>
+        <source>Generate client number</source>
+        <translation>Generar número de cliente</translation>
+    </message>
+    <message>
+        <source>Client &amp;number:</source>
+        <translation>&amp;Número de cliente:</translation>
+    </message>
+    <message>
+        <source>Client number</source>
+        <translation>Número de cliente</translation>
+    </message>
+    <message>
+        <source>&amp;Subject:</source>
+        <translation>&amp;Asunto:</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::AddressPopover</name>
+    <message>
+        <source>Client Address</source>
+        <translation>Dirección del cliente</translation>
+    </message>
+    <message>
+        <source>Address source</source>
+        <translation>Origen de la dirección</translation>
+    </message>
+    <message>
+        <source>Search contacts</source>
+        <translation>Buscar contactos</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contactos</translation>
+    </message>
+    <message>
+        <source>Open Contacts Application</source>
+        <translation>Abrir la aplicación de contactos</translation>
+    </message>
+    <message>
+        <source>Recent Addresses</source>
+        <translation>Direcciones recientes</translation>
+    </message>
+    <message>
+        <source>&amp;Generate</source>
+        <translation>&amp;Generar</translation>
+    </message>
+    <message>
+        <source>Generate client number</source>
+        <translation>Generar número de cliente</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Dirección:</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail:</source>
+        <translation>&amp;Correo:</translation>
+    </message>
+    <message>
+        <source>Client &amp;number:</source>
+        <translation>&amp;Número de cliente:</translation>
+    </message>
+    <message>
+        <source>Client number</source>
+        <translation>Número de cliente</translation>
+    </message>
+    <message>
+        <source>&amp;Use Address</source>
+        <translation>&amp;Usar dirección</translation>
+    </message>
+    <message>
+        <source>No contacts found. Vorn reads vCard files from the contacts folder set in the preferences.</source>
+        <translation>No se han encontrado contactos. Vorn lee los archivos vCard de la carpeta de contactos indicada en las preferencias.</translation>
+    </message>
+</context>
+<context>
     <name>vorn::AppDelegate</name>
     <message>
         <source>Expected a folder to store application data, found a file (%1).</source>
@@ -511,7 +666,7 @@
         <translation>No se pudo crear la carpeta «%1».</translation>
     </message>
     <message>
-        <source>You don't have permission to create it.</source>
+        <source>You don&apos;t have permission to create it.</source>
         <translation>No tiene permiso para crearla.</translation>
     </message>
     <message>
@@ -551,7 +706,7 @@
         <translation>Vorn, los documentos de Vorn y la base de datos de Vorn</translation>
     </message>
     <message>
-        <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the 'File Menu' to open documents and to restore the Vorn database.</source>
+        <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the &apos;File Menu&apos; to open documents and to restore the Vorn database.</source>
         <translation>Para evitar entradas duplicadas y contratiempos, y para mantener intacta la base de datos, use el menú «Archivo» para abrir documentos y para restaurar la base de datos de Vorn.</translation>
     </message>
     <message>
@@ -566,7 +721,7 @@
         <translation>¡Atención!</translation>
     </message>
     <message>
-        <source>It seems that you've already setup Vorn and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
+        <source>It seems that you&apos;ve already setup Vorn and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
         <translation>Parece que ya ha configurado Vorn y ha ejecutado el asistente de configuración al menos una vez. Si lo vuelve a hacer, se eliminarán todas sus personalizaciones y se sustituirán por los valores predeterminados. ¿Seguro que desea continuar?</translation>
     </message>
     <message>
@@ -728,7 +883,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
 <context>
     <name>vorn::BackupController</name>
     <message>
-        <source>It looks like your Vorn database got somehow corrupted or destroyed. Vorn can try to repair it or restore it from an internal backup. You should only proceed if you're sure that your database really is not intact, since this action will replace any possible data. Should Vorn not be able to repair or restore your database, please restore it from your own (Time Machine) backups. Do you want to proceed?</source>
+        <source>It looks like your Vorn database got somehow corrupted or destroyed. Vorn can try to repair it or restore it from an internal backup. You should only proceed if you&apos;re sure that your database really is not intact, since this action will replace any possible data. Should Vorn not be able to repair or restore your database, please restore it from your own (Time Machine) backups. Do you want to proceed?</source>
         <translation>Parece que su base de datos de Vorn se ha dañado o destruido. Vorn puede intentar repararla o restaurarla a partir de una copia de seguridad interna. Continúe solo si está seguro de que su base de datos realmente no está intacta, ya que esta acción sustituirá los datos que pueda haber. Si Vorn no consigue reparar o restaurar su base de datos, restáurela a partir de sus propias copias de seguridad (Time Machine). ¿Desea continuar?</translation>
     </message>
     <message>
@@ -827,7 +982,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>¡Lo sentimos!</translation>
     </message>
     <message>
-        <source>You can't convert an invoice into a quote.</source>
+        <source>You can&apos;t convert an invoice into a quote.</source>
         <translation>No se puede convertir una factura en un presupuesto.</translation>
     </message>
     <message>
@@ -839,7 +994,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>Convertir en factura</translation>
     </message>
     <message>
-        <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the counter for your invoice numbering and you can't undo this action.</source>
+        <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the counter for your invoice numbering and you can&apos;t undo this action.</source>
         <translation>¿Seguro que quiere convertir el presupuesto seleccionado en una factura? Esto también cambia el título y el contador de su numeración de facturas, y no se puede deshacer.</translation>
     </message>
     <message>
@@ -855,7 +1010,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>¡Error!</translation>
     </message>
     <message>
-        <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to 'Created' first.</source>
+        <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to &apos;Created&apos; first.</source>
         <translation>La factura seleccionada ya está marcada como enviada. Si de verdad necesita eliminarla, cambie primero su estado a «Creada».</translation>
     </message>
     <message>
@@ -941,7 +1096,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>¡Error!</translation>
     </message>
     <message>
-        <source>You can't delete the default design.</source>
+        <source>You can&apos;t delete the default design.</source>
         <translation>No se puede eliminar el diseño predeterminado.</translation>
     </message>
     <message>
@@ -986,6 +1141,188 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Discount</source>
         <translation>Descuento</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::DiscountPopover</name>
+    <message>
+        <source>Discount</source>
+        <translation>Descuento</translation>
+    </message>
+    <message>
+        <source>Show s&amp;ubtitle</source>
+        <translation>&amp;Mostrar subtítulo</translation>
+    </message>
+    <message>
+        <source>Fixed amount</source>
+        <translation>Importe fijo</translation>
+    </message>
+    <message>
+        <source>Percentage of the total</source>
+        <translation>Porcentaje del total</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Subtítulo:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>T&amp;ipo:</translation>
+    </message>
+    <message>
+        <source>&amp;Percent:</source>
+        <translation>&amp;Porcentaje:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>Impo&amp;rte:</translation>
+    </message>
+    <message>
+        <source>&amp;No Discount</source>
+        <translation>Si&amp;n descuento</translation>
+    </message>
+    <message>
+        <source>&amp;Give Discount</source>
+        <translation>&amp;Aplicar descuento</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::DocumentEditor</name>
+    <message>
+        <source>No document is selected.</source>
+        <translation>No hay ningún documento seleccionado.</translation>
+    </message>
+    <message>
+        <source>This invoice is marked as sent, so it cannot be changed. Set its status back to &quot;Created&quot; to change it.</source>
+        <translation>Esta factura está marcada como enviada, por lo que no se puede modificar. Vuelva a poner su estado en «Creada» para modificarla.</translation>
+    </message>
+    <message>
+        <source>Change Title</source>
+        <translation>Cambiar título</translation>
+    </message>
+    <message>
+        <source>Change Subtitle</source>
+        <translation>Cambiar subtítulo</translation>
+    </message>
+    <message>
+        <source>Change Subject</source>
+        <translation>Cambiar asunto</translation>
+    </message>
+    <message>
+        <source>Change Address</source>
+        <translation>Cambiar dirección</translation>
+    </message>
+    <message>
+        <source>Change E-mail Address</source>
+        <translation>Cambiar dirección de correo</translation>
+    </message>
+    <message>
+        <source>Change Client Number</source>
+        <translation>Cambiar número de cliente</translation>
+    </message>
+    <message>
+        <source>Change Number</source>
+        <translation>Cambiar número</translation>
+    </message>
+    <message>
+        <source>Change Date</source>
+        <translation>Cambiar fecha</translation>
+    </message>
+    <message>
+        <source>Change Due Date</source>
+        <translation>Cambiar vencimiento</translation>
+    </message>
+    <message>
+        <source>Change Status</source>
+        <translation>Cambiar estado</translation>
+    </message>
+    <message>
+        <source>Change Paid Date</source>
+        <translation>Cambiar fecha de pago</translation>
+    </message>
+    <message>
+        <source>Change Paid Amount</source>
+        <translation>Cambiar importe pagado</translation>
+    </message>
+    <message>
+        <source>Change Dispatched</source>
+        <translation>Cambiar despacho</translation>
+    </message>
+    <message>
+        <source>Change Dispatch Number</source>
+        <translation>Cambiar número de despacho</translation>
+    </message>
+    <message>
+        <source>Change Currency</source>
+        <translation>Cambiar moneda</translation>
+    </message>
+    <message>
+        <source>Change Notes</source>
+        <translation>Cambiar notas</translation>
+    </message>
+    <message>
+        <source>Change Conditions</source>
+        <translation>Cambiar condiciones</translation>
+    </message>
+    <message>
+        <source>Change Footer</source>
+        <translation>Cambiar pie de página</translation>
+    </message>
+    <message>
+        <source>Change Quantity</source>
+        <translation>Cambiar cantidad</translation>
+    </message>
+    <message>
+        <source>Change Unit</source>
+        <translation>Cambiar unidad</translation>
+    </message>
+    <message>
+        <source>Change Price</source>
+        <translation>Cambiar precio</translation>
+    </message>
+    <message>
+        <source>Change SKU</source>
+        <translation>Cambiar referencia</translation>
+    </message>
+    <message>
+        <source>Change Note</source>
+        <translation>Cambiar nota</translation>
+    </message>
+    <message>
+        <source>Change Tax</source>
+        <translation>Cambiar impuesto</translation>
+    </message>
+    <message>
+        <source>Shipping</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>Discount</source>
+        <translation>Descuento</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Cambiar</translation>
+    </message>
+    <message>
+        <source>Change Buyer Country</source>
+        <translation>Cambiar país del comprador</translation>
+    </message>
+    <message>
+        <source>Change Buyer VAT ID</source>
+        <translation>Cambiar NIF-IVA del comprador</translation>
+    </message>
+    <message>
+        <source>Change Buyer Reference</source>
+        <translation>Cambiar referencia del comprador</translation>
+    </message>
+    <message>
+        <source>Change Order Reference</source>
+        <translation>Cambiar referencia del pedido</translation>
     </message>
 </context>
 <context>
@@ -1041,6 +1378,160 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Status</source>
         <translation>Estado</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::EInvoiceController</name>
+    <message>
+        <source>No invoice is selected.</source>
+        <translation>No hay ninguna factura seleccionada.</translation>
+    </message>
+    <message>
+        <source>The invoice changed while its PDF was made.</source>
+        <translation>La factura ha cambiado mientras se creaba su PDF.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written because a file of that name already exists.</source>
+        <translation>No se ha podido escribir «%1» porque ya existe un archivo con ese nombre.</translation>
+    </message>
+    <message>
+        <source>Choose another name, or move the existing file aside, and try again.</source>
+        <translation>Elija otro nombre o aparte el archivo existente y vuelva a intentarlo.</translation>
+    </message>
+    <message>
+        <source>The e-invoice cannot be made</source>
+        <translation>No se puede crear la factura electrónica</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Export As XRechnung XML</source>
+        <translation>Exportar como XML XRechnung</translation>
+    </message>
+    <message>
+        <source>Export As E-Invoice (Factur-X PDF)</source>
+        <translation>Exportar como factura electrónica (PDF Factur-X)</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::EInvoiceValidator</name>
+    <message>
+        <source>Only invoices can be sent as e-invoices; this is a quote.</source>
+        <translation>Solo las facturas pueden enviarse como factura electrónica; esto es un presupuesto.</translation>
+    </message>
+    <message>
+        <source>The invoice&apos;s currency is missing.</source>
+        <translation>Falta la moneda de la factura.</translation>
+    </message>
+    <message>
+        <source>The currency “%1” has no ISO code: write it as a three-letter code such as EUR.</source>
+        <translation>La moneda «%1» no tiene código ISO: escríbala como un código de tres letras, como EUR.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s country is missing.</source>
+        <translation>Falta el país del vendedor.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s country “%1” is not a two-letter country code such as DE.</source>
+        <translation>El país del vendedor «%1» no es un código de país de dos letras, como ES.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s VAT identifier or tax number is missing.</source>
+        <translation>Falta el NIF-IVA o el número fiscal del vendedor.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s VAT identifier “%1” must begin with its country code, as in DE123456789.</source>
+        <translation>El NIF-IVA del vendedor «%1» debe empezar por su código de país, como en DE123456789.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s IBAN is missing.</source>
+        <translation>Falta el IBAN del vendedor.</translation>
+    </message>
+    <message>
+        <source>The IBAN “%1” is not valid: its length or check digits are wrong.</source>
+        <translation>El IBAN «%1» no es válido: su longitud o sus dígitos de control son incorrectos.</translation>
+    </message>
+    <message>
+        <source>The BIC “%1” is not valid: it has 8 or 11 letters and digits.</source>
+        <translation>El BIC «%1» no es válido: tiene 8 u 11 letras y dígitos.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country is missing.</source>
+        <translation>Falta el país del comprador.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country “%1” is not a two-letter country code such as DE.</source>
+        <translation>El país del comprador «%1» no es un código de país de dos letras, como ES.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s VAT identifier “%1” must begin with its country code, as in FR12345678901.</source>
+        <translation>El NIF-IVA del comprador «%1» debe empezar por su código de país, como en FR12345678901.</translation>
+    </message>
+    <message>
+        <source>The invoice has no items.</source>
+        <translation>La factura no tiene artículos.</translation>
+    </message>
+    <message>
+        <source>Item %1 has no description.</source>
+        <translation>El artículo %1 no tiene descripción.</translation>
+    </message>
+    <message>
+        <source>The invoice total must be more than zero: an invoice with a negative total is a credit note.</source>
+        <translation>El total de la factura debe ser mayor que cero: una factura con total negativo es una factura rectificativa.</translation>
+    </message>
+    <message>
+        <source>The invoice&apos;s amounts do not add up: change an item or recompute the invoice, then export it again.</source>
+        <translation>Los importes de la factura no cuadran: cambie un artículo o vuelva a calcular la factura y expórtela de nuevo.</translation>
+    </message>
+    <message>
+        <source>The invoice number is missing.</source>
+        <translation>Falta el número de factura.</translation>
+    </message>
+    <message>
+        <source>The invoice date is missing.</source>
+        <translation>Falta la fecha de la factura.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s legal name is missing.</source>
+        <translation>Falta la razón social del vendedor.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s street is missing.</source>
+        <translation>Falta la calle del vendedor.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s postcode is missing.</source>
+        <translation>Falta el código postal del vendedor.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s city is missing.</source>
+        <translation>Falta la ciudad del vendedor.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s name is missing: it is the first line of the address.</source>
+        <translation>Falta el nombre del comprador: es la primera línea de la dirección.</translation>
+    </message>
+    <message>
+        <source>The buyer reference (Leitweg-ID) is missing.</source>
+        <translation>Falta la referencia del comprador (Leitweg-ID).</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s contact e-mail is missing.</source>
+        <translation>Falta el correo de contacto del vendedor.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s contact phone is missing.</source>
+        <translation>Falta el teléfono de contacto del vendedor.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s e-mail address is missing.</source>
+        <translation>Falta la dirección de correo del comprador.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s postcode and city are missing: write them on the last line of the address, as in “10115 Berlin”.</source>
+        <translation>Faltan el código postal y la ciudad del comprador: escríbalos en la última línea de la dirección, como en «28001 Madrid».</translation>
     </message>
 </context>
 <context>
@@ -1158,6 +1649,57 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::FilterPopover</name>
+    <message>
+        <source>All Documents</source>
+        <translation>Todos los documentos</translation>
+    </message>
+    <message>
+        <source>Sent Invoices</source>
+        <translation>Facturas enviadas</translation>
+    </message>
+    <message>
+        <source>Overdue Invoices</source>
+        <translation>Facturas vencidas</translation>
+    </message>
+    <message>
+        <source>Paid Invoices</source>
+        <translation>Facturas pagadas</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Presupuestos</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message>
+        <source>This Week</source>
+        <translation>Esta semana</translation>
+    </message>
+    <message>
+        <source>This Month</source>
+        <translation>Este mes</translation>
+    </message>
+    <message>
+        <source>This Year</source>
+        <translation>Este año</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
+    <message>
+        <source>Dated within</source>
+        <translation>Período</translation>
+    </message>
+</context>
+<context>
     <name>vorn::GUIController</name>
     <message>
         <source>Delete Invoice</source>
@@ -1166,6 +1708,14 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Delete Quote</source>
         <translation>Eliminar presupuesto</translation>
+    </message>
+    <message>
+        <source>No calculator found</source>
+        <translation>No se ha encontrado ninguna calculadora</translation>
+    </message>
+    <message>
+        <source>Vorn starts GNOME Calculator, KCalc, Galculator or Qalculate, but none of them is installed.</source>
+        <translation>Vorn abre Calculadora de GNOME, KCalc, Galculator o Qalculate, pero ninguna está instalada.</translation>
     </message>
 </context>
 <context>
@@ -1248,13 +1798,180 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::InfoPage</name>
+    <message>
+        <source>Info</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Number</source>
+        <translation>Número &amp;siguiente</translation>
+    </message>
+    <message>
+        <source>Next number</source>
+        <translation>Número siguiente</translation>
+    </message>
+    <message>
+        <source>Number this document from the numbering pattern</source>
+        <translation>Numerar este documento según el patrón de numeración</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Número:</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Número</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Fecha:</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Fecha</translation>
+    </message>
+    <message>
+        <source> days from today</source>
+        <translation> días a partir de hoy</translation>
+    </message>
+    <message>
+        <source>Due in days from today</source>
+        <translation>Vence en días a partir de hoy</translation>
+    </message>
+    <message>
+        <source>D&amp;ue date:</source>
+        <translation>&amp;Vencimiento:</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Vencimiento</translation>
+    </message>
+    <message>
+        <source>&amp;Status:</source>
+        <translation>&amp;Estado:</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Paid amount</source>
+        <translation>Importe pagado</translation>
+    </message>
+    <message>
+        <source>Paid &amp;amount:</source>
+        <translation>&amp;Importe pagado:</translation>
+    </message>
+    <message>
+        <source>&amp;Paid on:</source>
+        <translation>&amp;Pagada el:</translation>
+    </message>
+    <message>
+        <source>Paid on</source>
+        <translation>Pagada el</translation>
+    </message>
+    <message>
+        <source>D&amp;ispatched</source>
+        <translation>&amp;Despachada</translation>
+    </message>
+    <message>
+        <source>Dispatch number</source>
+        <translation>Número de despacho</translation>
+    </message>
+    <message>
+        <source>Stamp &amp;Now</source>
+        <translation>&amp;Ahora</translation>
+    </message>
+    <message>
+        <source>Mark as dispatched now</source>
+        <translation>Marcar como despachada ahora</translation>
+    </message>
+    <message>
+        <source>Dispatch:</source>
+        <translation>Despacho:</translation>
+    </message>
+    <message>
+        <source>Dispatched</source>
+        <translation>Despachada</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>&amp;Moneda:</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Moneda</translation>
+    </message>
+    <message>
+        <source>N&amp;otes:</source>
+        <translation>N&amp;otas:</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions:</source>
+        <translation>&amp;Condiciones:</translation>
+    </message>
+    <message>
+        <source>&amp;Footer:</source>
+        <translation>Pie de pá&amp;gina:</translation>
+    </message>
+    <message>
+        <source>Quotes are not paid; convert the quote into an invoice first.</source>
+        <translation>Los presupuestos no se pagan; convierta primero el presupuesto en factura.</translation>
+    </message>
+    <message>
+        <source>E-Invoice</source>
+        <translation>Factura electrónica</translation>
+    </message>
+    <message>
+        <source>e.g. DE</source>
+        <translation>p. ej. ES</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country as a two-letter code</source>
+        <translation>El país del comprador como código de dos letras</translation>
+    </message>
+    <message>
+        <source>Buyer countr&amp;y:</source>
+        <translation>País de&amp;l comprador:</translation>
+    </message>
+    <message>
+        <source>Buyer country</source>
+        <translation>País del comprador</translation>
+    </message>
+    <message>
+        <source>&amp;Buyer VAT ID:</source>
+        <translation>NIF-IVA del comp&amp;rador:</translation>
+    </message>
+    <message>
+        <source>Buyer VAT ID</source>
+        <translation>NIF-IVA del comprador</translation>
+    </message>
+    <message>
+        <source>The reference the buyer gave, for public bodies their Leitweg-ID</source>
+        <translation>La referencia que dio el comprador; para organismos públicos alemanes, su Leitweg-ID</translation>
+    </message>
+    <message>
+        <source>Buyer reference (&amp;Leitweg-ID):</source>
+        <translation>Referencia del comprador (Leit&amp;weg-ID):</translation>
+    </message>
+    <message>
+        <source>Order &amp;reference:</source>
+        <translation>Referencia de s&amp;u pedido:</translation>
+    </message>
+</context>
+<context>
     <name>vorn::InterchangeController</name>
     <message>
         <source>Warning!</source>
         <translation>¡Atención!</translation>
     </message>
     <message>
-        <source>The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
+        <source>The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by design it can&apos;t know or care about duplicate invoices, messed up numbers, or if you&apos;re having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
         <translation>La integridad de sus datos es responsabilidad suya, y solo suya. Vorn no es más que una simple aplicación y, por diseño, no puede saber ni preocuparse de si hay facturas duplicadas, números desordenados o si usted tiene un mal día. Así que hágase un favor y compruebe bien lo que está haciendo. ¿Aún quiere importar la factura?</translation>
     </message>
     <message>
@@ -1314,10 +2031,170 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ItemPopover</name>
+    <message>
+        <source>New Item</source>
+        <translation>Nuevo artículo</translation>
+    </message>
+    <message>
+        <source>Item source</source>
+        <translation>Origen del artículo</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Subtítulo:</translation>
+    </message>
+    <message>
+        <source>&amp;Quantity:</source>
+        <translation>&amp;Cantidad:</translation>
+    </message>
+    <message>
+        <source>U&amp;nit:</source>
+        <translation>&amp;Unidad:</translation>
+    </message>
+    <message>
+        <source>Unit &amp;price:</source>
+        <translation>&amp;Precio unitario:</translation>
+    </message>
+    <message>
+        <source>S&amp;KU:</source>
+        <translation>&amp;Referencia:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>&amp;Nota:</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Impuesto %1</translation>
+    </message>
+    <message>
+        <source>Taxes:</source>
+        <translation>Impuestos:</translation>
+    </message>
+    <message>
+        <source>Recent Items</source>
+        <translation>Artículos recientes</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item</source>
+        <translation>&amp;Añadir artículo</translation>
+    </message>
+    <message>
+        <source>&amp;Use Item</source>
+        <translation>Usar artícul&amp;o</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemTableModel</name>
+    <message>
+        <source>Gross %1</source>
+        <translation>Bruto %1</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulo</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Cantidad</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unidad</translation>
+    </message>
+    <message>
+        <source>Unit Price</source>
+        <translation>Precio unitario</translation>
+    </message>
+    <message>
+        <source>Tax 1</source>
+        <translation>Impuesto 1</translation>
+    </message>
+    <message>
+        <source>Tax 2</source>
+        <translation>Impuesto 2</translation>
+    </message>
+    <message>
+        <source>Tax 3</source>
+        <translation>Impuesto 3</translation>
+    </message>
+    <message>
+        <source>Net</source>
+        <translation>Neto</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemsPage</name>
+    <message>
+        <source>Items</source>
+        <translation>Artículos</translation>
+    </message>
+    <message>
+        <source>Add Item…</source>
+        <translation>Añadir artículo…</translation>
+    </message>
+    <message>
+        <source>Delete Item</source>
+        <translation>Eliminar artículo</translation>
+    </message>
+    <message>
+        <source>Shipping…</source>
+        <translation>Envío…</translation>
+    </message>
+    <message>
+        <source>Discount…</source>
+        <translation>Descuento…</translation>
+    </message>
+    <message>
+        <source>Subtotal %1</source>
+        <translation>Subtotal %1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Impuesto %1</translation>
+    </message>
+    <message>
+        <source>Shipping %1</source>
+        <translation>Envío %1</translation>
+    </message>
+    <message>
+        <source>Discount %1 %</source>
+        <translation>Descuento %1 %</translation>
+    </message>
+    <message>
+        <source>Discount %1</source>
+        <translation>Descuento %1</translation>
+    </message>
+    <message>
+        <source>Total %1 %2</source>
+        <translation>Total %1 %2</translation>
+    </message>
+</context>
+<context>
     <name>vorn::LineNumberRuler</name>
     <message>
         <source>Line numbers</source>
         <translation>Números de línea</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::LockBanner</name>
+    <message>
+        <source>This invoice is marked as sent, so its fields are read-only. To change it, set its status back to &quot;Created&quot; on the Info page.</source>
+        <translation>Esta factura está marcada como enviada, por lo que sus campos son de solo lectura. Para modificarla, vuelva a poner su estado en «Creada» en la página Información.</translation>
     </message>
 </context>
 <context>
@@ -1332,7 +2209,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
     <message>
         <source>&amp;Quit Vorn</source>
-        <translation>&amp;Salir de Vorn</translation>
+        <translation>Salir de V&amp;orn</translation>
     </message>
     <message>
         <source>&amp;Undo</source>
@@ -1408,7 +2285,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
     <message>
         <source>&amp;Import Document…</source>
-        <translation>&amp;Importar documento…</translation>
+        <translation>I&amp;mportar documento…</translation>
     </message>
     <message>
         <source>Export &amp;Listed Documents as XML…</source>
@@ -1515,12 +2392,142 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>Total %1    Paid %2    Due %3</source>
-        <translation>Total %1    Pagado %2    Pendiente %3</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>Preferencias…</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>&amp;Ver</translation>
+    </message>
+    <message>
+        <source>&amp;Items</source>
+        <translation>Artíc&amp;ulos</translation>
+    </message>
+    <message>
+        <source>&amp;Calculator</source>
+        <translation>Ca&amp;lculadora</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+K</source>
+        <translation>Ctrl+Shift+K</translation>
+    </message>
+    <message>
+        <source>Calculator</source>
+        <translation>Calculadora</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Address…</source>
+        <translation>&amp;Seleccionar dirección…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item…</source>
+        <translation>&amp;Añadir artículo…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+I</source>
+        <translation>Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Item</source>
+        <translation>&amp;Eliminar artículo</translation>
+    </message>
+    <message>
+        <source>Ctrl+Backspace</source>
+        <translation>Ctrl+Backspace</translation>
+    </message>
+    <message>
+        <source>&amp;Shipping…</source>
+        <translation>E&amp;nvío…</translation>
+    </message>
+    <message>
+        <source>D&amp;iscount…</source>
+        <translation>&amp;Descuento…</translation>
+    </message>
+    <message>
+        <source>&amp;Filter List…</source>
+        <translation>&amp;Filtrar la lista…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+F</source>
+        <translation>Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Artículos</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Información</translation>
+    </message>
+    <message>
+        <source>Show the %1 page</source>
+        <translation>Mostrar la página «%1»</translation>
+    </message>
+    <message>
+        <source>Export as E-Invoice (&amp;Factur-X PDF)…</source>
+        <translation>Exportar como factura &amp;electrónica (PDF Factur-X)…</translation>
+    </message>
+    <message>
+        <source>Export as XRec&amp;hnung XML…</source>
+        <translation>Exportar como XML XRec&amp;hnung…</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documentos</translation>
+    </message>
+    <message>
+        <source>Select a document in the list, or make a new invoice or quote.</source>
+        <translation>Seleccione un documento de la lista o cree una factura o un presupuesto nuevos.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Showing %1</source>
+        <translation>Mostrando: %1</translation>
+    </message>
+    <message>
+        <source>Showing all documents</source>
+        <translation>Se muestran todos los documentos</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtro: %1</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation>Filtrar la lista</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Deshacer</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Deshacer %1</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rehacer %1</translation>
+    </message>
+    <message>
+        <source>Total %1
+Paid %2 · Due %3</source>
+        <translation>Total %1
+Pagado %2 · Pendiente %3</translation>
     </message>
 </context>
 <context>
@@ -1746,10 +2753,13 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <source>The preview could not be made: %1</source>
         <translation>No se pudo crear la vista previa: %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n page(s)</source>
-        <translation>
-            <numerusform>%n página</numerusform><numerusform>%n páginas</numerusform></translation>
+    <message>
+        <source>1 page</source>
+        <translation>1 página</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 páginas</translation>
     </message>
 </context>
 <context>
@@ -2011,7 +3021,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>Imprimir números de página</translation>
     </message>
     <message>
-        <source>Print the document's details beside the page numbers</source>
+        <source>Print the document&apos;s details beside the page numbers</source>
         <translation>Imprimir los datos del documento junto a los números de página</translation>
     </message>
     <message>
@@ -2105,6 +3115,66 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Client counter offset:</source>
         <translation>Desfase del contador de clientes:</translation>
+    </message>
+    <message>
+        <source>E-invoices</source>
+        <translation>Facturas electrónicas</translation>
+    </message>
+    <message>
+        <source>Le&amp;gal name:</source>
+        <translation>Ra&amp;zón social:</translation>
+    </message>
+    <message>
+        <source>S&amp;treet:</source>
+        <translation>Ca&amp;lle:</translation>
+    </message>
+    <message>
+        <source>&amp;Postcode:</source>
+        <translation>Código &amp;postal:</translation>
+    </message>
+    <message>
+        <source>C&amp;ity:</source>
+        <translation>Ciu&amp;dad:</translation>
+    </message>
+    <message>
+        <source>Co&amp;untry code:</source>
+        <translation>Código de paí&amp;s:</translation>
+    </message>
+    <message>
+        <source>&amp;VAT identifier:</source>
+        <translation>Número de I&amp;VA:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;x number:</source>
+        <translation>Número &amp;fiscal:</translation>
+    </message>
+    <message>
+        <source>Contact &amp;e-mail:</source>
+        <translation>Correo de c&amp;ontacto:</translation>
+    </message>
+    <message>
+        <source>Contact p&amp;hone:</source>
+        <translation>&amp;Teléfono de contacto:</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Pagos</translation>
+    </message>
+    <message>
+        <source>&amp;IBAN:</source>
+        <translation>&amp;IBAN:</translation>
+    </message>
+    <message>
+        <source>&amp;BIC:</source>
+        <translation>&amp;BIC:</translation>
+    </message>
+    <message>
+        <source>Account &amp;holder:</source>
+        <translation>Titular de la cue&amp;nta:</translation>
+    </message>
+    <message>
+        <source>Export invoices as Factur-X PDF (e-invoice)</source>
+        <translation>Exportar las facturas como PDF Factur-X (factura electrónica)</translation>
     </message>
 </context>
 <context>
@@ -2262,6 +3332,57 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ShippingPopover</name>
+    <message>
+        <source>Shipping</source>
+        <translation>Envío</translation>
+    </message>
+    <message>
+        <source>Shipping source</source>
+        <translation>Origen del envío</translation>
+    </message>
+    <message>
+        <source>Show s&amp;ubtitle</source>
+        <translation>&amp;Mostrar subtítulo</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Título:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Subtítulo:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>Impo&amp;rte:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>&amp;Nota:</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Impuesto %1</translation>
+    </message>
+    <message>
+        <source>Taxes:</source>
+        <translation>Impuestos:</translation>
+    </message>
+    <message>
+        <source>Recent Shipping</source>
+        <translation>Envíos recientes</translation>
+    </message>
+    <message>
+        <source>&amp;No Shipping</source>
+        <translation>Sin &amp;envío</translation>
+    </message>
+    <message>
+        <source>&amp;Charge Shipping</source>
+        <translation>&amp;Cobrar envío</translation>
+    </message>
+</context>
+<context>
     <name>vorn::TemplateEditor</name>
     <message>
         <source>Indent</source>
@@ -2366,7 +3487,7 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>No se pudo cargar la lista de versiones disponibles. Compruebe su conexión a Internet y vuelva a intentarlo más tarde.</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
+        <source>You&apos;re up to date!</source>
         <translation>¡Está al día!</translation>
     </message>
     <message>

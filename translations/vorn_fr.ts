@@ -5,11 +5,22 @@
     <name>AtomicFile</name>
     <message>
         <source>The folder “%1” could not be created.</source>
-        <translation>Le dossier « %1 » n’a pas pu être créé.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n’a pas pu être créé.</translation>
     </message>
     <message>
         <source>The file “%1” could not be written.</source>
-        <translation>Le fichier « %1 » n’a pas pu être écrit.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être écrit.</translation>
+    </message>
+</context>
+<context>
+    <name>CiiSummary</name>
+    <message>
+        <source>The amount %1 of the e-invoice is not a number.</source>
+        <translation>Le montant %1 de la facture électronique n’est pas un nombre.</translation>
+    </message>
+    <message>
+        <source>The e-invoice could not be read: %1</source>
+        <translation>La facture électronique n’a pas pu être lue&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -33,6 +44,44 @@
     <message>
         <source>Third Tax</source>
         <translation>Troisième taxe</translation>
+    </message>
+</context>
+<context>
+    <name>EInvoiceData</name>
+    <message>
+        <source>No tax charged</source>
+        <translation>Aucune taxe facturée</translation>
+    </message>
+    <message>
+        <source>Shipping</source>
+        <translation>Livraison</translation>
+    </message>
+    <message>
+        <source>Discount of %1 % on the total</source>
+        <translation>Remise de %1&#xa0;% sur le total</translation>
+    </message>
+    <message>
+        <source>Discount on the total</source>
+        <translation>Remise sur le total</translation>
+    </message>
+    <message>
+        <source>The amounts are computed without rounding and printed to the cent; the VAT computed per rate from the rounded line amounts differs from the printed total by %1 %2, given as the rounding amount.</source>
+        <translation>Les montants sont calculés sans arrondi et imprimés au centime près&#xa0;; la TVA calculée par taux à partir des montants arrondis des lignes diffère du total imprimé de %1 %2, indiqués comme montant d’arrondi.</translation>
+    </message>
+</context>
+<context>
+    <name>FacturX</name>
+    <message>
+        <source>The colour profile of PDF/A files is missing.</source>
+        <translation>Le profil colorimétrique des fichiers PDF/A est manquant.</translation>
+    </message>
+    <message>
+        <source>An encrypted PDF cannot become a PDF/A file.</source>
+        <translation>Un PDF chiffré ne peut pas devenir un fichier PDF/A.</translation>
+    </message>
+    <message>
+        <source>The PDF could not be made into a Factur-X file.</source>
+        <translation>Le PDF n’a pas pu être converti en fichier Factur-X.</translation>
     </message>
 </context>
 <context>
@@ -62,14 +111,14 @@
     </message>
     <message>
         <source>The lock file “%1” cannot be created.</source>
-        <translation>Le fichier de verrou « %1 » ne peut pas être créé.</translation>
+        <translation>Le fichier de verrou «&#xa0;%1&#xa0;» ne peut pas être créé.</translation>
     </message>
 </context>
 <context>
     <name>InterchangeFile</name>
     <message>
         <source>The file “%1” could not be opened.</source>
-        <translation>Le fichier « %1 » n’a pas pu être ouvert.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être ouvert.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -77,11 +126,11 @@
     </message>
     <message>
         <source>The file “%1” is too large to be a Vorn file.</source>
-        <translation>Le fichier « %1 » est trop volumineux pour être un fichier Vorn.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est trop volumineux pour être un fichier Vorn.</translation>
     </message>
     <message>
         <source>The file “%1” could not be read.</source>
-        <translation>Le fichier « %1 » n’a pas pu être lu.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être lu.</translation>
     </message>
     <message>
         <source>The file is not a Vorn design.</source>
@@ -100,7 +149,7 @@
     </message>
     <message>
         <source>The file holds an object of an unknown class, “%1”.</source>
-        <translation>Le fichier contient un objet d’une classe inconnue, « %1 ».</translation>
+        <translation>Le fichier contient un objet d’une classe inconnue, «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>The file is an archive of an unknown kind.</source>
@@ -114,15 +163,15 @@
 <context>
     <name>Logo</name>
     <message>
-        <source>&lt;small&gt;&lt;small&gt;Please provide a 'Logo Image' in the Preferences&lt;br /&gt;or remove the 'LOGO' substitute from the design/template.&lt;/small&gt;&lt;/small&gt;</source>
-        <translation>&lt;small&gt;&lt;small&gt;Veuillez indiquer une « image de logo » dans les préférences&lt;br /&gt;ou retirer le substitut « LOGO » du modèle.&lt;/small&gt;&lt;/small&gt;</translation>
+        <source>&lt;small&gt;&lt;small&gt;Please provide a &apos;Logo Image&apos; in the Preferences&lt;br /&gt;or remove the &apos;LOGO&apos; substitute from the design/template.&lt;/small&gt;&lt;/small&gt;</source>
+        <translation>&lt;small&gt;&lt;small&gt;Veuillez indiquer une «&#xa0;image de logo&#xa0;» dans les préférences&lt;br /&gt;ou retirer le substitut «&#xa0;LOGO&#xa0;» du modèle.&lt;/small&gt;&lt;/small&gt;</translation>
     </message>
 </context>
 <context>
     <name>PdfImageView</name>
     <message>
         <source>The PDF “%1” could not be opened.</source>
-        <translation>Le PDF « %1 » n’a pas pu être ouvert.</translation>
+        <translation>Le PDF «&#xa0;%1&#xa0;» n’a pas pu être ouvert.</translation>
     </message>
 </context>
 <context>
@@ -190,7 +239,7 @@
     </message>
     <message>
         <source>The printer “%1” did not accept the job.</source>
-        <translation>L’imprimante « %1 » n’a pas accepté la tâche.</translation>
+        <translation>L’imprimante «&#xa0;%1&#xa0;» n’a pas accepté la tâche.</translation>
     </message>
     <message>
         <source>The document could not be printed.</source>
@@ -201,11 +250,11 @@
     <name>SentLock</name>
     <message>
         <source>Error!</source>
-        <translation>Erreur !</translation>
+        <translation>Erreur&#xa0;!</translation>
     </message>
     <message>
-        <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to 'Created' first. Then you will also be able to resend the modified invoice.</source>
-        <translation>La facture sélectionnée est déjà marquée comme envoyée. Si vous devez vraiment la modifier, remettez d’abord son statut sur « Créée ». Vous pourrez alors aussi renvoyer la facture modifiée.</translation>
+        <source>The selected invoice is marked as already sent. If you really need to make changes, please set its status back to &apos;Created&apos; first. Then you will also be able to resend the modified invoice.</source>
+        <translation>La facture sélectionnée est déjà marquée comme envoyée. Si vous devez vraiment la modifier, remettez d’abord son statut sur «&#xa0;Créée&#xa0;». Vous pourrez alors aussi renvoyer la facture modifiée.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -240,11 +289,11 @@
     </message>
     <message>
         <source>it names an unknown kind of record, “%1”</source>
-        <translation>il nomme un type d’enregistrement inconnu, « %1 »</translation>
+        <translation>il nomme un type d’enregistrement inconnu, «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>a record of kind “%1” stands where a “%2” belongs</source>
-        <translation>un enregistrement de type « %1 » se trouve là où un « %2 » est attendu</translation>
+        <translation>un enregistrement de type «&#xa0;%1&#xa0;» se trouve là où un «&#xa0;%2&#xa0;» est attendu</translation>
     </message>
     <message>
         <source>its records are nested too deeply</source>
@@ -264,38 +313,38 @@
     </message>
     <message>
         <source>The file is damaged: %1.</source>
-        <translation>Le fichier est endommagé : %1.</translation>
+        <translation>Le fichier est endommagé&#xa0;: %1.</translation>
     </message>
     <message>
         <source>the value of “%1” (%2) is not %3</source>
-        <translation>la valeur de « %1 » (%2) n’est pas %3</translation>
+        <translation>la valeur de «&#xa0;%1&#xa0;» (%2) n’est pas %3</translation>
     </message>
 </context>
 <context>
     <name>SqliteStore</name>
     <message>
         <source>The Vorn database “%1” could not be read.</source>
-        <translation>La base de données Vorn « %1 » n’a pas pu être lue.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» n’a pas pu être lue.</translation>
     </message>
     <message>
         <source>The file “%1” is not a Vorn database.</source>
-        <translation>Le fichier « %1 » n’est pas une base de données Vorn.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’est pas une base de données Vorn.</translation>
     </message>
     <message>
         <source>The Vorn database “%1” is damaged and cannot be opened.</source>
-        <translation>La base de données Vorn « %1 » est endommagée et ne peut pas être ouverte.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» est endommagée et ne peut pas être ouverte.</translation>
     </message>
     <message>
         <source>The file is shorter than its contents require; it may have been cut off while copying.</source>
-        <translation>Le fichier est plus court que son contenu ne l’exige ; il a peut-être été tronqué lors d’une copie.</translation>
+        <translation>Le fichier est plus court que son contenu ne l’exige&#xa0;; il a peut-être été tronqué lors d’une copie.</translation>
     </message>
     <message>
         <source>The Vorn database “%1” could not be opened.</source>
-        <translation>La base de données Vorn « %1 » n’a pas pu être ouverte.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» n’a pas pu être ouverte.</translation>
     </message>
     <message>
-        <source>The Vorn database “%1” cannot be written: you don't have permission.</source>
-        <translation>La base de données Vorn « %1 » ne peut pas être écrite : vous n’en avez pas l’autorisation.</translation>
+        <source>The Vorn database “%1” cannot be written: you don&apos;t have permission.</source>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» ne peut pas être écrite&#xa0;: vous n’en avez pas l’autorisation.</translation>
     </message>
     <message>
         <source>The Vorn database is in use by another program.</source>
@@ -303,7 +352,7 @@
     </message>
     <message>
         <source>The Vorn database “%1” was made by a newer version of Vorn.</source>
-        <translation>La base de données Vorn « %1 » a été créée par une version plus récente de Vorn.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» a été créée par une version plus récente de Vorn.</translation>
     </message>
     <message>
         <source>This version of Vorn cannot read it. Use the newer version, or restore a backup made with this version.</source>
@@ -311,7 +360,7 @@
     </message>
     <message>
         <source>The Vorn database “%1” could not be created.</source>
-        <translation>La base de données Vorn « %1 » n’a pas pu être créée.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» n’a pas pu être créée.</translation>
     </message>
     <message>
         <source>The Vorn database could not be saved.</source>
@@ -319,11 +368,15 @@
     </message>
     <message>
         <source>The disk is full: the Vorn database could not be saved.</source>
-        <translation>Le disque est plein : la base de données Vorn n’a pas pu être enregistrée.</translation>
+        <translation>Le disque est plein&#xa0;: la base de données Vorn n’a pas pu être enregistrée.</translation>
     </message>
     <message>
         <source>Your changes are kept while Vorn runs and saved with the next change once there is space again; what was saved before is not lost. (%1)</source>
-        <translation>Vos modifications sont conservées tant que Vorn est ouvert et enregistrées avec la prochaine modification dès qu’il y aura de nouveau de la place ; ce qui a été enregistré auparavant n’est pas perdu. (%1)</translation>
+        <translation>Vos modifications sont conservées tant que Vorn est ouvert et enregistrées avec la prochaine modification dès qu’il y aura de nouveau de la place&#xa0;; ce qui a été enregistré auparavant n’est pas perdu. (%1)</translation>
+    </message>
+    <message>
+        <source>The Vorn database “%1” could not be brought up to date.</source>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» n’a pas pu être mise à jour.</translation>
     </message>
 </context>
 <context>
@@ -334,19 +387,19 @@
     </message>
     <message>
         <source>The copy “%1” could not be written.</source>
-        <translation>La copie « %1 » n’a pas pu être écrite.</translation>
+        <translation>La copie «&#xa0;%1&#xa0;» n’a pas pu être écrite.</translation>
     </message>
     <message>
         <source>The folder “%1” does not exist.</source>
-        <translation>Le dossier « %1 » n’existe pas.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n’existe pas.</translation>
     </message>
     <message>
         <source>The folder “%1” cannot be written to (%2).</source>
-        <translation>Impossible d’écrire dans le dossier « %1 » (%2).</translation>
+        <translation>Impossible d’écrire dans le dossier «&#xa0;%1&#xa0;» (%2).</translation>
     </message>
     <message>
         <source>The Vorn database “%1” could not be read.</source>
-        <translation>La base de données Vorn « %1 » n’a pas pu être lue.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» n’a pas pu être lue.</translation>
     </message>
     <message>
         <source>The copy could not be flushed to disk.</source>
@@ -358,30 +411,30 @@
     </message>
     <message>
         <source>The Vorn database “%1” could not be opened.</source>
-        <translation>La base de données Vorn « %1 » n’a pas pu être ouverte.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» n’a pas pu être ouverte.</translation>
     </message>
     <message>
         <source>The Vorn database “%1” is damaged.</source>
-        <translation>La base de données Vorn « %1 » est endommagée.</translation>
+        <translation>La base de données Vorn «&#xa0;%1&#xa0;» est endommagée.</translation>
     </message>
     <message>
-        <source>SQLite's integrity check found: %1</source>
-        <translation>La vérification d’intégrité de SQLite a trouvé : %1</translation>
+        <source>SQLite&apos;s integrity check found: %1</source>
+        <translation>La vérification d’intégrité de SQLite a trouvé&#xa0;: %1</translation>
     </message>
     <message>
         <source>The file “%1” could not be put in place.</source>
-        <translation>Le fichier « %1 » n’a pas pu être mis en place.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être mis en place.</translation>
     </message>
 </context>
 <context>
     <name>SyntaxDefinition</name>
     <message>
         <source>The syntax definition “%1” is missing.</source>
-        <translation>La définition de syntaxe « %1 » est introuvable.</translation>
+        <translation>La définition de syntaxe «&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>The syntax definition “%1” is damaged.</source>
-        <translation>La définition de syntaxe « %1 » est endommagée.</translation>
+        <translation>La définition de syntaxe «&#xa0;%1&#xa0;» est endommagée.</translation>
     </message>
 </context>
 <context>
@@ -392,7 +445,7 @@
     </message>
     <message>
         <source>the card beginning on line %1 has no end; it was read as far as it goes.</source>
-        <translation>la fiche commençant à la ligne %1 n’a pas de fin ; elle a été lue aussi loin que possible.</translation>
+        <translation>la fiche commençant à la ligne %1 n’a pas de fin&#xa0;; elle a été lue aussi loin que possible.</translation>
     </message>
     <message>
         <source>text outside of any card was ignored.</source>
@@ -404,23 +457,23 @@
     </message>
     <message>
         <source>card %1: line %2 is longer than the reader accepts and was skipped.</source>
-        <translation>fiche %1 : la ligne %2 dépasse la longueur acceptée et a été ignorée.</translation>
+        <translation>fiche %1&#xa0;: la ligne %2 dépasse la longueur acceptée et a été ignorée.</translation>
     </message>
     <message>
         <source>card %1: line %2 is not a property and was skipped.</source>
-        <translation>fiche %1 : la ligne %2 n’est pas une propriété et a été ignorée.</translation>
+        <translation>fiche %1&#xa0;: la ligne %2 n’est pas une propriété et a été ignorée.</translation>
     </message>
     <message>
         <source>card %1 has more than %2 properties; the rest were skipped.</source>
-        <translation>la fiche %1 a plus de %2 propriétés ; les autres ont été ignorées.</translation>
+        <translation>la fiche %1 a plus de %2 propriétés&#xa0;; les autres ont été ignorées.</translation>
     </message>
     <message>
         <source>card %1 (line %2) uses the unknown character set “%3” and was skipped.</source>
-        <translation>la fiche %1 (ligne %2) utilise le jeu de caractères inconnu « %3 » et a été ignorée.</translation>
+        <translation>la fiche %1 (ligne %2) utilise le jeu de caractères inconnu «&#xa0;%3&#xa0;» et a été ignorée.</translation>
     </message>
     <message>
         <source>larger than %1 MB; only the contacts in the first %1 MB were read.</source>
-        <translation>dépasse %1 Mo ; seuls les contacts des %1 premiers Mo ont été lus.</translation>
+        <translation>dépasse %1 Mo&#xa0;; seuls les contacts des %1 premiers Mo ont été lus.</translation>
     </message>
     <message>
         <source>cannot be read (%1).</source>
@@ -432,7 +485,7 @@
     </message>
     <message>
         <source>More than %1 contact files were found; only the first %1 were read.</source>
-        <translation>Plus de %1 fichiers de contacts ont été trouvés ; seuls les %1 premiers ont été lus.</translation>
+        <translation>Plus de %1 fichiers de contacts ont été trouvés&#xa0;; seuls les %1 premiers ont été lus.</translation>
     </message>
 </context>
 <context>
@@ -501,6 +554,108 @@
     </message>
 </context>
 <context>
+    <name>vorn::AddressPage</name>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>&amp;Choose Address…</source>
+        <translation>&amp;Choisir une adresse…</translation>
+    </message>
+    <message>
+        <source>Client &amp;address:</source>
+        <translation>&amp;Adresse du client&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Client address</source>
+        <translation>Adresse du client</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail:</source>
+        <translation>&amp;E-mail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Generate</source>
+        <translation>&amp;Générer</translation>
+    </message>
+    <message>
+        <source>Generate client number</source>
+        <translation>Générer un numéro de client</translation>
+    </message>
+    <message>
+        <source>Client &amp;number:</source>
+        <translation>&amp;Numéro de client&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Client number</source>
+        <translation>Numéro de client</translation>
+    </message>
+    <message>
+        <source>&amp;Subject:</source>
+        <translation>&amp;Objet&#xa0;:</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::AddressPopover</name>
+    <message>
+        <source>Client Address</source>
+        <translation>Adresse du client</translation>
+    </message>
+    <message>
+        <source>Address source</source>
+        <translation>Source de l’adresse</translation>
+    </message>
+    <message>
+        <source>Search contacts</source>
+        <translation>Rechercher dans les contacts</translation>
+    </message>
+    <message>
+        <source>Contacts</source>
+        <translation>Contacts</translation>
+    </message>
+    <message>
+        <source>Open Contacts Application</source>
+        <translation>Ouvrir l’application Contacts</translation>
+    </message>
+    <message>
+        <source>Recent Addresses</source>
+        <translation>Adresses récentes</translation>
+    </message>
+    <message>
+        <source>&amp;Generate</source>
+        <translation>&amp;Générer</translation>
+    </message>
+    <message>
+        <source>Generate client number</source>
+        <translation>Générer un numéro de client</translation>
+    </message>
+    <message>
+        <source>&amp;Address:</source>
+        <translation>&amp;Adresse&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;E-mail:</source>
+        <translation>&amp;E-mail&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Client &amp;number:</source>
+        <translation>&amp;Numéro de client&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Client number</source>
+        <translation>Numéro de client</translation>
+    </message>
+    <message>
+        <source>&amp;Use Address</source>
+        <translation>&amp;Utiliser l’adresse</translation>
+    </message>
+    <message>
+        <source>No contacts found. Vorn reads vCard files from the contacts folder set in the preferences.</source>
+        <translation>Aucun contact trouvé. Vorn lit les fichiers vCard du dossier de contacts défini dans les préférences.</translation>
+    </message>
+</context>
+<context>
     <name>vorn::AppDelegate</name>
     <message>
         <source>Expected a folder to store application data, found a file (%1).</source>
@@ -508,10 +663,10 @@
     </message>
     <message>
         <source>The folder “%1” could not be created.</source>
-        <translation>Le dossier « %1 » n’a pas pu être créé.</translation>
+        <translation>Le dossier «&#xa0;%1&#xa0;» n’a pas pu être créé.</translation>
     </message>
     <message>
-        <source>You don't have permission to create it.</source>
+        <source>You don&apos;t have permission to create it.</source>
         <translation>Vous n’avez pas l’autorisation de le créer.</translation>
     </message>
     <message>
@@ -524,15 +679,15 @@
     </message>
     <message>
         <source>The default settings “%1” are missing.</source>
-        <translation>Les réglages par défaut « %1 » sont introuvables.</translation>
+        <translation>Les réglages par défaut «&#xa0;%1&#xa0;» sont introuvables.</translation>
     </message>
     <message>
         <source>The default settings “%1” are damaged.</source>
-        <translation>Les réglages par défaut « %1 » sont endommagés.</translation>
+        <translation>Les réglages par défaut «&#xa0;%1&#xa0;» sont endommagés.</translation>
     </message>
     <message>
         <source>Could not save changes while quitting. Quit anyway?</source>
-        <translation>Les modifications n’ont pas pu être enregistrées en quittant. Quitter quand même ?</translation>
+        <translation>Les modifications n’ont pas pu être enregistrées en quittant. Quitter quand même&#xa0;?</translation>
     </message>
     <message>
         <source>Quitting now will lose any changes you have made since the last successful save</source>
@@ -551,8 +706,8 @@
         <translation>Vorn, les documents Vorn et la base de données Vorn</translation>
     </message>
     <message>
-        <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the 'File Menu' to open documents and to restore the Vorn database.</source>
-        <translation>Pour éviter les doublons et les incidents, et pour garder la base de données intacte, utilisez le menu « Fichier » pour ouvrir des documents et pour restaurer la base de données Vorn.</translation>
+        <source>In order to avoid duplicate entries, hiccups, and to keep the database intact - please use the &apos;File Menu&apos; to open documents and to restore the Vorn database.</source>
+        <translation>Pour éviter les doublons et les incidents, et pour garder la base de données intacte, utilisez le menu «&#xa0;Fichier&#xa0;» pour ouvrir des documents et pour restaurer la base de données Vorn.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -563,11 +718,11 @@
     <name>vorn::AssiController</name>
     <message>
         <source>Warning!</source>
-        <translation>Attention !</translation>
+        <translation>Attention&#xa0;!</translation>
     </message>
     <message>
-        <source>It seems that you've already setup Vorn and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
-        <translation>Il semble que vous ayez déjà configuré Vorn et lancé l’assistant de configuration au moins une fois. Le relancer supprimera toutes vos personnalisations et les remplacera par les valeurs par défaut. Voulez-vous vraiment continuer ?</translation>
+        <source>It seems that you&apos;ve already setup Vorn and have run the setup assistant at least once before. Doing this again will delete all your customizations and replace them with the default values. Do you really want to continue?</source>
+        <translation>Il semble que vous ayez déjà configuré Vorn et lancé l’assistant de configuration au moins une fois. Le relancer supprimera toutes vos personnalisations et les remplacera par les valeurs par défaut. Voulez-vous vraiment continuer&#xa0;?</translation>
     </message>
     <message>
         <source>Continue…</source>
@@ -583,11 +738,11 @@
     </message>
     <message>
         <source>Do you want to see the 30 second introduction video before creating your first invoice?</source>
-        <translation>Voulez-vous voir la vidéo de présentation de 30 secondes avant de créer votre première facture ?</translation>
+        <translation>Voulez-vous voir la vidéo de présentation de 30 secondes avant de créer votre première facture&#xa0;?</translation>
     </message>
     <message>
         <source>Yes, please!</source>
-        <translation>Oui, volontiers !</translation>
+        <translation>Oui, volontiers&#xa0;!</translation>
     </message>
     <message>
         <source>No, I prefer to suffer in silence.</source>
@@ -620,13 +775,13 @@
         <source>Choose your language. Vorn writes its default texts in it: the words printed on your invoices and quotes, the payment terms, the tax names and the number patterns. Its windows use it too.
 
 Running the assistant again replaces your own texts with these defaults.</source>
-        <translation>Choisissez votre langue. Vorn y rédige ses textes par défaut : les mots imprimés sur vos factures et devis, les conditions de paiement, les noms des taxes et les modèles de numérotation. Ses fenêtres l’utilisent aussi.
+        <translation>Choisissez votre langue. Vorn y rédige ses textes par défaut&#xa0;: les mots imprimés sur vos factures et devis, les conditions de paiement, les noms des taxes et les modèles de numérotation. Ses fenêtres l’utilisent aussi.
 
 Relancer l’assistant remplace vos propres textes par ces valeurs par défaut.</translation>
     </message>
     <message>
         <source>&amp;Language:</source>
-        <translation>&amp;Langue :</translation>
+        <translation>&amp;Langue&#xa0;:</translation>
     </message>
     <message>
         <source>Language</source>
@@ -634,11 +789,11 @@ Relancer l’assistant remplace vos propres textes par ces valeurs par défaut.<
     </message>
     <message>
         <source>Who writes the invoices? Your company name and your contact details go into your documents; you can change them later in the preferences.</source>
-        <translation>Qui rédige les factures ? Le nom de votre entreprise et vos coordonnées figurent dans vos documents ; vous pourrez les modifier plus tard dans les préférences.</translation>
+        <translation>Qui rédige les factures&#xa0;? Le nom de votre entreprise et vos coordonnées figurent dans vos documents&#xa0;; vous pourrez les modifier plus tard dans les préférences.</translation>
     </message>
     <message>
         <source>&amp;Company name:</source>
-        <translation>Nom de l’&amp;entreprise :</translation>
+        <translation>Nom de l’&amp;entreprise&#xa0;:</translation>
     </message>
     <message>
         <source>Company name</source>
@@ -646,7 +801,7 @@ Relancer l’assistant remplace vos propres textes par ces valeurs par défaut.<
     </message>
     <message>
         <source>C&amp;ontact:</source>
-        <translation>C&amp;oordonnées :</translation>
+        <translation>C&amp;oordonnées&#xa0;:</translation>
     </message>
     <message>
         <source>Contact</source>
@@ -666,7 +821,7 @@ Relancer l’assistant remplace vos propres textes par ces valeurs par défaut.<
     </message>
     <message>
         <source>&amp;E-mail:</source>
-        <translation>&amp;E-mail :</translation>
+        <translation>&amp;E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>E-mail address</source>
@@ -692,7 +847,7 @@ Relancer l’assistant remplace vos propres textes par ces valeurs par défaut.<
         <source>Vorn is ready. Create your first invoice with the New Invoice button.
 
 You find this assistant again in the Help menu.</source>
-        <translation>Vorn est prêt. Créez votre première facture avec le bouton « Nouvelle facture ».
+        <translation>Vorn est prêt. Créez votre première facture avec le bouton «&#xa0;Nouvelle facture&#xa0;».
 
 Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
@@ -728,8 +883,8 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
 <context>
     <name>vorn::BackupController</name>
     <message>
-        <source>It looks like your Vorn database got somehow corrupted or destroyed. Vorn can try to repair it or restore it from an internal backup. You should only proceed if you're sure that your database really is not intact, since this action will replace any possible data. Should Vorn not be able to repair or restore your database, please restore it from your own (Time Machine) backups. Do you want to proceed?</source>
-        <translation>Votre base de données Vorn semble endommagée ou détruite. Vorn peut essayer de la réparer ou de la restaurer à partir d’une sauvegarde interne. Ne continuez que si vous êtes sûr que votre base de données n’est vraiment plus intacte, car cette opération remplacera les données éventuellement présentes. Si Vorn ne parvient pas à réparer ou à restaurer votre base de données, restaurez-la à partir de vos propres sauvegardes (Time Machine). Voulez-vous continuer ?</translation>
+        <source>It looks like your Vorn database got somehow corrupted or destroyed. Vorn can try to repair it or restore it from an internal backup. You should only proceed if you&apos;re sure that your database really is not intact, since this action will replace any possible data. Should Vorn not be able to repair or restore your database, please restore it from your own (Time Machine) backups. Do you want to proceed?</source>
+        <translation>Votre base de données Vorn semble endommagée ou détruite. Vorn peut essayer de la réparer ou de la restaurer à partir d’une sauvegarde interne. Ne continuez que si vous êtes sûr que votre base de données n’est vraiment plus intacte, car cette opération remplacera les données éventuellement présentes. Si Vorn ne parvient pas à réparer ou à restaurer votre base de données, restaurez-la à partir de vos propres sauvegardes (Time Machine). Voulez-vous continuer&#xa0;?</translation>
     </message>
     <message>
         <source>There is no open Vorn database to back up.</source>
@@ -753,7 +908,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Warning!</source>
-        <translation>Attention !</translation>
+        <translation>Attention&#xa0;!</translation>
     </message>
     <message>
         <source>Proceed</source>
@@ -765,7 +920,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Error!</source>
-        <translation>Erreur !</translation>
+        <translation>Erreur&#xa0;!</translation>
     </message>
     <message>
         <source>No valid backup file available. Please restore your Vorn database from your own (Time Machine) backups.</source>
@@ -777,7 +932,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>You are about to restore your complete Vorn database from a backup. This will irretrievably replace any existing data. Do you really want to do that?</source>
-        <translation>Vous êtes sur le point de restaurer toute votre base de données Vorn à partir d’une sauvegarde. Toutes les données existantes seront remplacées de façon irréversible. Voulez-vous vraiment le faire ?</translation>
+        <translation>Vous êtes sur le point de restaurer toute votre base de données Vorn à partir d’une sauvegarde. Toutes les données existantes seront remplacées de façon irréversible. Voulez-vous vraiment le faire&#xa0;?</translation>
     </message>
     <message>
         <source>Restore…</source>
@@ -789,7 +944,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Nothing was changed: your Vorn database is as it was.</source>
-        <translation>Rien n’a été modifié : votre base de données Vorn est restée telle quelle.</translation>
+        <translation>Rien n’a été modifié&#xa0;: votre base de données Vorn est restée telle quelle.</translation>
     </message>
     <message>
         <source>There is no place to restore the Vorn database to.</source>
@@ -797,15 +952,15 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>The file “%1” is the Vorn database itself.</source>
-        <translation>Le fichier « %1 » est la base de données Vorn elle-même.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est la base de données Vorn elle-même.</translation>
     </message>
     <message>
         <source>The file “%1” could not be found.</source>
-        <translation>Le fichier « %1 » est introuvable.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>The file “%1” disappeared while it was being read.</source>
-        <translation>Le fichier « %1 » a disparu pendant sa lecture.</translation>
+        <translation>Le fichier «&#xa0;%1&#xa0;» a disparu pendant sa lecture.</translation>
     </message>
 </context>
 <context>
@@ -824,10 +979,10 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Sorry!</source>
-        <translation>Désolé !</translation>
+        <translation>Désolé&#xa0;!</translation>
     </message>
     <message>
-        <source>You can't convert an invoice into a quote.</source>
+        <source>You can&apos;t convert an invoice into a quote.</source>
         <translation>Impossible de convertir une facture en devis.</translation>
     </message>
     <message>
@@ -839,8 +994,8 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <translation>Convertir en facture</translation>
     </message>
     <message>
-        <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the counter for your invoice numbering and you can't undo this action.</source>
-        <translation>Voulez-vous vraiment convertir le devis sélectionné en facture ? Cela modifie aussi le titre et le compteur de votre numérotation des factures, et cette action est irréversible.</translation>
+        <source>Do you really want to convert the selected quote into an invoice? This will also change the title, the counter for your invoice numbering and you can&apos;t undo this action.</source>
+        <translation>Voulez-vous vraiment convertir le devis sélectionné en facture&#xa0;? Cela modifie aussi le titre et le compteur de votre numérotation des factures, et cette action est irréversible.</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -852,11 +1007,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Error!</source>
-        <translation>Erreur !</translation>
+        <translation>Erreur&#xa0;!</translation>
     </message>
     <message>
-        <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to 'Created' first.</source>
-        <translation>La facture sélectionnée est déjà marquée comme envoyée. Si vous devez vraiment la supprimer, remettez d’abord son statut sur « Créée ».</translation>
+        <source>The selected invoice is marked as already sent. If you really need to delete it, please set its status back to &apos;Created&apos; first.</source>
+        <translation>La facture sélectionnée est déjà marquée comme envoyée. Si vous devez vraiment la supprimer, remettez d’abord son statut sur «&#xa0;Créée&#xa0;».</translation>
     </message>
     <message>
         <source>Delete Invoice</source>
@@ -864,7 +1019,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Deleting invoices is permanent and cannot be undone. Do you really want to delete the selected invoice?</source>
-        <translation>La suppression d’une facture est définitive et irréversible. Voulez-vous vraiment supprimer la facture sélectionnée ?</translation>
+        <translation>La suppression d’une facture est définitive et irréversible. Voulez-vous vraiment supprimer la facture sélectionnée&#xa0;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -876,7 +1031,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Deleting quotes is permanent and cannot be undone. Do you really want to delete the selected quote?</source>
-        <translation>La suppression d’un devis est définitive et irréversible. Voulez-vous vraiment supprimer le devis sélectionné ?</translation>
+        <translation>La suppression d’un devis est définitive et irréversible. Voulez-vous vraiment supprimer le devis sélectionné&#xa0;?</translation>
     </message>
     <message>
         <source>Dispatched</source>
@@ -907,26 +1062,26 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>“%1” is too large for a logo.</source>
-        <translation>« %1 » est trop volumineux pour un logo.</translation>
+        <translation>«&#xa0;%1&#xa0;» est trop volumineux pour un logo.</translation>
     </message>
     <message>
         <source>“%1” could not be read.</source>
-        <translation>« %1 » n’a pas pu être lu.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être lu.</translation>
     </message>
     <message>
         <source>“%1” is not an image.</source>
-        <translation>« %1 » n’est pas une image.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’est pas une image.</translation>
     </message>
 </context>
 <context>
     <name>vorn::DesignController</name>
     <message>
         <source>The built-in design “%1” is missing.</source>
-        <translation>Le modèle intégré « %1 » est introuvable.</translation>
+        <translation>Le modèle intégré «&#xa0;%1&#xa0;» est introuvable.</translation>
     </message>
     <message>
         <source>The built-in design “%1” is damaged.</source>
-        <translation>Le modèle intégré « %1 » est endommagé.</translation>
+        <translation>Le modèle intégré «&#xa0;%1&#xa0;» est endommagé.</translation>
     </message>
     <message>
         <source>The texts of a new design are missing.</source>
@@ -938,10 +1093,10 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Error!</source>
-        <translation>Erreur !</translation>
+        <translation>Erreur&#xa0;!</translation>
     </message>
     <message>
-        <source>You can't delete the default design.</source>
+        <source>You can&apos;t delete the default design.</source>
         <translation>Impossible de supprimer le modèle par défaut.</translation>
     </message>
     <message>
@@ -954,7 +1109,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Deleting designs is permanent and cannot be undone. Do you really want to delete the selected design?</source>
-        <translation>La suppression d’un modèle est définitive et irréversible. Voulez-vous vraiment supprimer le modèle sélectionné ?</translation>
+        <translation>La suppression d’un modèle est définitive et irréversible. Voulez-vous vraiment supprimer le modèle sélectionné&#xa0;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -986,6 +1141,188 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Discount</source>
         <translation>Remise</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::DiscountPopover</name>
+    <message>
+        <source>Discount</source>
+        <translation>Remise</translation>
+    </message>
+    <message>
+        <source>Show s&amp;ubtitle</source>
+        <translation>Affic&amp;her le sous-titre</translation>
+    </message>
+    <message>
+        <source>Fixed amount</source>
+        <translation>Montant fixe</translation>
+    </message>
+    <message>
+        <source>Percentage of the total</source>
+        <translation>Pourcentage du total</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Sous-titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Kind:</source>
+        <translation>T&amp;ype&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Percent:</source>
+        <translation>&amp;Pourcentage&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>&amp;Montant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;No Discount</source>
+        <translation>&amp;Aucune remise</translation>
+    </message>
+    <message>
+        <source>&amp;Give Discount</source>
+        <translation>A&amp;ccorder une remise</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::DocumentEditor</name>
+    <message>
+        <source>No document is selected.</source>
+        <translation>Aucun document n’est sélectionné.</translation>
+    </message>
+    <message>
+        <source>This invoice is marked as sent, so it cannot be changed. Set its status back to &quot;Created&quot; to change it.</source>
+        <translation>Cette facture est marquée comme envoyée et ne peut donc pas être modifiée. Remettez son statut sur «&#xa0;Créée&#xa0;» pour la modifier.</translation>
+    </message>
+    <message>
+        <source>Change Title</source>
+        <translation>Modifier le titre</translation>
+    </message>
+    <message>
+        <source>Change Subtitle</source>
+        <translation>Modifier le sous-titre</translation>
+    </message>
+    <message>
+        <source>Change Subject</source>
+        <translation>Modifier l’objet</translation>
+    </message>
+    <message>
+        <source>Change Address</source>
+        <translation>Modifier l’adresse</translation>
+    </message>
+    <message>
+        <source>Change E-mail Address</source>
+        <translation>Modifier l’adresse e-mail</translation>
+    </message>
+    <message>
+        <source>Change Client Number</source>
+        <translation>Modifier le numéro de client</translation>
+    </message>
+    <message>
+        <source>Change Number</source>
+        <translation>Modifier le numéro</translation>
+    </message>
+    <message>
+        <source>Change Date</source>
+        <translation>Modifier la date</translation>
+    </message>
+    <message>
+        <source>Change Due Date</source>
+        <translation>Modifier l’échéance</translation>
+    </message>
+    <message>
+        <source>Change Status</source>
+        <translation>Modifier le statut</translation>
+    </message>
+    <message>
+        <source>Change Paid Date</source>
+        <translation>Modifier la date de paiement</translation>
+    </message>
+    <message>
+        <source>Change Paid Amount</source>
+        <translation>Modifier le montant payé</translation>
+    </message>
+    <message>
+        <source>Change Dispatched</source>
+        <translation>Modifier l’expédition</translation>
+    </message>
+    <message>
+        <source>Change Dispatch Number</source>
+        <translation>Modifier le numéro d’expédition</translation>
+    </message>
+    <message>
+        <source>Change Currency</source>
+        <translation>Modifier la devise</translation>
+    </message>
+    <message>
+        <source>Change Notes</source>
+        <translation>Modifier les notes</translation>
+    </message>
+    <message>
+        <source>Change Conditions</source>
+        <translation>Modifier les conditions</translation>
+    </message>
+    <message>
+        <source>Change Footer</source>
+        <translation>Modifier le pied de page</translation>
+    </message>
+    <message>
+        <source>Change Quantity</source>
+        <translation>Modifier la quantité</translation>
+    </message>
+    <message>
+        <source>Change Unit</source>
+        <translation>Modifier l’unité</translation>
+    </message>
+    <message>
+        <source>Change Price</source>
+        <translation>Modifier le prix</translation>
+    </message>
+    <message>
+        <source>Change SKU</source>
+        <translation>Modifier la référence</translation>
+    </message>
+    <message>
+        <source>Change Note</source>
+        <translation>Modifier la note</translation>
+    </message>
+    <message>
+        <source>Change Tax</source>
+        <translation>Modifier la taxe</translation>
+    </message>
+    <message>
+        <source>Shipping</source>
+        <translation>Livraison</translation>
+    </message>
+    <message>
+        <source>Discount</source>
+        <translation>Remise</translation>
+    </message>
+    <message>
+        <source>Change</source>
+        <translation>Modifier</translation>
+    </message>
+    <message>
+        <source>Change Buyer Country</source>
+        <translation>Modifier le pays de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>Change Buyer VAT ID</source>
+        <translation>Modifier le n° de TVA de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>Change Buyer Reference</source>
+        <translation>Modifier la référence acheteur</translation>
+    </message>
+    <message>
+        <source>Change Order Reference</source>
+        <translation>Modifier la référence de commande</translation>
     </message>
 </context>
 <context>
@@ -1044,6 +1381,160 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::EInvoiceController</name>
+    <message>
+        <source>No invoice is selected.</source>
+        <translation>Aucune facture n’est sélectionnée.</translation>
+    </message>
+    <message>
+        <source>The invoice changed while its PDF was made.</source>
+        <translation>La facture a été modifiée pendant la création de son PDF.</translation>
+    </message>
+    <message>
+        <source>“%1” could not be written because a file of that name already exists.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être écrit, car un fichier portant ce nom existe déjà.</translation>
+    </message>
+    <message>
+        <source>Choose another name, or move the existing file aside, and try again.</source>
+        <translation>Choisissez un autre nom ou déplacez le fichier existant, puis réessayez.</translation>
+    </message>
+    <message>
+        <source>The e-invoice cannot be made</source>
+        <translation>La facture électronique ne peut pas être créée</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Export As XRechnung XML</source>
+        <translation>Exporter en XML XRechnung</translation>
+    </message>
+    <message>
+        <source>Export As E-Invoice (Factur-X PDF)</source>
+        <translation>Exporter en facture électronique (PDF Factur-X)</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::EInvoiceValidator</name>
+    <message>
+        <source>Only invoices can be sent as e-invoices; this is a quote.</source>
+        <translation>Seules les factures peuvent être envoyées en facture électronique&#xa0;; ceci est un devis.</translation>
+    </message>
+    <message>
+        <source>The invoice&apos;s currency is missing.</source>
+        <translation>La devise de la facture est manquante.</translation>
+    </message>
+    <message>
+        <source>The currency “%1” has no ISO code: write it as a three-letter code such as EUR.</source>
+        <translation>La devise «&#xa0;%1&#xa0;» n’a pas de code ISO&#xa0;: indiquez-la sous la forme d’un code à trois lettres comme EUR.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s country is missing.</source>
+        <translation>Le pays du vendeur est manquant.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s country “%1” is not a two-letter country code such as DE.</source>
+        <translation>Le pays du vendeur «&#xa0;%1&#xa0;» n’est pas un code pays à deux lettres comme FR.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s VAT identifier or tax number is missing.</source>
+        <translation>Le numéro de TVA ou le numéro fiscal du vendeur est manquant.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s VAT identifier “%1” must begin with its country code, as in DE123456789.</source>
+        <translation>Le numéro de TVA du vendeur «&#xa0;%1&#xa0;» doit commencer par son code pays, comme dans DE123456789.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s IBAN is missing.</source>
+        <translation>L’IBAN du vendeur est manquant.</translation>
+    </message>
+    <message>
+        <source>The IBAN “%1” is not valid: its length or check digits are wrong.</source>
+        <translation>L’IBAN «&#xa0;%1&#xa0;» n’est pas valide&#xa0;: sa longueur ou ses chiffres de contrôle sont erronés.</translation>
+    </message>
+    <message>
+        <source>The BIC “%1” is not valid: it has 8 or 11 letters and digits.</source>
+        <translation>Le BIC «&#xa0;%1&#xa0;» n’est pas valide&#xa0;: il comporte 8 ou 11 lettres et chiffres.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country is missing.</source>
+        <translation>Le pays de l’acheteur est manquant.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country “%1” is not a two-letter country code such as DE.</source>
+        <translation>Le pays de l’acheteur «&#xa0;%1&#xa0;» n’est pas un code pays à deux lettres comme FR.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s VAT identifier “%1” must begin with its country code, as in FR12345678901.</source>
+        <translation>Le numéro de TVA de l’acheteur «&#xa0;%1&#xa0;» doit commencer par son code pays, comme dans FR12345678901.</translation>
+    </message>
+    <message>
+        <source>The invoice has no items.</source>
+        <translation>La facture ne contient aucun article.</translation>
+    </message>
+    <message>
+        <source>Item %1 has no description.</source>
+        <translation>L’article %1 n’a pas de description.</translation>
+    </message>
+    <message>
+        <source>The invoice total must be more than zero: an invoice with a negative total is a credit note.</source>
+        <translation>Le total de la facture doit être supérieur à zéro&#xa0;: une facture au total négatif est un avoir.</translation>
+    </message>
+    <message>
+        <source>The invoice&apos;s amounts do not add up: change an item or recompute the invoice, then export it again.</source>
+        <translation>Les montants de la facture ne concordent pas&#xa0;: modifiez un article ou recalculez la facture, puis exportez-la à nouveau.</translation>
+    </message>
+    <message>
+        <source>The invoice number is missing.</source>
+        <translation>Le numéro de facture est manquant.</translation>
+    </message>
+    <message>
+        <source>The invoice date is missing.</source>
+        <translation>La date de facture est manquante.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s legal name is missing.</source>
+        <translation>La raison sociale du vendeur est manquante.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s street is missing.</source>
+        <translation>La rue du vendeur est manquante.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s postcode is missing.</source>
+        <translation>Le code postal du vendeur est manquant.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s city is missing.</source>
+        <translation>La ville du vendeur est manquante.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s name is missing: it is the first line of the address.</source>
+        <translation>Le nom de l’acheteur est manquant&#xa0;: c’est la première ligne de l’adresse.</translation>
+    </message>
+    <message>
+        <source>The buyer reference (Leitweg-ID) is missing.</source>
+        <translation>La référence de l’acheteur (Leitweg-ID) est manquante.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s contact e-mail is missing.</source>
+        <translation>L’e-mail de contact du vendeur est manquant.</translation>
+    </message>
+    <message>
+        <source>The seller&apos;s contact phone is missing.</source>
+        <translation>Le téléphone de contact du vendeur est manquant.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s e-mail address is missing.</source>
+        <translation>L’adresse e-mail de l’acheteur est manquante.</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s postcode and city are missing: write them on the last line of the address, as in “10115 Berlin”.</source>
+        <translation>Le code postal et la ville de l’acheteur sont manquants&#xa0;: indiquez-les sur la dernière ligne de l’adresse, comme dans «&#xa0;75001 Paris&#xa0;».</translation>
+    </message>
+</context>
+<context>
     <name>vorn::ExportController</name>
     <message>
         <source>Print Invoice</source>
@@ -1067,7 +1558,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>“%1” couldn’t be copied to “%2” because an item with the same name already exists.</source>
-        <translation>« %1 » n’a pas pu être copié vers « %2 », car un élément du même nom existe déjà.</translation>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être copié vers «&#xa0;%2&#xa0;», car un élément du même nom existe déjà.</translation>
     </message>
     <message>
         <source>To save the file, either provide a different name, or move aside or delete the existing file, and try again.</source>
@@ -1075,7 +1566,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>The PDF “%1” could not be read.</source>
-        <translation>Le PDF « %1 » n’a pas pu être lu.</translation>
+        <translation>Le PDF «&#xa0;%1&#xa0;» n’a pas pu être lu.</translation>
     </message>
     <message>
         <source>Export As XML Document</source>
@@ -1158,6 +1649,57 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::FilterPopover</name>
+    <message>
+        <source>All Documents</source>
+        <translation>Tous les documents</translation>
+    </message>
+    <message>
+        <source>Sent Invoices</source>
+        <translation>Factures envoyées</translation>
+    </message>
+    <message>
+        <source>Overdue Invoices</source>
+        <translation>Factures en retard</translation>
+    </message>
+    <message>
+        <source>Paid Invoices</source>
+        <translation>Factures payées</translation>
+    </message>
+    <message>
+        <source>Quotes</source>
+        <translation>Devis</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message>
+        <source>This Week</source>
+        <translation>Cette semaine</translation>
+    </message>
+    <message>
+        <source>This Month</source>
+        <translation>Ce mois-ci</translation>
+    </message>
+    <message>
+        <source>This Year</source>
+        <translation>Cette année</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
+    <message>
+        <source>Dated within</source>
+        <translation>Période</translation>
+    </message>
+</context>
+<context>
     <name>vorn::GUIController</name>
     <message>
         <source>Delete Invoice</source>
@@ -1166,6 +1708,14 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Delete Quote</source>
         <translation>Supprimer le devis</translation>
+    </message>
+    <message>
+        <source>No calculator found</source>
+        <translation>Aucune calculatrice trouvée</translation>
+    </message>
+    <message>
+        <source>Vorn starts GNOME Calculator, KCalc, Galculator or Qalculate, but none of them is installed.</source>
+        <translation>Vorn lance GNOME Calculatrice, KCalc, Galculator ou Qalculate, mais aucune n’est installée.</translation>
     </message>
 </context>
 <context>
@@ -1224,11 +1774,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Restart Vorn?</source>
-        <translation>Redémarrer Vorn ?</translation>
+        <translation>Redémarrer Vorn&#xa0;?</translation>
     </message>
     <message>
         <source>The main window shows the language you chose after Vorn starts again. Restart now?</source>
-        <translation>La fenêtre principale s’affichera dans la langue choisie au prochain démarrage de Vorn. Redémarrer maintenant ?</translation>
+        <translation>La fenêtre principale s’affichera dans la langue choisie au prochain démarrage de Vorn. Redémarrer maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Restart</source>
@@ -1248,14 +1798,181 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::InfoPage</name>
+    <message>
+        <source>Info</source>
+        <translation>Infos</translation>
+    </message>
+    <message>
+        <source>Ne&amp;xt Number</source>
+        <translation>Numéro s&amp;uivant</translation>
+    </message>
+    <message>
+        <source>Next number</source>
+        <translation>Numéro suivant</translation>
+    </message>
+    <message>
+        <source>Number this document from the numbering pattern</source>
+        <translation>Numéroter ce document selon le modèle de numérotation</translation>
+    </message>
+    <message>
+        <source>&amp;Number:</source>
+        <translation>&amp;Numéro&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Number</source>
+        <translation>Numéro</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Date:</source>
+        <translation>&amp;Date&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>Date</translation>
+    </message>
+    <message>
+        <source> days from today</source>
+        <translation> jours à partir d’aujourd’hui</translation>
+    </message>
+    <message>
+        <source>Due in days from today</source>
+        <translation>Échéance en jours à partir d’aujourd’hui</translation>
+    </message>
+    <message>
+        <source>D&amp;ue date:</source>
+        <translation>Éc&amp;héance&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Due date</source>
+        <translation>Échéance</translation>
+    </message>
+    <message>
+        <source>&amp;Status:</source>
+        <translation>&amp;Statut&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Statut</translation>
+    </message>
+    <message>
+        <source>Paid amount</source>
+        <translation>Montant payé</translation>
+    </message>
+    <message>
+        <source>Paid &amp;amount:</source>
+        <translation>&amp;Montant payé&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Paid on:</source>
+        <translation>&amp;Payée le&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Paid on</source>
+        <translation>Payée le</translation>
+    </message>
+    <message>
+        <source>D&amp;ispatched</source>
+        <translation>&amp;Expédiée</translation>
+    </message>
+    <message>
+        <source>Dispatch number</source>
+        <translation>Numéro d’expédition</translation>
+    </message>
+    <message>
+        <source>Stamp &amp;Now</source>
+        <translation>M&amp;aintenant</translation>
+    </message>
+    <message>
+        <source>Mark as dispatched now</source>
+        <translation>Marquer comme expédiée maintenant</translation>
+    </message>
+    <message>
+        <source>Dispatch:</source>
+        <translation>Expédition&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Dispatched</source>
+        <translation>Expédiée</translation>
+    </message>
+    <message>
+        <source>&amp;Currency:</source>
+        <translation>De&amp;vise&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Currency</source>
+        <translation>Devise</translation>
+    </message>
+    <message>
+        <source>N&amp;otes:</source>
+        <translation>N&amp;otes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Con&amp;ditions:</source>
+        <translation>&amp;Conditions&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Footer:</source>
+        <translation>P&amp;ied de page&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Quotes are not paid; convert the quote into an invoice first.</source>
+        <translation>Les devis ne sont pas payés&#xa0;; convertissez d’abord le devis en facture.</translation>
+    </message>
+    <message>
+        <source>E-Invoice</source>
+        <translation>Facture électronique</translation>
+    </message>
+    <message>
+        <source>e.g. DE</source>
+        <translation>p.&#xa0;ex. FR</translation>
+    </message>
+    <message>
+        <source>The buyer&apos;s country as a two-letter code</source>
+        <translation>Le pays de l&apos;acheteur, en code à deux lettres</translation>
+    </message>
+    <message>
+        <source>Buyer countr&amp;y:</source>
+        <translation>Pa&amp;ys de l&apos;acheteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Buyer country</source>
+        <translation>Pays de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>&amp;Buyer VAT ID:</source>
+        <translation>N° de TVA de &amp;l&apos;acheteur&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Buyer VAT ID</source>
+        <translation>N° de TVA de l&apos;acheteur</translation>
+    </message>
+    <message>
+        <source>The reference the buyer gave, for public bodies their Leitweg-ID</source>
+        <translation>La référence donnée par l&apos;acheteur, pour les organismes publics allemands leur Leitweg-ID</translation>
+    </message>
+    <message>
+        <source>Buyer reference (&amp;Leitweg-ID):</source>
+        <translation>&amp;Référence acheteur (Leitweg-ID)&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Order &amp;reference:</source>
+        <translation>Ré&amp;férence de commande&#xa0;:</translation>
+    </message>
+</context>
+<context>
     <name>vorn::InterchangeController</name>
     <message>
         <source>Warning!</source>
-        <translation>Attention !</translation>
+        <translation>Attention&#xa0;!</translation>
     </message>
     <message>
-        <source>The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by design it can't know or care about duplicate invoices, messed up numbers, or if you're having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
-        <translation>L’intégrité de vos données relève de votre responsabilité, et de la vôtre seule. Vorn n’est qu’une simple application : par conception, elle ne peut ni savoir ni se soucier des factures en double, des numéros embrouillés ou de votre mauvaise humeur du jour. Alors, rendez-vous service et vérifiez bien ce que vous faites ici. Voulez-vous toujours importer la facture ?</translation>
+        <source>The integrity of your data is your responsibility, and yours alone. Vorn is just a stupid App and by design it can&apos;t know or care about duplicate invoices, messed up numbers, or if you&apos;re having a bad hair day. So please, do yourself a favor and check what you are doing here. Do you still want to import the invoice?</source>
+        <translation>L’intégrité de vos données relève de votre responsabilité, et de la vôtre seule. Vorn n’est qu’une simple application&#xa0;: par conception, elle ne peut ni savoir ni se soucier des factures en double, des numéros embrouillés ou de votre mauvaise humeur du jour. Alors, rendez-vous service et vérifiez bien ce que vous faites ici. Voulez-vous toujours importer la facture&#xa0;?</translation>
     </message>
     <message>
         <source>Import…</source>
@@ -1298,7 +2015,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Deleting items is permanent and cannot be undone. Do you really want to delete the selected item?</source>
-        <translation>La suppression d’un article est définitive et irréversible. Voulez-vous vraiment supprimer l’article sélectionné ?</translation>
+        <translation>La suppression d’un article est définitive et irréversible. Voulez-vous vraiment supprimer l’article sélectionné&#xa0;?</translation>
     </message>
     <message>
         <source>Delete</source>
@@ -1314,10 +2031,170 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ItemPopover</name>
+    <message>
+        <source>New Item</source>
+        <translation>Nouvel article</translation>
+    </message>
+    <message>
+        <source>Item source</source>
+        <translation>Source de l’article</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Sous-titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Quantity:</source>
+        <translation>&amp;Quantité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>U&amp;nit:</source>
+        <translation>U&amp;nité&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Unit &amp;price:</source>
+        <translation>&amp;Prix unitaire&#xa0;:</translation>
+    </message>
+    <message>
+        <source>S&amp;KU:</source>
+        <translation>&amp;Référence&#xa0;:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>N&amp;ote&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Taxe %1</translation>
+    </message>
+    <message>
+        <source>Taxes:</source>
+        <translation>Taxes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Recent Items</source>
+        <translation>Articles récents</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item</source>
+        <translation>&amp;Ajouter l’article</translation>
+    </message>
+    <message>
+        <source>&amp;Use Item</source>
+        <translation>&amp;Utiliser l’article</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemTableModel</name>
+    <message>
+        <source>Gross %1</source>
+        <translation>Brut %1</translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sous-titre</translation>
+    </message>
+    <message>
+        <source>Quantity</source>
+        <translation>Quantité</translation>
+    </message>
+    <message>
+        <source>Unit</source>
+        <translation>Unité</translation>
+    </message>
+    <message>
+        <source>Unit Price</source>
+        <translation>Prix unitaire</translation>
+    </message>
+    <message>
+        <source>Tax 1</source>
+        <translation>Taxe 1</translation>
+    </message>
+    <message>
+        <source>Tax 2</source>
+        <translation>Taxe 2</translation>
+    </message>
+    <message>
+        <source>Tax 3</source>
+        <translation>Taxe 3</translation>
+    </message>
+    <message>
+        <source>Net</source>
+        <translation>Net</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemsPage</name>
+    <message>
+        <source>Items</source>
+        <translation>Articles</translation>
+    </message>
+    <message>
+        <source>Add Item…</source>
+        <translation>Ajouter un article…</translation>
+    </message>
+    <message>
+        <source>Delete Item</source>
+        <translation>Supprimer l’article</translation>
+    </message>
+    <message>
+        <source>Shipping…</source>
+        <translation>Livraison…</translation>
+    </message>
+    <message>
+        <source>Discount…</source>
+        <translation>Remise…</translation>
+    </message>
+    <message>
+        <source>Subtotal %1</source>
+        <translation>Sous-total %1</translation>
+    </message>
+    <message>
+        <source>%1 %2</source>
+        <translation>%1 %2</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Taxe %1</translation>
+    </message>
+    <message>
+        <source>Shipping %1</source>
+        <translation>Livraison %1</translation>
+    </message>
+    <message>
+        <source>Discount %1 %</source>
+        <translation>Remise %1&#xa0;%</translation>
+    </message>
+    <message>
+        <source>Discount %1</source>
+        <translation>Remise %1</translation>
+    </message>
+    <message>
+        <source>Total %1 %2</source>
+        <translation>Total %1 %2</translation>
+    </message>
+</context>
+<context>
     <name>vorn::LineNumberRuler</name>
     <message>
         <source>Line numbers</source>
         <translation>Numéros de ligne</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::LockBanner</name>
+    <message>
+        <source>This invoice is marked as sent, so its fields are read-only. To change it, set its status back to &quot;Created&quot; on the Info page.</source>
+        <translation>Cette facture est marquée comme envoyée, ses champs sont donc en lecture seule. Pour la modifier, remettez son statut sur «&#xa0;Créée&#xa0;» dans la page Infos.</translation>
     </message>
 </context>
 <context>
@@ -1352,7 +2229,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Document</source>
-        <translation>&amp;Document</translation>
+        <translation>Doc&amp;ument</translation>
     </message>
     <message>
         <source>Toolbar</source>
@@ -1368,7 +2245,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>New &amp;Quote</source>
-        <translation>Nouveau &amp;devis</translation>
+        <translation>&amp;Nouveau devis</translation>
     </message>
     <message>
         <source>Ctrl+Shift+N</source>
@@ -1408,7 +2285,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Import Document…</source>
-        <translation>&amp;Importer un document…</translation>
+        <translation>Imp&amp;orter un document…</translation>
     </message>
     <message>
         <source>Export &amp;Listed Documents as XML…</source>
@@ -1460,7 +2337,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Send by &amp;E-mail…</source>
-        <translation>Envoyer par &amp;e-mail…</translation>
+        <translation>Envoyer par e-&amp;mail…</translation>
     </message>
     <message>
         <source>E-mail</source>
@@ -1484,7 +2361,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>The Vorn database could not be opened, so there are no documents to show.</source>
-        <translation>La base de données Vorn n’a pas pu être ouverte ; il n’y a donc aucun document à afficher.</translation>
+        <translation>La base de données Vorn n’a pas pu être ouverte&#xa0;; il n’y a donc aucun document à afficher.</translation>
     </message>
     <message>
         <source>&amp;Undo %1</source>
@@ -1515,19 +2392,149 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <translation>%1, %2</translation>
     </message>
     <message>
-        <source>Total %1    Paid %2    Due %3</source>
-        <translation>Total %1    Payé %2    Dû %3</translation>
-    </message>
-    <message>
         <source>Preferences…</source>
         <translation>Préférences…</translation>
+    </message>
+    <message>
+        <source>&amp;View</source>
+        <translation>Afficha&amp;ge</translation>
+    </message>
+    <message>
+        <source>&amp;Items</source>
+        <translation>&amp;Articles</translation>
+    </message>
+    <message>
+        <source>&amp;Calculator</source>
+        <translation>Ca&amp;lculatrice</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+K</source>
+        <translation>Ctrl+Shift+K</translation>
+    </message>
+    <message>
+        <source>Calculator</source>
+        <translation>Calculatrice</translation>
+    </message>
+    <message>
+        <source>Choose &amp;Address…</source>
+        <translation>Choisir l’&amp;adresse…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+A</source>
+        <translation>Ctrl+Shift+A</translation>
+    </message>
+    <message>
+        <source>&amp;Add Item…</source>
+        <translation>&amp;Ajouter un article…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+I</source>
+        <translation>Ctrl+Shift+I</translation>
+    </message>
+    <message>
+        <source>De&amp;lete Item</source>
+        <translation>&amp;Supprimer l’article</translation>
+    </message>
+    <message>
+        <source>Ctrl+Backspace</source>
+        <translation>Ctrl+Backspace</translation>
+    </message>
+    <message>
+        <source>&amp;Shipping…</source>
+        <translation>&amp;Livraison…</translation>
+    </message>
+    <message>
+        <source>D&amp;iscount…</source>
+        <translation>&amp;Remise…</translation>
+    </message>
+    <message>
+        <source>&amp;Filter List…</source>
+        <translation>&amp;Filtrer la liste…</translation>
+    </message>
+    <message>
+        <source>Ctrl+Shift+F</source>
+        <translation>Ctrl+Shift+F</translation>
+    </message>
+    <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Items</source>
+        <translation>Articles</translation>
+    </message>
+    <message>
+        <source>Info</source>
+        <translation>Infos</translation>
+    </message>
+    <message>
+        <source>Show the %1 page</source>
+        <translation>Afficher la page «&#xa0;%1&#xa0;»</translation>
+    </message>
+    <message>
+        <source>Export as E-Invoice (&amp;Factur-X PDF)…</source>
+        <translation>Exporter en facture électronique (Factur-X &amp;PDF)…</translation>
+    </message>
+    <message>
+        <source>Export as XRec&amp;hnung XML…</source>
+        <translation>Exporter en XML XRec&amp;hnung…</translation>
+    </message>
+    <message>
+        <source>Documents</source>
+        <translation>Documents</translation>
+    </message>
+    <message>
+        <source>Select a document in the list, or make a new invoice or quote.</source>
+        <translation>Sélectionnez un document dans la liste, ou créez une nouvelle facture ou un nouveau devis.</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtre</translation>
+    </message>
+    <message>
+        <source>Showing %1</source>
+        <translation>Affichage&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Showing all documents</source>
+        <translation>Tous les documents sont affichés</translation>
+    </message>
+    <message>
+        <source>Filter: %1</source>
+        <translation>Filtre&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Filter the list</source>
+        <translation>Filtrer la liste</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Annuler</translation>
+    </message>
+    <message>
+        <source>Redo</source>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Undo %1</source>
+        <translation>Annuler %1</translation>
+    </message>
+    <message>
+        <source>Redo %1</source>
+        <translation>Rétablir %1</translation>
+    </message>
+    <message>
+        <source>Total %1
+Paid %2 · Due %3</source>
+        <translation>Total %1
+Payé %2 · Dû %3</translation>
     </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>
     <message>
         <source>Error!</source>
-        <translation>Erreur !</translation>
+        <translation>Erreur&#xa0;!</translation>
     </message>
     <message>
         <source>Please provide a valid email address.</source>
@@ -1539,7 +2546,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Success!</source>
-        <translation>C’est fait !</translation>
+        <translation>C’est fait&#xa0;!</translation>
     </message>
     <message>
         <source>Thanks for subscribing. And yes, it is much more than just boring spam for Kelvo Apps. I promise.</source>
@@ -1574,11 +2581,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;E-mail:</source>
-        <translation>&amp;E-mail :</translation>
+        <translation>&amp;E-mail&#xa0;:</translation>
     </message>
     <message>
         <source>Subscribing</source>
@@ -1601,7 +2608,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <name>vorn::ObjectContext</name>
     <message>
         <source>There is no entity named “%1”.</source>
-        <translation>Il n’existe aucune entité nommée « %1 ».</translation>
+        <translation>Il n’existe aucune entité nommée «&#xa0;%1&#xa0;».</translation>
     </message>
 </context>
 <context>
@@ -1744,12 +2751,15 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>The preview could not be made: %1</source>
-        <translation>L’aperçu n’a pas pu être créé : %1</translation>
+        <translation>L’aperçu n’a pas pu être créé&#xa0;: %1</translation>
     </message>
-    <message numerus="yes">
-        <source>%n page(s)</source>
-        <translation>
-            <numerusform>%n page</numerusform><numerusform>%n pages</numerusform></translation>
+    <message>
+        <source>1 page</source>
+        <translation>1 page</translation>
+    </message>
+    <message>
+        <source>%1 pages</source>
+        <translation>%1 pages</translation>
     </message>
 </context>
 <context>
@@ -1800,19 +2810,19 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Name:</source>
-        <translation>&amp;Nom :</translation>
+        <translation>&amp;Nom&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Contact:</source>
-        <translation>&amp;Coordonnées :</translation>
+        <translation>&amp;Coordonnées&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Letterbox line:</source>
-        <translation>Ligne d’&amp;expéditeur :</translation>
+        <translation>Ligne d’&amp;expéditeur&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Slogan:</source>
-        <translation>&amp;Slogan :</translation>
+        <translation>&amp;Slogan&#xa0;:</translation>
     </message>
     <message>
         <source>Logo</source>
@@ -1836,7 +2846,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Logo:</source>
-        <translation>Logo :</translation>
+        <translation>Logo&#xa0;:</translation>
     </message>
     <message>
         <source>No logo</source>
@@ -1852,11 +2862,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Invoice number pattern:</source>
-        <translation>Modèle de numéro de facture :</translation>
+        <translation>Modèle de numéro de facture&#xa0;:</translation>
     </message>
     <message>
         <source>Invoice counter offset:</source>
-        <translation>Décalage du compteur de factures :</translation>
+        <translation>Décalage du compteur de factures&#xa0;:</translation>
     </message>
     <message>
         <source>Give new invoices a due date</source>
@@ -1864,7 +2874,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Due after:</source>
-        <translation>Échéance après :</translation>
+        <translation>Échéance après&#xa0;:</translation>
     </message>
     <message>
         <source>Quotes</source>
@@ -1876,11 +2886,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Quote number pattern:</source>
-        <translation>Modèle de numéro de devis :</translation>
+        <translation>Modèle de numéro de devis&#xa0;:</translation>
     </message>
     <message>
         <source>Quote counter offset:</source>
-        <translation>Décalage du compteur de devis :</translation>
+        <translation>Décalage du compteur de devis&#xa0;:</translation>
     </message>
     <message>
         <source>Give new quotes an expiry date</source>
@@ -1888,7 +2898,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Valid for:</source>
-        <translation>Valable :</translation>
+        <translation>Valable&#xa0;:</translation>
     </message>
     <message>
         <source>Document texts</source>
@@ -1904,15 +2914,15 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>%1 conditions:</source>
-        <translation>Conditions (%1) :</translation>
+        <translation>Conditions (%1)&#xa0;:</translation>
     </message>
     <message>
         <source>%1 footer:</source>
-        <translation>Pied de page (%1) :</translation>
+        <translation>Pied de page (%1)&#xa0;:</translation>
     </message>
     <message>
         <source>Miscellaneous:</source>
-        <translation>Divers :</translation>
+        <translation>Divers&#xa0;:</translation>
     </message>
     <message>
         <source>Taxes</source>
@@ -1924,11 +2934,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Tax %1 title:</source>
-        <translation>Nom de la taxe %1 :</translation>
+        <translation>Nom de la taxe %1&#xa0;:</translation>
     </message>
     <message>
         <source>Tax %1 rate:</source>
-        <translation>Taux de la taxe %1 :</translation>
+        <translation>Taux de la taxe %1&#xa0;:</translation>
     </message>
     <message>
         <source>Tax %1 is charged on the taxes before it</source>
@@ -1940,67 +2950,67 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Invoice:</source>
-        <translation>Facture :</translation>
+        <translation>Facture&#xa0;:</translation>
     </message>
     <message>
         <source>Quote:</source>
-        <translation>Devis :</translation>
+        <translation>Devis&#xa0;:</translation>
     </message>
     <message>
         <source>Reminder:</source>
-        <translation>Rappel :</translation>
+        <translation>Rappel&#xa0;:</translation>
     </message>
     <message>
         <source>Invoice number:</source>
-        <translation>Numéro de facture :</translation>
+        <translation>Numéro de facture&#xa0;:</translation>
     </message>
     <message>
         <source>Quote number:</source>
-        <translation>Numéro de devis :</translation>
+        <translation>Numéro de devis&#xa0;:</translation>
     </message>
     <message>
         <source>Client number:</source>
-        <translation>Numéro de client :</translation>
+        <translation>Numéro de client&#xa0;:</translation>
     </message>
     <message>
         <source>Date:</source>
-        <translation>Date :</translation>
+        <translation>Date&#xa0;:</translation>
     </message>
     <message>
         <source>Due:</source>
-        <translation>Échéance :</translation>
+        <translation>Échéance&#xa0;:</translation>
     </message>
     <message>
         <source>Subtotal:</source>
-        <translation>Sous-total :</translation>
+        <translation>Sous-total&#xa0;:</translation>
     </message>
     <message>
         <source>Total:</source>
-        <translation>Total :</translation>
+        <translation>Total&#xa0;:</translation>
     </message>
     <message>
         <source>Discount:</source>
-        <translation>Remise :</translation>
+        <translation>Remise&#xa0;:</translation>
     </message>
     <message>
         <source>Shipping:</source>
-        <translation>Livraison :</translation>
+        <translation>Livraison&#xa0;:</translation>
     </message>
     <message>
         <source>Description:</source>
-        <translation>Description :</translation>
+        <translation>Description&#xa0;:</translation>
     </message>
     <message>
         <source>Quantity:</source>
-        <translation>Quantité :</translation>
+        <translation>Quantité&#xa0;:</translation>
     </message>
     <message>
         <source>Unit price:</source>
-        <translation>Prix unitaire :</translation>
+        <translation>Prix unitaire&#xa0;:</translation>
     </message>
     <message>
         <source>Page numbers:</source>
-        <translation>Numéros de page :</translation>
+        <translation>Numéros de page&#xa0;:</translation>
     </message>
     <message>
         <source>Printing</source>
@@ -2011,7 +3021,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <translation>Imprimer les numéros de page</translation>
     </message>
     <message>
-        <source>Print the document's details beside the page numbers</source>
+        <source>Print the document&apos;s details beside the page numbers</source>
         <translation>Imprimer les détails du document à côté des numéros de page</translation>
     </message>
     <message>
@@ -2040,7 +3050,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Border font:</source>
-        <translation>Police des marges :</translation>
+        <translation>Police des marges&#xa0;:</translation>
     </message>
     <message>
         <source>Border Font</source>
@@ -2052,7 +3062,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Paper:</source>
-        <translation>Papier :</translation>
+        <translation>Papier&#xa0;:</translation>
     </message>
     <message>
         <source>US Letter</source>
@@ -2080,15 +3090,15 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Currency:</source>
-        <translation>&amp;Devise :</translation>
+        <translation>&amp;Devise&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Date pattern:</source>
-        <translation>Modèle de &amp;date :</translation>
+        <translation>Modèle de &amp;date&#xa0;:</translation>
     </message>
     <message>
         <source>&amp;Paper:</source>
-        <translation>&amp;Papier :</translation>
+        <translation>&amp;Papier&#xa0;:</translation>
     </message>
     <message>
         <source>Client addresses</source>
@@ -2096,22 +3106,82 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>&amp;Address pattern:</source>
-        <translation>Modèle d’&amp;adresse :</translation>
+        <translation>Modèle d’&amp;adresse&#xa0;:</translation>
     </message>
     <message>
         <source>Client number &amp;pattern:</source>
-        <translation>Modèle de &amp;numéro de client :</translation>
+        <translation>Modèle de &amp;numéro de client&#xa0;:</translation>
     </message>
     <message>
         <source>Client counter offset:</source>
-        <translation>Décalage du compteur de clients :</translation>
+        <translation>Décalage du compteur de clients&#xa0;:</translation>
+    </message>
+    <message>
+        <source>E-invoices</source>
+        <translation>Factures électroniques</translation>
+    </message>
+    <message>
+        <source>Le&amp;gal name:</source>
+        <translation>&amp;Raison sociale&#xa0;:</translation>
+    </message>
+    <message>
+        <source>S&amp;treet:</source>
+        <translation>R&amp;ue&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Postcode:</source>
+        <translation>Code p&amp;ostal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>C&amp;ity:</source>
+        <translation>&amp;Ville&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Co&amp;untry code:</source>
+        <translation>Code &amp;pays&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;VAT identifier:</source>
+        <translation>Numéro de &amp;TVA&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Ta&amp;x number:</source>
+        <translation>Numéro &amp;fiscal&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Contact &amp;e-mail:</source>
+        <translation>E-&amp;mail de contact&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Contact p&amp;hone:</source>
+        <translation>Télép&amp;hone de contact&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Payments</source>
+        <translation>Paiements</translation>
+    </message>
+    <message>
+        <source>&amp;IBAN:</source>
+        <translation>&amp;IBAN&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;BIC:</source>
+        <translation>&amp;BIC&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Account &amp;holder:</source>
+        <translation>Titulaire du co&amp;mpte&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Export invoices as Factur-X PDF (e-invoice)</source>
+        <translation>Exporter les factures en PDF Factur-X (facture électronique)</translation>
     </message>
 </context>
 <context>
     <name>vorn::PreviewController</name>
     <message>
         <source>The PDF “%1” could not be written.</source>
-        <translation>Le PDF « %1 » n’a pas pu être écrit.</translation>
+        <translation>Le PDF «&#xa0;%1&#xa0;» n’a pas pu être écrit.</translation>
     </message>
     <message>
         <source>There is no default design</source>
@@ -2131,7 +3201,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Ooops!</source>
-        <translation>Oups !</translation>
+        <translation>Oups&#xa0;!</translation>
     </message>
     <message>
         <source>Something went really wrong while creating the preview.</source>
@@ -2213,15 +3283,15 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Title:</source>
-        <translation>Titre :</translation>
+        <translation>Titre&#xa0;:</translation>
     </message>
     <message>
         <source>Conditions:</source>
-        <translation>Conditions :</translation>
+        <translation>Conditions&#xa0;:</translation>
     </message>
     <message>
         <source>Footer:</source>
-        <translation>Pied de page :</translation>
+        <translation>Pied de page&#xa0;:</translation>
     </message>
     <message>
         <source>Create Reminder</source>
@@ -2232,14 +3302,14 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <name>vorn::ScreenCastController</name>
     <message>
         <source>Please check your internet connection!</source>
-        <translation>Veuillez vérifier votre connexion Internet !</translation>
+        <translation>Veuillez vérifier votre connexion Internet&#xa0;!</translation>
     </message>
 </context>
 <context>
     <name>vorn::Settings</name>
     <message>
         <source>Your settings could not be read from “%1”. Vorn leaves the file as it is and uses its standard settings until it is repaired or removed; changes to settings are not saved.</source>
-        <translation>Vos réglages n’ont pas pu être lus depuis « %1 ». Vorn laisse le fichier tel quel et utilise ses réglages standard jusqu’à ce qu’il soit réparé ou supprimé ; les modifications des réglages ne sont pas enregistrées.</translation>
+        <translation>Vos réglages n’ont pas pu être lus depuis «&#xa0;%1&#xa0;». Vorn laisse le fichier tel quel et utilise ses réglages standard jusqu’à ce qu’il soit réparé ou supprimé&#xa0;; les modifications des réglages ne sont pas enregistrées.</translation>
     </message>
     <message>
         <source>The file does not hold a dictionary.</source>
@@ -2247,7 +3317,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Your settings were not saved because the settings file “%1” could not be read at start.</source>
-        <translation>Vos réglages n’ont pas été enregistrés, car le fichier de réglages « %1 » n’a pas pu être lu au démarrage.</translation>
+        <translation>Vos réglages n’ont pas été enregistrés, car le fichier de réglages «&#xa0;%1&#xa0;» n’a pas pu être lu au démarrage.</translation>
     </message>
     <message>
         <source>Your settings could not be saved.</source>
@@ -2259,6 +3329,57 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Shipping</source>
         <translation>Livraison</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ShippingPopover</name>
+    <message>
+        <source>Shipping</source>
+        <translation>Livraison</translation>
+    </message>
+    <message>
+        <source>Shipping source</source>
+        <translation>Source de la livraison</translation>
+    </message>
+    <message>
+        <source>Show s&amp;ubtitle</source>
+        <translation>Affic&amp;her le sous-titre</translation>
+    </message>
+    <message>
+        <source>&amp;Title:</source>
+        <translation>&amp;Titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>&amp;Subtitle:</source>
+        <translation>&amp;Sous-titre&#xa0;:</translation>
+    </message>
+    <message>
+        <source>A&amp;mount:</source>
+        <translation>&amp;Montant&#xa0;:</translation>
+    </message>
+    <message>
+        <source>N&amp;ote:</source>
+        <translation>&amp;Note&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Tax %1</source>
+        <translation>Taxe %1</translation>
+    </message>
+    <message>
+        <source>Taxes:</source>
+        <translation>Taxes&#xa0;:</translation>
+    </message>
+    <message>
+        <source>Recent Shipping</source>
+        <translation>Livraisons récentes</translation>
+    </message>
+    <message>
+        <source>&amp;No Shipping</source>
+        <translation>&amp;Aucune livraison</translation>
+    </message>
+    <message>
+        <source>&amp;Charge Shipping</source>
+        <translation>&amp;Facturer la livraison</translation>
     </message>
 </context>
 <context>
@@ -2288,7 +3409,7 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Update available!</source>
-        <translation>Mise à jour disponible !</translation>
+        <translation>Mise à jour disponible&#xa0;!</translation>
     </message>
     <message>
         <source>A new version</source>
@@ -2296,11 +3417,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>%1 is available; you have Vorn %2. Do you want to download the update now?</source>
-        <translation>%1 est disponible ; vous avez Vorn %2. Voulez-vous télécharger la mise à jour maintenant ?</translation>
+        <translation>%1 est disponible&#xa0;; vous avez Vorn %2. Voulez-vous télécharger la mise à jour maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>&amp;Release notes:</source>
-        <translation>&amp;Notes de version :</translation>
+        <translation>&amp;Notes de version&#xa0;:</translation>
     </message>
     <message>
         <source>Release notes</source>
@@ -2331,11 +3452,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <name>vorn::ZRUpdateChecker</name>
     <message>
         <source>Check for updates automatically?</source>
-        <translation>Rechercher automatiquement les mises à jour ?</translation>
+        <translation>Rechercher automatiquement les mises à jour&#xa0;?</translation>
     </message>
     <message>
         <source>Should %1 look for a newer version once a day when it starts? You can change this at any time in the preferences.</source>
-        <translation>%1 doit-il rechercher une version plus récente une fois par jour au démarrage ? Vous pouvez modifier ce choix à tout moment dans les préférences.</translation>
+        <translation>%1 doit-il rechercher une version plus récente une fois par jour au démarrage&#xa0;? Vous pouvez modifier ce choix à tout moment dans les préférences.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -2366,8 +3487,8 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <translation>La liste des versions disponibles n’a pas pu être chargée. Veuillez vérifier votre connexion Internet et réessayer plus tard.</translation>
     </message>
     <message>
-        <source>You're up to date!</source>
-        <translation>Vous êtes à jour !</translation>
+        <source>You&apos;re up to date!</source>
+        <translation>Vous êtes à jour&#xa0;!</translation>
     </message>
     <message>
         <source>%1 %2 is the newest version available.</source>
@@ -2375,11 +3496,11 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
     <message>
         <source>Do you want to download the update now?</source>
-        <translation>Voulez-vous télécharger la mise à jour maintenant ?</translation>
+        <translation>Voulez-vous télécharger la mise à jour maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>Update available!</source>
-        <translation>Mise à jour disponible !</translation>
+        <translation>Mise à jour disponible&#xa0;!</translation>
     </message>
     <message>
         <source>Download…</source>

@@ -1,8 +1,8 @@
 #include "ui/AddressPopover.h"
 
 #include "invoicing/AddressController.h"
-#include "store/Keys.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/FormRow.h"

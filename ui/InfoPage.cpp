@@ -12,6 +12,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateEdit>
+#include <QFont>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -141,6 +142,35 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
     addFormRow(form, tr("Con&ditions:"), conditions);
     addFormRow(form, tr("&Footer:"), footer);
 
+    // What an e-invoice needs to know about the buyer and the order; empty
+    // unless the buyer asks for it.
+    auto* eInvoice = new QLabel(tr("E-Invoice"));
+    eInvoice->setObjectName(QStringLiteral("eInvoiceHeading"));
+    QFont headingFont = eInvoice->font();
+    headingFont.setBold(true);
+    eInvoice->setFont(headingFont);
+    eInvoice->setContentsMargins(0, 8, 0, 0);
+    form->addRow(eInvoice);
+    auto* buyerCountry = new QLineEdit;
+    buyerCountry->setObjectName(QStringLiteral("buyerCountryCodeView"));
+    buyerCountry->setMaximumWidth(120);
+    buyerCountry->setPlaceholderText(tr("e.g. DE"));
+    buyerCountry->setToolTip(tr("The buyer's country as a two-letter code"));
+    addFormRow(form, tr("Buyer countr&y:"), row({buyerCountry}));
+    buyerCountry->setAccessibleName(tr("Buyer country"));
+    auto* buyerVat = new QLineEdit;
+    buyerVat->setObjectName(QStringLiteral("buyerVatIDView"));
+    buyerVat->setMaximumWidth(260);
+    addFormRow(form, tr("&Buyer VAT ID:"), row({buyerVat}));
+    buyerVat->setAccessibleName(tr("Buyer VAT ID"));
+    auto* buyerReference = new QLineEdit;
+    buyerReference->setObjectName(QStringLiteral("buyerReferenceView"));
+    buyerReference->setToolTip(tr("The reference the buyer gave, for public bodies their Leitweg-ID"));
+    addFormRow(form, tr("Buyer reference (&Leitweg-ID):"), buyerReference);
+    auto* orderReference = new QLineEdit;
+    orderReference->setObjectName(QStringLiteral("orderReferenceView"));
+    addFormRow(form, tr("Order &reference:"), orderReference);
+
     m_fields->bindText(number, key::number);
     m_fields->bindText(title, key::title);
     m_fields->bindDate(date, key::date);
@@ -154,6 +184,10 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
     m_fields->bindMultiLine(notes, key::notes);
     m_fields->bindMultiLine(conditions, key::conditions);
     m_fields->bindMultiLine(footer, key::footer);
+    m_fields->bindText(buyerCountry, key::buyerCountryCode);
+    m_fields->bindText(buyerVat, key::buyerVatID);
+    m_fields->bindText(buyerReference, key::buyerReference);
+    m_fields->bindText(orderReference, key::orderReference);
 
     connect(nextNumber, &QPushButton::clicked, this, [this, &invoicing] {
         const ManagedObject* doc = m_app.state().currentInvoice();
@@ -208,6 +242,10 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
     setTabOrder(currency, notes);
     setTabOrder(notes, conditions);
     setTabOrder(conditions, footer);
+    setTabOrder(footer, buyerCountry);
+    setTabOrder(buyerCountry, buyerVat);
+    setTabOrder(buyerVat, buyerReference);
+    setTabOrder(buyerReference, orderReference);
 }
 
 void InfoPage::showDueDays()

@@ -14,7 +14,8 @@ class DocumentFields;
 
 // The document's particulars: number (with the next number), title, dates
 // (the due date also as days from today), status with the payment, the
-// dispatch, currency, and the notes, conditions and footer texts.
+// dispatch, currency, the notes, conditions and footer texts, and what an
+// e-invoice says about the buyer and the order.
 class InfoPage : public QWidget
 {
     Q_OBJECT

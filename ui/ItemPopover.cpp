@@ -1,8 +1,8 @@
 #include "ui/ItemPopover.h"
 
 #include "invoicing/ItemController.h"
-#include "store/Keys.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/DocumentFields.h"

@@ -2,8 +2,8 @@
 
 #include "app/AppDelegate.h"
 #include "invoicing/InvoicingControllers.h"
-#include "store/Keys.h"
 #include "invoicing/ValueTransformers.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/DocumentFields.h"

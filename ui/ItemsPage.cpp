@@ -87,11 +87,12 @@ ItemsPage::ItemsPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setSectionResizeMode(ItemTableModel::TitleColumn, QHeaderView::Stretch);
     header->resizeSection(ItemTableModel::SubtitleColumn, 140);
+    // Wide enough for the header in every language ("Precio unitario").
     for (int c : {ItemTableModel::QuantityColumn, ItemTableModel::UnitColumn, ItemTableModel::PriceColumn,
                   ItemTableModel::NetColumn})
-        header->resizeSection(c, 90);
+        header->resizeSection(c, qMax(90, header->sectionSizeHint(c)));
     for (int c : {ItemTableModel::Tax1Column, ItemTableModel::Tax2Column, ItemTableModel::Tax3Column})
-        header->resizeSection(c, 70);
+        header->resizeSection(c, qMax(70, header->sectionSizeHint(c)));
     layout->addWidget(m_table, 1);
     m_selectionSync = new SelectionSync(*m_model, *m_table, this);
 

@@ -22,9 +22,10 @@ TEST_F(DocumentEditorTest, SentInvoicesKeepOnlyTheirPaymentAndDispatchFieldsOpen
         QString key;
         bool editable;
     } cases[] = {
-        {1, 0, key::title, true},    {1, 1, key::title, false},     {1, 3, key::notes, false},
-        {1, 1, key::status, true},   {1, 4, key::paidAmount, true}, {1, 1, key::dispatchNumber, true},
-        {1, 2, key::address, false}, {0, 1, key::title, true},      {0, 0, key::currency, true},
+        {1, 0, key::title, true},           {1, 1, key::title, false},     {1, 3, key::notes, false},
+        {1, 1, key::status, true},          {1, 4, key::paidAmount, true}, {1, 1, key::dispatchNumber, true},
+        {1, 2, key::address, false},        {0, 1, key::title, true},      {0, 0, key::currency, true},
+        {1, 1, key::buyerReference, false},
     };
     for (const Case& c : cases) {
         select(document(c.kind, c.status));

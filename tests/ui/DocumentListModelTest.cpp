@@ -114,8 +114,23 @@ struct Cell
     QVariant expected;
 };
 
+// The dates show in local time, so the cells run in Berlin whatever zone the
+// machine is in: there 23:30 UTC in November is already the next day.
 class DocumentListCellTest : public UiFixture, public ::testing::WithParamInterface<Cell>
 {
+protected:
+    void SetUp() override { qputenv("TZ", "Europe/Berlin"); }
+    void TearDown() override
+    {
+        if (m_hadZone)
+            qputenv("TZ", m_zone);
+        else
+            qunsetenv("TZ");
+    }
+
+private:
+    const bool m_hadZone = qEnvironmentVariableIsSet("TZ");
+    const QByteArray m_zone = qgetenv("TZ");
 };
 
 TEST_P(DocumentListCellTest, ShowsTheDocument)

@@ -1,7 +1,7 @@
 #include "app/AppDelegate.h"
 #include "invoicing/InvoicingControllers.h"
-#include "store/Keys.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
@@ -18,6 +18,7 @@
 #include "ui/ItemsPage.h"
 #include "ui/MainWindow.h"
 #include "ui/ShippingPopover.h"
+#include "ui/Translations.h"
 
 #include <QAbstractButton>
 #include <QAction>
@@ -49,7 +50,8 @@ namespace {
 
 // The main window over a launched application with an empty database,
 // driven through its widgets as a user would. With VORN_SCREENSHOTS set to a
-// folder, every page and popover is saved there as it is shown.
+// folder, every page and popover is saved there as it is shown, in the
+// language VORN_SCREENSHOT_LANGUAGE names (1 German, 2 French, 3 Spanish).
 class MainWindowStoryTest : public ::testing::Test
 {
 public:
@@ -57,6 +59,7 @@ public:
         : clock(QDateTime(QDate(2026, 11, 21), QTime(9, 0), QTimeZone::utc())),
           settings(env.locations().settingsFile())
     {
+        Translations::install(qEnvironmentVariableIntValue("VORN_SCREENSHOT_LANGUAGE"));
         app = std::make_unique<AppDelegate>(settings, ui, clock, env.locations());
         app->setLaunchChecksEnabled(false);
         window = std::make_unique<MainWindow>(*app);
@@ -71,6 +74,7 @@ public:
     {
         window.reset();
         app.reset();
+        Translations::install(0);
     }
 
     void shoot(QWidget* widget, const QString& name)
@@ -83,12 +87,14 @@ public:
         QTest::qWait(200);
         widget->grab().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
     }
-    QPushButton* button(QWidget* parent, const QString& text)
+    // The button with the given English label, in the language installed.
+    QPushButton* button(QWidget* parent, const char* label)
     {
+        const QString text = QCoreApplication::translate(parent->metaObject()->className(), label);
         for (QPushButton* b : parent->findChildren<QPushButton*>())
-            if (b->text().remove(QLatin1Char('&')) == text)
+            if (b->text() == text)
                 return b;
-        ADD_FAILURE() << "no button " << text.toStdString();
+        ADD_FAILURE() << "no button " << label;
         return nullptr;
     }
     void type(QLineEdit* field, const QString& text)
@@ -159,7 +165,7 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     EXPECT_EQ(addressPopover->addressField()->toPlainText(),
               QStringLiteral("Ada Lovelace\n12 Analytical Row\nN1 9GU London"));
     shoot(addressPopover, QStringLiteral("02-address-popover"));
-    QTest::mouseClick(button(addressPopover, QStringLiteral("Use Address")), Qt::LeftButton);
+    QTest::mouseClick(button(addressPopover, "&Use Address"), Qt::LeftButton);
     EXPECT_FALSE(addressPopover->isVisible());
     EXPECT_EQ(invoice->stringValue(key::address),
               QStringLiteral("Ada Lovelace\n12 Analytical Row\nN1 9GU London"));
@@ -228,7 +234,7 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     type(shipping->amountField(), QStringLiteral("10"));
     shipping->findChild<QCheckBox*>(QStringLiteral("shippingPopoverTax1Button"))->click();
     shoot(shipping, QStringLiteral("07-shipping-popover"));
-    QTest::mouseClick(button(shipping, QStringLiteral("Charge Shipping")), Qt::LeftButton);
+    QTest::mouseClick(button(shipping, "&Charge Shipping"), Qt::LeftButton);
     EXPECT_FALSE(shipping->isVisible());
     EXPECT_TRUE(invoice->boolValue(key::isShippingEnabled));
     EXPECT_TRUE(invoice->boolValue(key::isShippingTax1Enabled));
@@ -244,7 +250,7 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     EXPECT_TRUE(discount->percentField()->isEnabled());
     type(discount->percentField(), QStringLiteral("10"));
     shoot(discount, QStringLiteral("08-discount-popover"));
-    QTest::mouseClick(button(discount, QStringLiteral("Give Discount")), Qt::LeftButton);
+    QTest::mouseClick(button(discount, "&Give Discount"), Qt::LeftButton);
     EXPECT_FLOAT_EQ(invoice->floatValue(key::discountPercent), 0.1f);
     EXPECT_NEAR(invoice->floatValue(key::amount), beforeDiscount * 0.9f, 0.01f);
     shoot(window.get(), QStringLiteral("09-items-totals"));
@@ -263,6 +269,12 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     window->showPage(2);
     InfoPage* info = window->infoPage();
     EXPECT_EQ(window->pages()->currentWidget(), info);
+    // The e-invoice fields start empty; each edit is one named step.
+    auto* leitweg = info->findChild<QLineEdit*>(QStringLiteral("buyerReferenceView"));
+    EXPECT_TRUE(leitweg->text().isEmpty());
+    type(leitweg, QStringLiteral("04011000-12345-67"));
+    EXPECT_EQ(invoice->stringValue(key::buyerReference), QStringLiteral("04011000-12345-67"));
+    EXPECT_TRUE(window->undoAction()->text().contains(QStringLiteral("Change Buyer Reference")));
     info->statusField()->setCurrentIndex(3);
     Q_EMIT info->statusField()->activated(3);
     EXPECT_EQ(invoice->intValue(key::status), 3);
@@ -306,6 +318,7 @@ TEST_F(MainWindowStoryTest, ASentInvoiceIsReadOnlyAndSaysWhy)
 
     auto* title = info->findChild<QLineEdit*>(QStringLiteral("titleView"));
     EXPECT_TRUE(title->isReadOnly());
+    EXPECT_TRUE(info->findChild<QLineEdit*>(QStringLiteral("orderReferenceView"))->isReadOnly());
     EXPECT_FALSE(title->toolTip().isEmpty());
     EXPECT_TRUE(info->findChild<QLabel*>(QStringLiteral("lockBanner"))->isVisible());
     EXPECT_TRUE(info->statusField()->isEnabled());
