@@ -134,18 +134,8 @@ TEST_F(AssiTest, TheLanguagePageWritesItsListAndSeedsTheDesignsOnce)
     assi().setLanguage(1);
     ASSERT_TRUE(assi().firstAssiTabAction());
     EXPECT_EQ(seeded, 1);
-    const auto german = AppDelegate::defaultList("defaultPrefsGerman");
-    const auto english = AppDelegate::defaultList("defaultPrefsEnglish");
-    ASSERT_TRUE(german.ok() && english.ok());
-    // Written to the file, not only in memory.
-    Settings stored(h.env.locations().settingsFile());
-    ASSERT_TRUE(stored.load().ok());
-    int differing = 0;
-    for (auto it = german.value().cbegin(); it != german.value().cend(); ++it) {
-        EXPECT_EQ(stored.value(it.key()), it.value()) << it.key().toStdString();
-        differing += english.value().value(it.key()) != it.value();
-    }
-    EXPECT_GT(differing, 10);
+    // Written to the file, not only in memory; loading a whole list is the delegate's, tested there.
+    EXPECT_EQ(h.storedSetting("locQuote"), "Angebot");
 }
 
 TEST_F(AssiTest, WithoutAStoreTheDefaultsAreWrittenAndSeedingWaits)

@@ -65,8 +65,7 @@ TEST_P(DefaultsLoadTest, WritesTheLanguagesList)
 }
 
 INSTANTIATE_TEST_SUITE_P(Languages, DefaultsLoadTest,
-                         ::testing::Values(LoadCase{"german", 1}, LoadCase{"french", 2},
-                                           LoadCase{"spanish", 3}, LoadCase{"English", 0}),
+                         ::testing::Values(LoadCase{"german", 1}, LoadCase{"English", 0}),
                          [](const auto& info) { return std::string(info.param.language); });
 
 struct WriteCase
@@ -87,12 +86,10 @@ const WriteCase writeCases[] = {
     {"BoolFalse", {"tempUseSKU", "false", "--type", "bool"}, "false"},
     {"BoolBad", {"tempUseSKU", "maybe", "--type", "bool"}, nullptr},
     {"Int", {"invCount", "--type", "int", "42"}, "42"},
-    {"IntNegative", {"invCount", "-7", "--type", "int"}, "-7"},
     {"IntFraction", {"invCount", "4.5", "--type", "int"}, nullptr},
     {"IntText", {"invCount", "many", "--type", "int"}, nullptr},
     {"IntOverflow", {"invCount", "99999999999999999999", "--type", "int"}, nullptr},
     {"Float", {"tax1Rate", "0.19", "--type", "float"}, "0.19"},
-    {"FloatNegative", {"tax2Rate", "-0.15", "--type", "float"}, "-0.15"},
     {"FloatText", {"tax1Rate", "much", "--type", "float"}, nullptr},
     {"FloatNotANumber", {"tax1Rate", "nan", "--type", "float"}, nullptr},
     {"FloatInfinite", {"tax1Rate", "inf", "--type", "float"}, nullptr},

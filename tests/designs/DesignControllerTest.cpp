@@ -10,7 +10,6 @@
 #include "tests/support/ScriptedUserInterface.h"
 
 #include <QFile>
-#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTimeZone>
 
@@ -141,64 +140,6 @@ INSTANTIATE_TEST_SUITE_P(Cases, DesignSeedQuirk,
                                            SeedCase{"eighthAsDesign", 8, "Design", 9, {}},
                                            SeedCase{"missingResourceSeedsNothing", 4, {}, 0, {}}),
                          [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(DesignTest, BuiltInDesignsUseEveryTokenWhereItIsReplaced)
-{
-    // Page tokens are replaced only in the page (and the ones replaced after
-    // the item list also in rows); row tokens only in rows. A token in the
-    // wrong template would print literally.
-    const auto tokens = [](const char* names) {
-        QStringList list;
-        for (const QString& name : QString(names).split(' '))
-            list << '%' + name + '%';
-        return list;
-    };
-    // The labels of one kind of document ("Invoice No.", "Valid Until", "Payment
-    // Reminder" ...) would be wrong on the others: the built-in designs serve
-    // every kind and take their labels from the tokens that follow the kind
-    // (%LETTERTITLE%, %LOCDUE%, %LOCNUMBER%), so they need not use these.
-    const QStringList kindLabels =
-        tokens("LOCINVOICE LOCEXPIRATION LOCQUOTENUMBER LOCREMINDER LOCOVERDUE LOCINVOICENUMBER");
-    const QStringList pageOnly =
-        tokens("CSS COMPANY SLOGAN COMPANYCONTACT LETTERTITLE CLIENTADDRESS DISPATCHED DATE DUEDATE NUMBER "
-               "CLIENTNUMBER LOCDATE LOCDUE LOCNUMBER LOCCLIENTNUMBER LOCDISPATCHED SUBJECT CONDITIONS "
-               "FOOTER SUBTOTAL TOTAL LOCSUBTOTAL LOCDISCOUNT DISCOUNTKINDCHAR DISCOUNT SHIPPING LOCSHIPPING "
-               "LOCTOTAL TAX1TITLE TAX1 TAX1RATE TAX2TITLE TAX2 TAX2RATE TAX3TITLE TAX3 TAX3RATE ITEMSLIST "
-               "WINDOW LOGO PAYMENTQR") +
-        kindLabels;
-    const QStringList rowOnly =
-        tokens("ITEMNUMBER ITEMSQUANTITY ITEMSUNIT ITEMSBASEAMOUNT ITEMSSKU ITEMSSUBAMOUNT ITEMSTITLE "
-               "ITEMSSUBTITLE ITEMSAMOUNT ITEMSTAX1TITLE ITEMSTAX1PERCENT ITEMSTAX1AMOUNT ITEMSTAX2TITLE "
-               "ITEMSTAX2PERCENT ITEMSTAX2AMOUNT ITEMSTAX3TITLE ITEMSTAX3PERCENT ITEMSTAX3AMOUNT "
-               "LOCSHORTNUMBER LOCUNIT LOCUNITPRICE LOCNET LOCSKUNUMBER LOCDESCRIPTION LOCQUANTITY");
-    const QStringList both = tokens("CURRENCY LOCTAXES");
-    // Replaced in the page after the rows are in, so they work in rows too.
-    const QStringList lateInPage = kindLabels + tokens("LOCTAXES WINDOW LOGO");
-    seed();
-    QString pages, rows;
-    for (const ManagedObject* d : context.fetch(Entity::Design)) {
-        const QString page = d->stringValue("invoice"), row = d->stringValue("item");
-        EXPECT_TRUE(page.contains("%ITEMSLIST%") && page.contains("%CSS%"))
-            << d->stringValue("title").toStdString();
-        static const QRegularExpression token("%[A-Z0-9]+%");
-        for (auto it = token.globalMatch(page); it.hasNext();) {
-            const QString t = it.next().captured();
-            EXPECT_TRUE(pageOnly.contains(t) || both.contains(t)) << t.toStdString() << " in a page";
-        }
-        for (auto it = token.globalMatch(row); it.hasNext();) {
-            const QString t = it.next().captured();
-            EXPECT_TRUE(rowOnly.contains(t) || both.contains(t) || lateInPage.contains(t))
-                << t.toStdString() << " in a row";
-        }
-        pages += page;
-        rows += row;
-    }
-    for (const QString& t : pageOnly)
-        EXPECT_TRUE(pages.contains(t) || kindLabels.contains(t)) << t.toStdString();
-    for (const QString& t : rowOnly + both)
-        EXPECT_TRUE(rows.contains(t)) << t.toStdString();
-    EXPECT_TRUE(pages.contains("%LOCTAXES%"));
-}
 
 TEST_F(DesignTest, NewDesignIsTitledNotDefaultAndItsTitleEdited)
 {

@@ -105,11 +105,6 @@ const CardCase cardCases[] = {
      "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=windows-1252:Caf\xE9;\x80uro\r\nEND:VCARD\r\n",
      {"€uro|Café|||||||"},
      0},
-    {"koi8Charset",
-     "BEGIN:VCARD\r\nVERSION:2.1\r\nN;CHARSET=KOI8-R:\xE9\xD7\xC1\xCE\xCF\xD7;\xE9\xD7\xC1\xCE\r\nEND:"
-     "VCARD\r\n",
-     {"Иван|Иванов|||||||"},
-     0},
     {"unlabelled8BitFallsBackToLatin1",
      "BEGIN:VCARD\r\nVERSION:2.1\r\nN:M\xFCller;Hans\r\nEND:VCARD\r\n",
      {"Hans|Müller|||||||"},
