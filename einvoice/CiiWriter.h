@@ -7,7 +7,7 @@
 namespace vorn {
 
 // Writes an invoice as a UN/CEFACT Cross Industry Invoice (D16B) of the
-// EN 16931 profile, or of XRechnung with its specification identifier.
+// EN 16931 profile, or of XRechnung with its guideline identifier.
 namespace CiiWriter {
 
 inline constexpr const char* en16931Guideline = "urn:cen.eu:en16931:2017";
