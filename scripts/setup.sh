@@ -9,7 +9,7 @@ packages=(
   qt6-webengine-dev qt6-pdf-dev libgl-dev
   libsqlite3-dev libplist-dev libicu-dev
   libgtest-dev libgmock-dev
-  xvfb xauth poppler-utils python3
+  xvfb xauth poppler-utils python3 fonts-dejavu-core
   libqpdf-dev qpdf libqrencode-dev
   zbar-tools python3-pikepdf libsaxonhe-java
   desktop-file-utils appstream libxml2-utils dpkg-dev qt6-translations-l10n

@@ -27,10 +27,22 @@ with pdf.open_metadata() as meta:
     for key in ("DocumentFileName", "DocumentType", "ConformanceLevel", "Version"):
         out["xmp"]["fx:" + key] = str(meta.get(fx + key, ""))
 out["metadataFiltered"] = "/Filter" in root.Metadata
-# Every font of the file, wherever the pages use it from, has its program.
-fonts = []
-for obj in pdf.objects:
-    if isinstance(obj, pikepdf.Dictionary) and obj.get("/Type") == "/FontDescriptor":
-        fonts.append(any(k in obj for k in ("/FontFile", "/FontFile2", "/FontFile3")))
+
+
+# Every font of the file carries its glyphs: a Type 3 font draws them with its
+# own content streams, every other font needs its program in its descriptor.
+def embedded(font):
+    if font.get("/Subtype") == "/Type3":
+        return "/CharProcs" in font
+    if font.get("/Subtype") == "/Type0":
+        font = font["/DescendantFonts"][0]
+    descriptor = font.get("/FontDescriptor")
+    return descriptor is not None and any(k in descriptor for k in ("/FontFile", "/FontFile2", "/FontFile3"))
+
+
+# Descendant CID fonts are checked through the Type 0 font that uses them.
+fonts = [embedded(obj) for obj in pdf.objects
+         if isinstance(obj, pikepdf.Dictionary) and obj.get("/Type") == "/Font"
+         and obj.get("/Subtype") not in ("/CIDFontType0", "/CIDFontType2")]
 out["fontsEmbedded"] = all(fonts) and len(fonts) > 0
 print(json.dumps(out))
