@@ -36,7 +36,7 @@ TEST_F(ArrayControllerTest, SortsNewestDateFirstThenLastCreatedFirst)
     doc("c", utc(2026, 1, 1));
     doc("d", utc(2025, 12, 31, 23, 59, 59, 999));
     doc("e", utc(2026, 3, 1));
-    doc("f", utc(2026, 1, 1, 12, 0, 0, 1));
+    doc("f", utc(2026, 1, 1, 0, 0, 0, 1));
     doc("g", QDateTime());
     m_list.setEntity(&m_context, Entity::Invoice);
     EXPECT_EQ(arranged(), "ebfcadg");

@@ -1,12 +1,5 @@
 #include "store/Clone.h"
-
-#include "store/Clock.h"
-#include "store/ObjectContext.h"
-#include "tests/support/TestValues.h"
-
-#include <gtest/gtest.h>
-
-#include <memory>
+#include "tests/store/StoreTestSupport.h"
 
 using namespace vorn;
 using namespace vorn::test;
@@ -34,14 +27,6 @@ protected:
         return invoice;
     }
 };
-
-QStringList titles(const QList<ManagedObject*>& items)
-{
-    QStringList result;
-    for (const ManagedObject* item : items)
-        result << item->stringValue(QStringLiteral("title"));
-    return result;
-}
 
 } // namespace
 

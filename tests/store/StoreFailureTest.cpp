@@ -1,5 +1,7 @@
 #include "tests/store/StoreTestSupport.h"
 
+#include <map>
+
 #include <unistd.h>
 
 namespace vorn::test {
@@ -122,8 +124,10 @@ TEST_F(StoreFixture, EmptyFileBecomesANewStore)
     EXPECT_TRUE(SqliteStore::validate(path(), ObjectModel::vorn()).ok());
 }
 
-// A file system that can fill up: SQLite's own file system with every write
-// that would make a file longer failing as on a full disk, while full is set.
+// A file system that can fill up: SQLite's own, with every write that would
+// make a file longer failing as on a full disk while full is set. Its files
+// are the real ones with the write method swapped; each file's real methods
+// are kept right behind it.
 class FullDisk
 {
 public:
@@ -132,7 +136,7 @@ public:
         s_real = sqlite3_vfs_find(nullptr);
         s_vfs = *s_real;
         s_vfs.zName = "vorn-full-disk";
-        s_vfs.szOsFile = int(sizeof(File)) + s_real->szOsFile;
+        s_vfs.szOsFile = s_real->szOsFile + int(sizeof(void*));
         s_vfs.xOpen = &FullDisk::open;
         sqlite3_vfs_register(&s_vfs, 1);
     }
@@ -145,68 +149,24 @@ public:
     void setFull(bool full) { s_full = full; }
 
 private:
-    struct File
+    static const sqlite3_io_methods*& realMethods(sqlite3_file* f)
     {
-        sqlite3_file base;
-        sqlite3_file* real() { return reinterpret_cast<sqlite3_file*>(this + 1); }
-    };
-    static File* of(sqlite3_file* f) { return reinterpret_cast<File*>(f); }
-    static sqlite3_file* real(sqlite3_file* f) { return of(f)->real(); }
+        return *reinterpret_cast<const sqlite3_io_methods**>(reinterpret_cast<char*>(f) + s_real->szOsFile);
+    }
 
     static int open(sqlite3_vfs*, sqlite3_filename name, sqlite3_file* file, int flags, int* outFlags)
     {
-        File* f = of(file);
-        f->base.pMethods = nullptr;
-        const int rc = s_real->xOpen(s_real, name, f->real(), flags, outFlags);
-        if (f->real()->pMethods) {
-            s_methods = *f->real()->pMethods;
-            s_methods.xClose = [](sqlite3_file* f) { return real(f)->pMethods->xClose(real(f)); };
-            s_methods.xRead = [](sqlite3_file* f, void* b, int n, sqlite3_int64 o) {
-                return real(f)->pMethods->xRead(real(f), b, n, o);
-            };
-            s_methods.xWrite = [](sqlite3_file* f, const void* b, int n, sqlite3_int64 o) {
+        const int rc = s_real->xOpen(s_real, name, file, flags, outFlags);
+        if (file->pMethods) {
+            realMethods(file) = file->pMethods;
+            sqlite3_io_methods& wrapped =
+                s_wrapped.try_emplace(file->pMethods, *file->pMethods).first->second;
+            wrapped.xWrite = [](sqlite3_file* f, const void* b, int n, sqlite3_int64 o) {
                 sqlite3_int64 size = 0;
-                real(f)->pMethods->xFileSize(real(f), &size);
-                if (s_full && o + n > size)
-                    return SQLITE_FULL;
-                return real(f)->pMethods->xWrite(real(f), b, n, o);
+                realMethods(f)->xFileSize(f, &size);
+                return s_full && o + n > size ? SQLITE_FULL : realMethods(f)->xWrite(f, b, n, o);
             };
-            s_methods.xTruncate = [](sqlite3_file* f, sqlite3_int64 n) {
-                return real(f)->pMethods->xTruncate(real(f), n);
-            };
-            s_methods.xSync = [](sqlite3_file* f, int fl) { return real(f)->pMethods->xSync(real(f), fl); };
-            s_methods.xFileSize = [](sqlite3_file* f, sqlite3_int64* n) {
-                return real(f)->pMethods->xFileSize(real(f), n);
-            };
-            s_methods.xLock = [](sqlite3_file* f, int l) { return real(f)->pMethods->xLock(real(f), l); };
-            s_methods.xUnlock = [](sqlite3_file* f, int l) { return real(f)->pMethods->xUnlock(real(f), l); };
-            s_methods.xCheckReservedLock = [](sqlite3_file* f, int* r) {
-                return real(f)->pMethods->xCheckReservedLock(real(f), r);
-            };
-            s_methods.xFileControl = [](sqlite3_file* f, int op, void* a) {
-                return real(f)->pMethods->xFileControl(real(f), op, a);
-            };
-            s_methods.xSectorSize = [](sqlite3_file* f) { return real(f)->pMethods->xSectorSize(real(f)); };
-            s_methods.xDeviceCharacteristics = [](sqlite3_file* f) {
-                return real(f)->pMethods->xDeviceCharacteristics(real(f));
-            };
-            s_methods.xShmMap = [](sqlite3_file* f, int p, int s, int e, void volatile** m) {
-                return real(f)->pMethods->xShmMap(real(f), p, s, e, m);
-            };
-            s_methods.xShmLock = [](sqlite3_file* f, int o, int n, int fl) {
-                return real(f)->pMethods->xShmLock(real(f), o, n, fl);
-            };
-            s_methods.xShmBarrier = [](sqlite3_file* f) { real(f)->pMethods->xShmBarrier(real(f)); };
-            s_methods.xShmUnmap = [](sqlite3_file* f, int d) {
-                return real(f)->pMethods->xShmUnmap(real(f), d);
-            };
-            s_methods.xFetch = [](sqlite3_file* f, sqlite3_int64 o, int n, void** p) {
-                return real(f)->pMethods->xFetch(real(f), o, n, p);
-            };
-            s_methods.xUnfetch = [](sqlite3_file* f, sqlite3_int64 o, void* p) {
-                return real(f)->pMethods->xUnfetch(real(f), o, p);
-            };
-            f->base.pMethods = &s_methods;
+            file->pMethods = &wrapped;
         }
         return rc;
     }
@@ -214,7 +174,8 @@ private:
     // Static: connections opened through it may outlive the test's object.
     static inline sqlite3_vfs s_vfs{};
     static inline sqlite3_vfs* s_real = nullptr;
-    static inline sqlite3_io_methods s_methods{};
+    // One copy of each kind of the real file system's methods (main file, journal ...).
+    static inline std::map<const sqlite3_io_methods*, sqlite3_io_methods> s_wrapped;
     static inline bool s_full = false;
 };
 

@@ -3,13 +3,12 @@
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/SqliteStore.h"
+#include "tests/support/TestValues.h"
 
-#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <QTimeZone>
 
 #include <gtest/gtest.h>
 
@@ -18,11 +17,6 @@
 #include <memory>
 
 namespace vorn::test {
-
-inline QDateTime utc(int y, int mo, int d, int h = 12, int mi = 0, int s = 0, int ms = 0)
-{
-    return QDateTime(QDate(y, mo, d), QTime(h, mi, s, ms), QTimeZone::utc());
-}
 
 inline QByteArray fileBytes(const QString& path)
 {
