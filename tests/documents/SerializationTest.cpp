@@ -15,6 +15,7 @@ using namespace vorn;
 namespace {
 
 const QDateTime now(QDate(2026, 3, 1), QTime(10, 0), QTimeZone::utc());
+const QDateTime referenceDate(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
 
 // A value of each type that would be damaged by a careless conversion:
 // non-ASCII text, a negative integer, a float that is not a short double, a
@@ -47,13 +48,18 @@ void fillEveryAttribute(ManagedObject& object, const QString& leaveAbsent)
                                : sampleValue(attributes[size_t(i)].type, i));
 }
 
-enum class Carrier
+// How a document's dictionary travels: as it is, or written into a file of
+// the given form (the dictionary under "vornDic") and read back.
+struct Carrier
 {
-    Dictionary,
-    KeyedArchive,
-    BinaryPlist,
-    XmlPlist
+    const char* name;
+    QByteArray (*write)(const QVariant& root);
 };
+
+const Carrier carriers[] = {{"Dictionary", nullptr},
+                            {"KeyedArchive", KeyedArchive::archive},
+                            {"BinaryPlist", PropertyList::toBinary},
+                            {"XmlPlist", PropertyList::toXml}};
 
 struct RoundTripCase
 {
@@ -61,12 +67,6 @@ struct RoundTripCase
     Carrier carrier;
     QString absentKey;
 };
-
-std::string caseName(const RoundTripCase& c)
-{
-    static const char* carriers[] = {"Dictionary", "KeyedArchive", "BinaryPlist", "XmlPlist"};
-    return c.entity.toStdString() + carriers[int(c.carrier)];
-}
 
 class SerializationRoundTrip : public ::testing::TestWithParam<RoundTripCase>
 {
@@ -83,33 +83,17 @@ TEST_P(SerializationRoundTrip, EveryAttributeComesBackAsItWas)
     const RoundTripCase& c = GetParam();
     ManagedObject* original = source.insertNewObject(c.entity);
     fillEveryAttribute(*original, c.absentKey);
-    QVariantMap dictionary = Serialization::toDictionary(*original);
+    const QVariantMap dictionary = Serialization::toDictionary(*original);
     EXPECT_EQ(dictionary.value("class").toString(), "NSManagedObject");
     EXPECT_FALSE(dictionary.contains(c.absentKey));
 
-    QVariant carried = dictionary;
-    switch (c.carrier) {
-    case Carrier::Dictionary:
-        break;
-    case Carrier::KeyedArchive: {
-        auto back = InterchangeFile::rootEntry(KeyedArchive::archive(QVariantMap{{"vornDic", dictionary}}),
-                                               "vornDic");
+    QVariantMap read = dictionary;
+    if (c.carrier.write) {
+        auto back =
+            InterchangeFile::rootEntry(c.carrier.write(QVariantMap{{"vornDic", dictionary}}), "vornDic");
         ASSERT_TRUE(back.ok()) << back.error().message.toStdString();
-        carried = back.value();
-        break;
+        read = back.value();
     }
-    case Carrier::BinaryPlist:
-    case Carrier::XmlPlist: {
-        const QVariantMap root{{"vornDic", dictionary}};
-        auto back = InterchangeFile::rootEntry(c.carrier == Carrier::XmlPlist ? PropertyList::toXml(root)
-                                                                              : PropertyList::toBinary(root),
-                                               "vornDic");
-        ASSERT_TRUE(back.ok()) << back.error().message.toStdString();
-        carried = back.value();
-        break;
-    }
-    }
-    QVariantMap read = carried.toMap();
     // The generic class name stands for an item; other entities are named.
     read.insert("class", c.entity == Entity::Item ? QStringLiteral("NSManagedObject") : c.entity);
     auto copy = Serialization::createManagedObjectFromDictionary(read, target);
@@ -127,7 +111,7 @@ TEST_P(SerializationRoundTrip, EveryAttributeComesBackAsItWas)
             continue;
         }
         ASSERT_EQ(actual.typeId(), expected.typeId()) << a.name.toStdString();
-        if (a.type == AttributeType::Date && c.carrier == Carrier::XmlPlist)
+        if (a.type == AttributeType::Date && c.carrier.write == PropertyList::toXml)
             // XML property lists keep whole seconds.
             EXPECT_EQ(actual.toDateTime().toSecsSinceEpoch(), expected.toDateTime().toSecsSinceEpoch());
         else
@@ -146,8 +130,7 @@ std::vector<RoundTripCase> roundTripCases()
                                             {Entity::RecentShipping, "note"}, {Entity::Design, "css"}};
     std::vector<RoundTripCase> cases;
     for (const auto& [entity, key] : absent)
-        for (Carrier carrier :
-             {Carrier::Dictionary, Carrier::KeyedArchive, Carrier::BinaryPlist, Carrier::XmlPlist})
+        for (const Carrier& carrier : carriers)
             cases.push_back({entity, carrier, key});
     return cases;
 }
@@ -155,7 +138,9 @@ std::vector<RoundTripCase> roundTripCases()
 } // namespace
 
 INSTANTIATE_TEST_SUITE_P(Entities, SerializationRoundTrip, ::testing::ValuesIn(roundTripCases()),
-                         [](const auto& info) { return caseName(info.param); });
+                         [](const auto& info) {
+                             return info.param.entity.toStdString() + info.param.carrier.name;
+                         });
 
 namespace {
 
@@ -225,22 +210,21 @@ TEST_F(SerializationTest, ItemWritesItsDocumentWithoutComingBackThroughIt)
 
 TEST(SerializationDecodedValue, OldDateMarkerBecomesTheReferenceDate)
 {
-    const QDateTime reference(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
     const struct
     {
         QVariant in;
         QVariant out;
     } cases[] = {
-        {QStringLiteral("dAtEaTtr:"), reference},
-        {QStringLiteral("dAtEaTtr:788918400"), reference},
-        {QStringLiteral("dAtEaTtr:-5 whatever"), reference},
+        {QStringLiteral("dAtEaTtr:"), referenceDate},
+        {QStringLiteral("dAtEaTtr:788918400"), referenceDate},
+        {QStringLiteral("dAtEaTtr:-5 whatever"), referenceDate},
         {QStringLiteral("dAtEaTtr"), QStringLiteral("dAtEaTtr")},
         {QStringLiteral("DATEATTR:12"), QStringLiteral("DATEATTR:12")},
         {QStringLiteral(" dAtEaTtr:12"), QStringLiteral(" dAtEaTtr:12")},
         {QString(), QString()},
         {qint64(5), qint64(5)},
         {QByteArray("dAtEaTtr:"), QByteArray("dAtEaTtr:")},
-        {reference.addDays(3), reference.addDays(3)},
+        {referenceDate.addDays(3), referenceDate.addDays(3)},
     };
     for (const auto& c : cases) {
         const QVariant out = Serialization::decodedValueFrom(c.in, "date");
@@ -282,15 +266,11 @@ QVariantMap nestedTooDeep()
     return QVariantMap{{"class", "Invoice"}, {"items", QVariantList{inner}}};
 }
 
-const QDateTime referenceDate(QDate(2001, 1, 1), QTime(0, 0), QTimeZone::utc());
-
 } // namespace
 
-class SerializationDictionaryTest : public ::testing::TestWithParam<DictionaryCase>
+class SerializationDictionaryTest : public SerializationTest,
+                                    public ::testing::WithParamInterface<DictionaryCase>
 {
-protected:
-    FixedClock clock{now};
-    ObjectContext context{nullptr, clock};
 };
 
 TEST_P(SerializationDictionaryTest, WholeTreeIsCheckedBeforeAnythingIsInserted)
