@@ -26,22 +26,16 @@ public:
     };
 
     int runAlert(const Alert& alert) override;
-    std::optional<QString> runOpenPanel(const FilePanel& panel) override;
-    std::optional<QString> runSavePanel(const FilePanel& panel) override;
+    std::optional<QString> runOpenPanel(const FilePanel& p) override { return runPanel("open", p); }
+    std::optional<QString> runSavePanel(const FilePanel& p) override { return runPanel("save", p); }
     bool presentError(const Error& error) override;
-    void beep() override { m_calls.append({QStringLiteral("beep"), {}, {}, {}, 0}); }
-    void centerMainWindow() override { m_calls.append({QStringLiteral("center"), {}, {}, {}, 0}); }
-    void selectToolbarItem(const QString& id) override
-    {
-        m_calls.append({QStringLiteral("toolbar"), id, {}, {}, 0});
-    }
-    void focus(const QString& target) override
-    {
-        m_calls.append({QStringLiteral("focus"), target, {}, {}, 0});
-    }
-    void showPreferencesWindow() override { m_calls.append({QStringLiteral("preferences"), {}, {}, {}, 0}); }
-    bool openUrl(const QUrl& url) override;
-    bool openApplication(const QString& identifier) override;
+    void beep() override { record("beep"); }
+    void centerMainWindow() override { record("center"); }
+    void selectToolbarItem(const QString& id) override { record("toolbar", id); }
+    void focus(const QString& target) override { record("focus", target); }
+    void showPreferencesWindow() override { record("preferences"); }
+    bool openUrl(const QUrl& url) override { return record("url", url.toString()); }
+    bool openApplication(const QString& id) override { return record("application", id); }
     // Records the job (kept for the test to paint) and answers from the queue (printed when empty).
     bool runPrintOperation(const PrintJob& job) override;
 
@@ -54,7 +48,7 @@ public:
 
     const QList<Call>& calls() const { return m_calls; }
     QList<Call> calls(const QString& kind) const;
-    // Alert titles (or texts when asked) in order.
+    // Alert titles in order.
     QStringList alertTitles() const;
     QList<int> errorCodes() const;
     // Every error presented, whole (domain included), in order.
@@ -66,6 +60,15 @@ public:
     }
 
 private:
+    // Answers true: the URL opens, the application starts.
+    bool record(const QString& kind, const QString& title = {}, const QString& text = {},
+                const QStringList& buttons = {}, int code = 0)
+    {
+        m_calls.append({kind, title, text, buttons, code});
+        return true;
+    }
+    std::optional<QString> runPanel(const QString& kind, const FilePanel& panel);
+
     QList<Call> m_calls;
     QList<Error> m_errors;
     QQueue<int> m_alertAnswers;
