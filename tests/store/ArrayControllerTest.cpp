@@ -16,9 +16,7 @@ protected:
     ManagedObject* doc(const QString& title, const QDateTime& date, int kind = 1)
     {
         ManagedObject* o = m_context.insertNewObject(Entity::Invoice);
-        o->setValue("title", title);
-        o->setValue(kDate, date);
-        o->setValue("kind", kind);
+        assign(*o, "title", title, kDate, date, "kind", kind);
         return o;
     }
 

@@ -439,18 +439,20 @@ TEST_F(StoreFixture, RedoOfANewDocumentBringsBackTheSameObjects)
 
 // ---------------------------------------------------------------- fetching
 
+// Store order is creation order, whatever the values; deleted objects are left
+// out; the named fetch answers the default design.
 TEST_F(StoreFixture, FetchAnswersStoreOrderAndLeavesOutDeleted)
 {
-    // Dates out of order: store order is creation order, whatever the values.
     const QDateTime dates[] = {utc(2026, 5, 1), utc(2024, 1, 1), utc(2027, 1, 1), utc(2025, 1, 1)};
-    for (int i = 0; i < 4; ++i) {
-        ManagedObject* d = newDocument(QString::number(i));
-        d->setValue("date", dates[i]);
-        d->setValue("kind", i % 2);
-    }
+    for (int i = 0; i < 4; ++i)
+        assign(*newDocument(QString::number(i)), "date", dates[i], "kind", i % 2);
+    for (int i = 0; i < 3; ++i)
+        assign(*context()->insertNewObject(Entity::Design), kTitle, QString::number(i), "isDefault", i == 1);
     EXPECT_EQ(letters(context()->fetch(Entity::Invoice)), "0123");
+    EXPECT_EQ(letters(context()->fetchNamed("defaultDesign")), "1");
     ASSERT_TRUE(context()->save());
     EXPECT_EQ(letters(reopen()->fetch(Entity::Invoice)), "0123");
+    EXPECT_EQ(letters(context()->fetchNamed("defaultDesign")), "1");
     context()->deleteObject(document("1"));
     EXPECT_EQ(letters(context()->fetch(Entity::Invoice)), "023");
     EXPECT_EQ(letters(context()->fetch(Entity::Invoice,
@@ -461,6 +463,7 @@ TEST_F(StoreFixture, FetchAnswersStoreOrderAndLeavesOutDeleted)
     ASSERT_TRUE(context()->save());
     EXPECT_EQ(letters(reopen()->fetch(Entity::Invoice)), "0234");
     EXPECT_FALSE(context()->fetchObjects("NoSuchEntity").ok());
+    EXPECT_TRUE(context()->fetchNamed("noSuchTemplate").isEmpty());
 }
 
 class LazyItemsTest : public StoreFixture, public ::testing::WithParamInterface<bool>
@@ -501,19 +504,6 @@ TEST_P(LazyItemsTest, LazyListsAndFetchOfAllItemsAgree)
 
 INSTANTIATE_TEST_SUITE_P(Order, LazyItemsTest, ::testing::Bool(),
                          [](const auto& info) { return info.param ? "ListFirst" : "FetchFirst"; });
-
-TEST_F(StoreFixture, FetchNamedDefaultDesign)
-{
-    for (int i = 0; i < 3; ++i) {
-        ManagedObject* design = context()->insertNewObject(Entity::Design);
-        design->setValue(kTitle, QString::number(i));
-        design->setValue("isDefault", i == 1);
-    }
-    EXPECT_EQ(letters(context()->fetchNamed("defaultDesign")), "1");
-    ASSERT_TRUE(context()->save());
-    EXPECT_EQ(letters(reopen()->fetchNamed("defaultDesign")), "1");
-    EXPECT_TRUE(context()->fetchNamed("noSuchTemplate").isEmpty());
-}
 
 } // namespace
 } // namespace vorn::test

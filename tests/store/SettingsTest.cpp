@@ -118,9 +118,6 @@ const BadSettingsCase badSettingsCases[] = {
     {"TruncatedXml", half(PropertyList::toXml(QVariantMap{{"locInvoice", "Invoice"}, {"invCount", 1000}}))},
     {"RootIsArray", PropertyList::toXml(QVariantList{"a", qint64(1)})},
     {"RootIsString", PropertyList::toXml(QString("just text"))},
-    {"DeepNesting", "<?xml version=\"1.0\"?><plist version=\"1.0\"><dict><key>a</key>" +
-                        QByteArray("<array>").repeated(100000) + QByteArray("</array>").repeated(100000) +
-                        "</dict></plist>"},
     {"TruncatedBinary", half(PropertyList::toBinary(QVariantMap{{"locInvoice", "Invoice"}}))},
     {"Empty", QByteArray()},
 };
