@@ -5,6 +5,7 @@
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/PropertyList.h"
+#include "tests/support/TestValues.h"
 
 #include <QFile>
 #include <QTimeZone>
@@ -14,6 +15,7 @@
 #include <limits>
 
 using namespace vorn;
+using namespace vorn::test;
 
 namespace {
 
@@ -168,8 +170,7 @@ TEST(HostileDocumentFile, EveryTruncationAndEveryFlippedByteIsSurvived)
     FixedClock clock(now);
     ObjectContext source(nullptr, clock);
     ManagedObject* document = source.insertNewObject(Entity::Invoice);
-    document->setValue("number", "RE-1");
-    document->setValue("amount", 12.5f);
+    assign(*document, "number", "RE-1", "amount", 12.5f);
     ManagedObject* item = source.insertNewObject(Entity::Item);
     item->setValue("title", "Work");
     document->insertObject("items", item);

@@ -81,7 +81,7 @@ TEST(KeyedArchive, LayoutIsTheKeyedArchiversOwn)
     EXPECT_EQ(back.value(), QVariant(tree));
 }
 
-TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriter)
+TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriterAndPlainPropertyLists)
 {
     auto entry = InterchangeFile::readDocumentFile(dataDir + "/python-document.vorn");
     ASSERT_TRUE(entry.ok()) << entry.error().fullText().toStdString();
@@ -104,10 +104,8 @@ TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriter)
     auto design = InterchangeFile::readDesignFile(dataDir + "/python-design.design");
     ASSERT_TRUE(design.ok());
     EXPECT_EQ(fields(design.value(), {"class", "title", "isDefault"}), "Design|From Python|true");
-}
 
-TEST(KeyedArchive, PlainPropertyListsAreReadToo)
-{
+    // Plain property lists are read too.
     auto plain = InterchangeFile::readDocumentFile(dataDir + "/plain-document.vorn");
     ASSERT_TRUE(plain.ok()) << plain.error().fullText().toStdString();
     EXPECT_EQ(plain.value().value("number").toString(), "Q-7");
