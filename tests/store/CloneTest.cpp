@@ -30,26 +30,36 @@ protected:
 
 } // namespace
 
-TEST_F(CloneTest, DocumentWithItemsIsCopiedIntoTheTargetInOrder)
+// Cloning a document, or one of its items, copies the whole document once,
+// its items in order, into the target; the source is left alone.
+TEST_F(CloneTest, DocumentOrOneOfItsItemsCopiesTheWholeDocumentInOrder)
 {
-    ManagedObject* original = document(3);
-    ManagedObject* copy = cloneInContext(*original, target, {});
-    ASSERT_NE(copy, nullptr);
-    EXPECT_EQ(copy->context(), &target);
-    for (const AttributeDescription& a : original->entity().attributes()) {
-        EXPECT_EQ(copy->value(a.name), original->value(a.name)) << a.name.toStdString();
-        EXPECT_EQ(copy->hasValue(a.name), original->hasValue(a.name)) << a.name.toStdString();
+    for (const bool fromItem : {false, true}) {
+        SCOPED_TRACE(fromItem ? "from an item" : "from the document");
+        ObjectContext target{nullptr, clock};
+        ManagedObject* original = document(3);
+        ManagedObject* copy = cloneInContext(fromItem ? *original->items()[1] : *original, target, {});
+        ASSERT_NE(copy, nullptr);
+        ManagedObject* documentCopy = fromItem ? copy->object(QStringLiteral("invoice")) : copy;
+        ASSERT_NE(documentCopy, nullptr);
+        EXPECT_EQ(documentCopy->context(), &target);
+        for (const AttributeDescription& a : original->entity().attributes()) {
+            EXPECT_EQ(documentCopy->value(a.name), original->value(a.name)) << a.name.toStdString();
+            EXPECT_EQ(documentCopy->hasValue(a.name), original->hasValue(a.name)) << a.name.toStdString();
+        }
+        EXPECT_EQ(titles(documentCopy->items()), (QStringList{"Line 0", "Line 1", "Line 2"}));
+        if (fromItem) {
+            EXPECT_EQ(documentCopy->items()[1], copy);
+        }
+        for (ManagedObject* item : documentCopy->items()) {
+            EXPECT_EQ(item->context(), &target);
+            EXPECT_EQ(item->object(QStringLiteral("invoice")), documentCopy);
+        }
+        EXPECT_EQ(original->items().size(), 3);
+        EXPECT_EQ(original->items().first()->object(QStringLiteral("invoice")), original);
+        EXPECT_EQ(target.fetch(Entity::Item).size(), 3);
+        EXPECT_EQ(target.fetch(Entity::Invoice).size(), 1);
     }
-    EXPECT_EQ(titles(copy->items()), (QStringList{"Line 0", "Line 1", "Line 2"}));
-    for (ManagedObject* item : copy->items()) {
-        EXPECT_EQ(item->context(), &target);
-        EXPECT_EQ(item->object(QStringLiteral("invoice")), copy);
-    }
-    // The source graph is left alone.
-    EXPECT_EQ(original->items().size(), 3);
-    EXPECT_EQ(original->items().first()->object(QStringLiteral("invoice")), original);
-    EXPECT_EQ(target.fetch(Entity::Item).size(), 3);
-    EXPECT_EQ(target.fetch(Entity::Invoice).size(), 1);
 }
 
 namespace {
@@ -105,20 +115,6 @@ INSTANTIATE_TEST_SUITE_P(
                       ExclusionCase{
                           "identityAndNumber", {"Design"}, {"uniqueID", "number"}, true, 2, false, false}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(CloneTest, ItemReachesItsDocumentAndIsCopiedOnlyOnce)
-{
-    ManagedObject* original = document(3);
-    ManagedObject* middle = original->items()[1];
-    ManagedObject* itemCopy = cloneInContext(*middle, target, {});
-    ASSERT_NE(itemCopy, nullptr);
-    ManagedObject* documentCopy = itemCopy->object(QStringLiteral("invoice"));
-    ASSERT_NE(documentCopy, nullptr);
-    EXPECT_EQ(titles(documentCopy->items()), (QStringList{"Line 0", "Line 1", "Line 2"}));
-    EXPECT_EQ(documentCopy->items()[1], itemCopy);
-    EXPECT_EQ(target.fetch(Entity::Item).size(), 3);
-    EXPECT_EQ(target.fetch(Entity::Invoice).size(), 1);
-}
 
 TEST_F(CloneTest, SharedCacheCopiesEachObjectOnce)
 {
