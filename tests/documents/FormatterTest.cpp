@@ -6,6 +6,8 @@
 
 #include <gtest/gtest.h>
 
+#include <optional>
+
 namespace vorn {
 namespace {
 
@@ -14,21 +16,14 @@ class LocaleScope
 {
 public:
     explicit LocaleScope(const char* locale)
-        : m_saved(qgetenv("LC_ALL")), m_had(qEnvironmentVariableIsSet("LC_ALL"))
+        : m_saved(qEnvironmentVariableIsSet("LC_ALL") ? std::optional(qgetenv("LC_ALL")) : std::nullopt)
     {
         qputenv("LC_ALL", locale);
     }
-    ~LocaleScope()
-    {
-        if (m_had)
-            qputenv("LC_ALL", m_saved);
-        else
-            qunsetenv("LC_ALL");
-    }
+    ~LocaleScope() { m_saved ? qputenv("LC_ALL", *m_saved) : qunsetenv("LC_ALL"); }
 
 private:
-    QByteArray m_saved;
-    bool m_had;
+    std::optional<QByteArray> m_saved;
 };
 
 // Values stored as single-precision floats reach the formatters widened to
