@@ -122,8 +122,13 @@ bool binaryIsSafe(const QByteArray& data)
             n = be(d + pos + 1, bytes);
             pos += 1 + quint64(bytes);
         }
+        // Each reference takes at least a byte of the file, which bounds the
+        // count before it is multiplied. Equal values written once may be
+        // referenced many more times than there are objects.
+        if (n > quint64(size))
+            return false;
         const quint64 refs = type == 0xD ? n * 2 : n;
-        if (refs > count * 2 + 2 || pos + refs * quint64(refSize) > tableOffset)
+        if (pos + refs * quint64(refSize) > tableOffset)
             return false;
         // Every reference of a container reached stands for at least one
         // value: past the limit, the rest of the file need not be read.

@@ -194,6 +194,10 @@ TEST(PropertyListTest, SharedObjectsAndModerateDepthAreAccepted)
     auto shared = PropertyList::read(binary({array({1, 1, 2}), array({2}), integer(9)}));
     ASSERT_TRUE(shared.ok()) << qPrintable(shared.error().message);
     EXPECT_EQ(shared.value().toList().size(), 3);
+    // Equal values are written once and referenced from every place.
+    auto repeated = PropertyList::read(PropertyList::toBinary(QVariantList(100, QStringLiteral("pc"))));
+    ASSERT_TRUE(repeated.ok()) << qPrintable(repeated.error().message);
+    EXPECT_EQ(repeated.value(), QVariant(QVariantList(100, QStringLiteral("pc"))));
     EXPECT_TRUE(PropertyList::read(deepBinary(PropertyList::maximumDepth - 2)).ok());
     EXPECT_TRUE(PropertyList::read(deepXml("<array>", "</array>", PropertyList::maximumDepth - 2)).ok());
 }
