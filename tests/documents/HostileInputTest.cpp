@@ -96,6 +96,7 @@ struct HostileCase
 {
     const char* name;
     QByteArray data;
+    bool archiveReads = false; // the archive itself reads; what it holds is refused
 };
 
 } // namespace
@@ -109,6 +110,7 @@ TEST_P(HostileDocumentFile, IsRefusedWithAMessageAndInsertsNothing)
 {
     FixedClock clock(now);
     ObjectContext context(nullptr, clock);
+    EXPECT_EQ(KeyedArchive::unarchive(GetParam().data).ok(), GetParam().archiveReads);
     auto created = readDocument(GetParam().data, context);
     ASSERT_FALSE(created.ok()) << "accepted";
     EXPECT_FALSE(created.error().message.isEmpty());
@@ -121,9 +123,9 @@ const HostileCase hostileCases[] = {
     {"text", "hello, this is not a property list"},
     {"html", "<html><body><dict></body></html>"},
     {"sharedReferencesUnfoldingToBillions", fileData("shared-bomb.plist")},
-    {"rootIsAnArray", PropertyList::toXml(QVariantList{"vornDic"})},
-    {"noDocumentKey", PropertyList::toXml(QVariantMap{{"designDic", QVariantMap{}}})},
-    {"documentKeyNotARecord", PropertyList::toXml(QVariantMap{{"vornDic", "Invoice"}})},
+    {"rootIsAnArray", PropertyList::toXml(QVariantList{"vornDic"}), true},
+    {"noDocumentKey", PropertyList::toXml(QVariantMap{{"designDic", QVariantMap{}}}), true},
+    {"documentKeyNotARecord", PropertyList::toXml(QVariantMap{{"vornDic", "Invoice"}}), true},
     {"otherArchiver", archiveOf({"$null", "x"}, uid(1), "NSArchiver")},
     {"noTop", PropertyList::toBinary(
                   QVariantMap{{"$archiver", "NSKeyedArchiver"}, {"$objects", QVariantList{"$null"}}})},
@@ -155,9 +157,11 @@ const HostileCase hostileCases[] = {
     {"timeNotANumber", documentWith(date("noon"), {dateClass})},
     {"timeInfinite", documentWith(date(std::numeric_limits<double>::infinity()), {dateClass})},
     {"timeBeyondAnyCalendar", documentWith(date(1e300), {dateClass})},
-    {"textWhereADateBelongs", documentWith("tomorrow")},
-    {"unknownRecordClass", archiveOf({"$null", dictionary({uid(3)}, {uid(4)}), dictClass, "vornDic",
-                                      dictionary({uid(5)}, {uid(3)}), "items"})},
+    {"textWhereADateBelongs", documentWith("tomorrow"), true},
+    {"unknownRecordClass",
+     archiveOf({"$null", dictionary({uid(3)}, {uid(4)}), dictClass, "vornDic", dictionary({uid(5)}, {uid(3)}),
+                "items"}),
+     true},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, HostileDocumentFile, ::testing::ValuesIn(hostileCases),
