@@ -77,12 +77,12 @@ const std::tuple<const char*, const char*, const char*, const char*> dateCases[]
     // the week-numbering year: US weeks start on Sunday, one day makes a week
     {"en_US.UTF-8", "%DAY%.%MONTHSHORT%.%YEARLONG%", "2024-12-29T12:00:00Z", "29.12.2025"},
     {"en_US.UTF-8", "%DAY%.%MONTHSHORT%.%YEARLONG%", "2021-01-01T12:00:00Z", "01.01.2021"},
-    {"de_DE.UTF-8", "%DAY%.%MONTHSHORT%.%YEARLONG%", "2025-03-05T10:00:00Z", "05.03.2025"},
-    {"de_DE.UTF-8", "%DAY%. %MONTHLONG% %YEARLONG%", "2025-03-05T10:00:00Z", "05. März 2025"},
-    // ISO weeks: 1 January 2021 belongs to the last week of 2020
+    // ISO weeks: 1 January 2021 belongs to the last week of 2020 (the same
+    // pattern and date as the row before: only the locale changed)
     {"de_DE.UTF-8", "%DAY%.%MONTHSHORT%.%YEARLONG%", "2021-01-01T12:00:00Z", "01.01.2020"},
     {"de_DE.UTF-8", "%DAY%.%MONTHSHORT%.%YEARLONG%", "2024-12-29T12:00:00Z", "29.12.2024"},
     {"de_DE.UTF-8", "%DAY%.%MONTHSHORT%.%YEARLONG%", "2024-12-30T12:00:00Z", "30.12.2025"},
+    {"de_DE.UTF-8", "%DAY%. %MONTHLONG% %YEARLONG%", "2025-03-05T10:00:00Z", "05. März 2025"},
     // no pattern: nothing to write
     {"de_DE.UTF-8", "", "2025-03-05T10:00:00Z", ""},
 };
