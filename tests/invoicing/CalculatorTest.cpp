@@ -207,7 +207,7 @@ TEST_P(StatusMoves, OneDocument)
 {
     const StatusCase& c = GetParam();
     ManagedObject* doc = document(c.kind, c.status, c.amount);
-    const QDateTime oldPaid = at(2020, 1, 1);
+    const QDateTime oldPaid = utc(2020, 1, 1);
     assign(*doc, key::due, c.dueInSeconds == kNoDue ? QVariant() : clock.now().addSecs(c.dueInSeconds),
            key::isPaid, c.isPaid, key::paidAmount, c.paidAmount, key::dueAmount, c.dueAmount, key::paid,
            oldPaid);

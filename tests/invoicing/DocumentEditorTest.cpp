@@ -47,11 +47,8 @@ TEST_F(DocumentEditorTest, PaidDateAndAmountAreShownForPaidAndPartlyPaidInvoices
     {
         int kind, status;
         bool paidDate, paidAmount;
-    } cases[] = {{1, 0, false, false},
-                 {1, 2, false, false},
-                 {1, 3, true, false},
-                 {1, 4, true, true},
-                 {0, 4, false, false}};
+    } cases[] = {{1, 0, false, false}, {1, 2, false, false}, {1, 3, true, false},
+                 {1, 4, true, true},   {1, 9, true, true},   {0, 4, false, false}};
     for (const Case& c : cases) {
         select(document(c.kind, c.status));
         EXPECT_EQ(editor().isRelevant(key::paid), c.paidDate) << c.status;

@@ -76,7 +76,7 @@ TEST_F(ItemControllerTest, AddingALineCopiesFieldsAndSettingsAndRecalculates)
     ManagedObject* line = items().addItem();
     ASSERT_NE(line, nullptr);
     EXPECT_EQ(
-        fields(line,
+        fields(*line,
                {key::title, key::subtitle, key::unit, key::sku, key::note, key::tax1Title, key::tax3Title,
                 key::baseAmount, key::unitCount, key::isTax1Applied, key::isTax2Applied, key::isTax2Compound,
                 key::isTax3Compound, key::tax1Percent, key::tax2Percent, key::tax3Percent, key::tax2Amount}),
@@ -140,8 +140,8 @@ TEST_F(ItemControllerTest, RecentItemsForgetSwitchedOffTaxesAndTheQuantity)
     items().addItem();
     const ManagedObject* r = state.recentItemsController().arrangedObjects().value(0);
     ASSERT_NE(r, nullptr);
-    EXPECT_EQ(fields(r, {key::isTax1Applied, key::isTax2Applied, key::isTax3Applied, key::baseAmount,
-                         key::subAmount}),
+    EXPECT_EQ(fields(*r, {key::isTax1Applied, key::isTax2Applied, key::isTax3Applied, key::baseAmount,
+                          key::subAmount}),
               QStringLiteral("true|false|false|4.99|0"));
 
     // Picking it fills the entry page, masked by the taxes switched on now.

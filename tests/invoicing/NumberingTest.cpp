@@ -98,10 +98,10 @@ TEST_F(NumberingTest, DateIsTheUsersLocalDay)
 {
     // 23:30 UTC on 4 March is already 5 March in the test time zone (Berlin).
     qputenv("TZ", "Europe/Berlin");
-    clock.set(at(2025, 3, 4, 23, 30));
+    clock.set(utc(2025, 3, 4, 23, 30));
     settings.setValue(key::invPattern, QStringLiteral("%YEAR%-%MONTH%-%DAY%"));
     EXPECT_EQ(controllers->numbering().invoiceNumberString(), QStringLiteral("2025-3-5"));
-    clock.set(at(2024, 12, 31, 23, 0));
+    clock.set(utc(2024, 12, 31, 23, 0));
     EXPECT_EQ(controllers->numbering().invoiceNumberString(), QStringLiteral("2025-1-1"));
 }
 

@@ -127,7 +127,7 @@ TEST_F(ShippingDiscountTest, AcceptingRecalculatesAndRemembersEachChargeOnce)
 
     const ManagedObject* first = state.recentShippingArrayController().arrangedObjects().first();
     EXPECT_EQ(
-        fields(first, {key::note, key::subtitle, key::hasSubtitle, key::isTax1Enabled, key::isTax2Enabled}),
+        fields(*first, {key::note, key::subtitle, key::hasSubtitle, key::isTax1Enabled, key::isTax2Enabled}),
         QStringLiteral("by courier|2 days|true|false|true"));
 
     // Cancelling neither recalculates nor remembers.
@@ -151,8 +151,8 @@ TEST_F(ShippingDiscountTest, PickingARememberedChargeSwitchesShippingOn)
     shipping().showShippingPopover();
     state.recentShippingArrayController().setSelectionIndexes({0});
     shipping().selectRecentShipping();
-    EXPECT_EQ(fields(doc, {key::isShippingEnabled, key::shippingTitle, key::shippingSubtitle,
-                           key::isShippingTax1Enabled, key::notes}),
+    EXPECT_EQ(fields(*doc, {key::isShippingEnabled, key::shippingTitle, key::shippingSubtitle,
+                            key::isShippingTax1Enabled, key::notes}),
               QStringLiteral("true|Freight|pallet|true|"));
     EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 160.0f);
     EXPECT_FALSE(shipping().isShippingPopoverShown());
