@@ -9,16 +9,6 @@ namespace {
 
 using DnD = QVDragAndDropArrayController;
 
-TEST(DragAndDrop, CountOfIndexesInRange)
-{
-    const std::tuple<QList<int>, int, int, int> cases[] = {
-        {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1},    {{0, 4}, 1, 3, 0},    {{0, 4}, 4, 1, 1},
-        {{3}, 0, 3, 0},    {{}, 0, 10, 0},    {{0, 1, 2}, 0, 0, 0}, {{5, 6, 9}, 6, 4, 2},
-    };
-    for (const auto& [indexes, location, length, count] : cases)
-        EXPECT_EQ(DnD::countOfIndexesInRange(indexes, location, length), count) << location << "+" << length;
-}
-
 class DragAndDropTest : public InvoicingFixture
 {
 protected:
