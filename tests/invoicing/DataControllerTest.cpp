@@ -40,9 +40,7 @@ const NewDocumentCase newDocumentCases[] = {
     {"quoteWithoutNumberOrValidity", true, false, false, 0, "", -1},
 };
 
-class NewDocuments : public DataControllerTest, public ::testing::WithParamInterface<NewDocumentCase>
-{
-};
+using NewDocuments = CaseTable<DataControllerTest, NewDocumentCase>;
 
 TEST_P(NewDocuments, DefaultsFromSettings)
 {
@@ -81,8 +79,7 @@ TEST_P(NewDocuments, DefaultsFromSettings)
     EXPECT_FALSE(context.hasChanges());
 }
 
-INSTANTIATE_TEST_SUITE_P(DataController, NewDocuments, ::testing::ValuesIn(newDocumentCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(DataController, NewDocuments, ::testing::ValuesIn(newDocumentCases), caseName);
 
 TEST_F(DataControllerTest, NumbersFollowOnAndAnActiveFilterIsCleared)
 {
@@ -131,9 +128,7 @@ const ConvertCase convertCases[] = {
     {"unnumberedWithoutTerm", 0, 0, false, false, "Convert Into Invoice", "", -1},
 };
 
-class Converting : public DataControllerTest, public ::testing::WithParamInterface<ConvertCase>
-{
-};
+using Converting = CaseTable<DataControllerTest, ConvertCase>;
 
 TEST_P(Converting, QuoteBecomesInvoice)
 {
@@ -168,8 +163,7 @@ TEST_P(Converting, QuoteBecomesInvoice)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DataController, Converting, ::testing::ValuesIn(convertCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(DataController, Converting, ::testing::ValuesIn(convertCases), caseName);
 
 // ---------------------------------------------------------------------------
 // Deleting.
@@ -191,9 +185,7 @@ const DeleteCase deleteCases[] = {
     {"quoteCancelled", 0, 0, 1, "Delete Quote", false},
 };
 
-class Deleting : public DataControllerTest, public ::testing::WithParamInterface<DeleteCase>
-{
-};
+using Deleting = CaseTable<DataControllerTest, DeleteCase>;
 
 TEST_P(Deleting, AsksOrRefuses)
 {
@@ -213,8 +205,7 @@ TEST_P(Deleting, AsksOrRefuses)
     EXPECT_FALSE(context.hasChanges()); // deleted and saved, or nothing changed
 }
 
-INSTANTIATE_TEST_SUITE_P(DataController, Deleting, ::testing::ValuesIn(deleteCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(DataController, Deleting, ::testing::ValuesIn(deleteCases), caseName);
 
 TEST_F(DataControllerTest, DeletingTheLastDocumentZeroesTheTotals)
 {

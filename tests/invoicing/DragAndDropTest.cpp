@@ -44,7 +44,7 @@ const MoveCase moveCases[] = {
     {"twoDownToRowFour", {1, 2}, 4, "03124", {2, 3}},
     {"firstToEnd", {0}, 5, "12340", {4}},
     {"lastToTop", {4}, 0, "40123", {0}},
-    {"ends ToMiddle", {0, 4}, 2, "10423", {1, 2}},
+    {"endsToMiddle", {0, 4}, 2, "10423", {1, 2}},
     {"ontoItself", {2}, 2, "01234", {2}},
     {"justBelowItself", {2}, 3, "01234", {2}},
     {"pastTheEndClamps", {1, 3}, 10, "02413", {3, 4}},
@@ -52,9 +52,7 @@ const MoveCase moveCases[] = {
     {"outOfRangeIgnored", {7, -1}, 0, "01234", {}},
 };
 
-class MovingRows : public DragAndDropTest, public ::testing::WithParamInterface<MoveCase>
-{
-};
+using MovingRows = CaseTable<DragAndDropTest, MoveCase>;
 
 TEST_P(MovingRows, LandAsOneBlock)
 {
@@ -67,11 +65,7 @@ TEST_P(MovingRows, LandAsOneBlock)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DragAndDrop, MovingRows, ::testing::ValuesIn(moveCases), [](const auto& info) {
-    std::string name = info.param.name;
-    std::erase(name, ' ');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(DragAndDrop, MovingRows, ::testing::ValuesIn(moveCases), caseName);
 
 TEST_F(DragAndDropTest, DropsWithinTheTableMoveOthersCopy)
 {

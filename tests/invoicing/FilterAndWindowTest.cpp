@@ -62,9 +62,7 @@ const FilterCase filterCases[] = {
     {1000, {"ancient", "future", "old", "sent"}},
 };
 
-class Filters : public FilterTest, public ::testing::WithParamInterface<FilterCase>
-{
-};
+using Filters = CaseTable<FilterTest, FilterCase>;
 
 TEST_P(Filters, ListAndTotals)
 {
@@ -131,9 +129,7 @@ const WindowCase windowCases[] = {
     {"otherKindCountsAsInvoice", 3, 2, true, "Delete Invoice", true},
 };
 
-class WindowState : public InvoicingFixture, public ::testing::WithParamInterface<WindowCase>
-{
-};
+using WindowState = CaseTable<InvoicingFixture, WindowCase>;
 
 TEST_P(WindowState, MenusToolbarAndReminder)
 {
@@ -158,8 +154,7 @@ TEST_P(WindowState, MenusToolbarAndReminder)
     EXPECT_EQ(state.isReminderButtonHidden, !c.reminder);
 }
 
-INSTANTIATE_TEST_SUITE_P(Window, WindowState, ::testing::ValuesIn(windowCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Window, WindowState, ::testing::ValuesIn(windowCases), caseName);
 
 using WindowTest = InvoicingFixture;
 

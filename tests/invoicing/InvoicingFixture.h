@@ -15,6 +15,7 @@
 
 #include <memory>
 #include <ostream>
+#include <string>
 
 inline void PrintTo(const QDateTime& date, std::ostream* os)
 {
@@ -77,5 +78,14 @@ protected:
     AppState state;
     std::unique_ptr<InvoicingControllers> controllers;
 };
+
+// A table of cases run on a fresh fixture each: TEST_P(Table, ...), GetParam() the case.
+template <class Fixture, class Case>
+class CaseTable : public Fixture, public ::testing::WithParamInterface<Case>
+{
+};
+
+// Names the cases of a table by their `name`.
+inline constexpr auto caseName = [](const auto& info) { return std::string(info.param.name); };
 
 } // namespace vorn::test

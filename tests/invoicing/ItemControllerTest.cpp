@@ -115,9 +115,7 @@ const RecentCase recentCases[] = {
     {"otherSkuSameTitleAndPrice", {{"Hour", "80", "H1"}, {"Hour", "80", "H2"}}, {"Hour"}},
 };
 
-class RecentItems : public ItemControllerTest, public ::testing::WithParamInterface<RecentCase>
-{
-};
+using RecentItems = CaseTable<ItemControllerTest, RecentCase>;
 
 TEST_P(RecentItems, RememberedOnce)
 {
@@ -128,8 +126,7 @@ TEST_P(RecentItems, RememberedOnce)
     EXPECT_FALSE(context.hasChanges());
 }
 
-INSTANTIATE_TEST_SUITE_P(Items, RecentItems, ::testing::ValuesIn(recentCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Items, RecentItems, ::testing::ValuesIn(recentCases), caseName);
 
 TEST_F(ItemControllerTest, RecentItemsForgetSwitchedOffTaxesAndTheQuantity)
 {
@@ -187,9 +184,7 @@ const DeleteItemCase deleteItemCases[] = {
     {"paidRefused", 3, 0, "Error!", false},
 };
 
-class DeletingItems : public ItemControllerTest, public ::testing::WithParamInterface<DeleteItemCase>
-{
-};
+using DeletingItems = CaseTable<ItemControllerTest, DeleteItemCase>;
 
 TEST_P(DeletingItems, LastLine)
 {
@@ -210,8 +205,7 @@ TEST_P(DeletingItems, LastLine)
     EXPECT_FLOAT_EQ(doc->floatValue(key::amount), c.deleted ? 0.0f : 62.475f);
 }
 
-INSTANTIATE_TEST_SUITE_P(Items, DeletingItems, ::testing::ValuesIn(deleteItemCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Items, DeletingItems, ::testing::ValuesIn(deleteItemCases), caseName);
 
 TEST_F(ItemControllerTest, EditSheetIsRefusedForSentDocumentsAndRecalculatesOnClose)
 {

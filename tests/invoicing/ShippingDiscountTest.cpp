@@ -58,9 +58,7 @@ const DefaultTitleCase defaultTitleCases[] = {
     {"discountOnWithEmptyTitle", true, true, "", "Discount", ""},
 };
 
-class DefaultTitles : public ShippingDiscountTest, public ::testing::WithParamInterface<DefaultTitleCase>
-{
-};
+using DefaultTitles = CaseTable<ShippingDiscountTest, DefaultTitleCase>;
 
 TEST_P(DefaultTitles, OnOpening)
 {
@@ -77,8 +75,7 @@ TEST_P(DefaultTitles, OnOpening)
     EXPECT_TRUE(c.discount ? discount().isDiscountPopoverShown() : shipping().isShippingPopoverShown());
 }
 
-INSTANTIATE_TEST_SUITE_P(Shipping, DefaultTitles, ::testing::ValuesIn(defaultTitleCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Shipping, DefaultTitles, ::testing::ValuesIn(defaultTitleCases), caseName);
 
 TEST_F(ShippingDiscountTest, ButtonsToggleAndSentDocumentsAreRefused)
 {

@@ -29,9 +29,7 @@ const StampCase stampCases[] = {
     {2, 2, "Stamp2", "StampM2", false},
 };
 
-class Stamps : public InvoicingFixture, public ::testing::WithParamInterface<StampCase>
-{
-};
+using Stamps = CaseTable<InvoicingFixture, StampCase>;
 
 TEST_P(Stamps, PerKindAndStatus)
 {
