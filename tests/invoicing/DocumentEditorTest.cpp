@@ -43,16 +43,14 @@ TEST_F(DocumentEditorTest, SentInvoicesKeepOnlyTheirPaymentAndDispatchFieldsOpen
 
 TEST_F(DocumentEditorTest, PaidDateAndAmountAreShownForPaidAndPartlyPaidInvoices)
 {
-    struct Case
-    {
-        int kind, status;
-        bool paidDate, paidAmount;
-    } cases[] = {{1, 0, false, false}, {1, 2, false, false}, {1, 3, true, false},
-                 {1, 4, true, true},   {1, 9, true, true},   {0, 4, false, false}};
-    for (const Case& c : cases) {
-        select(document(c.kind, c.status));
-        EXPECT_EQ(editor().isRelevant(key::paid), c.paidDate) << c.status;
-        EXPECT_EQ(editor().isRelevant(key::paidAmount), c.paidAmount) << c.status;
+    // kind, status, paid date shown, paid amount shown
+    const std::tuple<int, int, bool, bool> cases[] = {{1, 0, false, false}, {1, 2, false, false},
+                                                      {1, 3, true, false},  {1, 4, true, true},
+                                                      {1, 9, true, true},   {0, 4, false, false}};
+    for (const auto& [kind, status, paidDate, paidAmount] : cases) {
+        select(document(kind, status));
+        EXPECT_EQ(editor().isRelevant(key::paid), paidDate) << status;
+        EXPECT_EQ(editor().isRelevant(key::paidAmount), paidAmount) << status;
     }
 }
 

@@ -19,13 +19,7 @@ protected:
             item(doc, float(i + 1), 1)->setValue(key::title, QString::number(i));
         select(doc);
     }
-    QString order() const
-    {
-        QString text;
-        for (const ManagedObject* line : doc->items())
-            text += line->stringValue(key::title);
-        return text;
-    }
+    QString order() const { return texts(doc->items()).join(QString()); }
     DnD& dnd() { return controllers->items().dragAndDrop(); }
 
     ManagedObject* doc = nullptr;

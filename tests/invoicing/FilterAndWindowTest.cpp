@@ -34,9 +34,7 @@ protected:
     }
     QStringList listed()
     {
-        QStringList names;
-        for (const ManagedObject* o : state.invoicesController().arrangedObjects())
-            names << o->stringValue(key::title);
+        QStringList names = texts(state.invoicesController().arrangedObjects());
         names.sort();
         return names;
     }

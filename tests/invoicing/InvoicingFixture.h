@@ -66,6 +66,15 @@ protected:
         return it;
     }
 
+    // The given values of each object (titles unless told), as fields() joins them.
+    static QStringList texts(const QList<ManagedObject*>& objects, const QStringList& keys = {key::title})
+    {
+        QStringList list;
+        for (const ManagedObject* o : objects)
+            list << fields(*o, keys);
+        return list;
+    }
+
     void select(ManagedObject* doc) { state.invoicesController().setSelectedObjects({doc}); }
 
     Calculator& calculator() { return controllers->calculator(); }

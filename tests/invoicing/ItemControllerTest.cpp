@@ -53,14 +53,6 @@ protected:
         p.sku = sku;
         return items().addItem();
     }
-    QStringList recentTitles()
-    {
-        QStringList titles;
-        for (const ManagedObject* r : state.recentItemsController().arrangedObjects())
-            titles << r->stringValue(key::title);
-        return titles;
-    }
-
     ManagedObject* doc = nullptr;
 };
 
@@ -121,7 +113,7 @@ TEST_P(RecentItems, RememberedOnce)
 {
     for (const auto& [title, price, sku] : GetParam().lines)
         add(QString::fromUtf8(title), QString::fromUtf8(price), QString::fromUtf8(sku));
-    EXPECT_EQ(recentTitles(), GetParam().remembered);
+    EXPECT_EQ(texts(state.recentItemsController().arrangedObjects()), GetParam().remembered);
     EXPECT_EQ(doc->items().size(), qsizetype(GetParam().lines.size()));
     EXPECT_FALSE(context.hasChanges());
 }

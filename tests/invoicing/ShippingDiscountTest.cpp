@@ -28,11 +28,7 @@ protected:
     }
     QStringList remembered()
     {
-        QStringList list;
-        for (const ManagedObject* r : state.recentShippingArrayController().arrangedObjects())
-            list << r->stringValue(key::title) + QLatin1Char('/') +
-                        QString::number(r->floatValue(key::amount));
-        return list;
+        return texts(state.recentShippingArrayController().arrangedObjects(), {key::title, key::amount});
     }
 
     ManagedObject* doc = nullptr;
@@ -119,8 +115,7 @@ TEST_F(ShippingDiscountTest, AcceptingRecalculatesAndRemembersEachChargeOnce)
     acceptShipping(QStringLiteral("Express"), 10);
     acceptShipping(QStringLiteral("Express"), 12.5f);
     acceptShipping(QStringLiteral("Post"), 10);
-    EXPECT_EQ(remembered(), (QStringList{QStringLiteral("Express/10"), QStringLiteral("Express/12.5"),
-                                         QStringLiteral("Post/10")}));
+    EXPECT_EQ(remembered(), QStringList({"Express|10", "Express|12.5", "Post|10"}));
 
     const ManagedObject* first = state.recentShippingArrayController().arrangedObjects().first();
     EXPECT_EQ(
