@@ -154,11 +154,6 @@ TEST_F(ItemControllerTest, PopoverTogglesAndOpensOnThePageTheSettingsAsk)
     EXPECT_EQ(settings.intValue(key::itemTabViewIndex), 1);
     items().showItemPopover();
     EXPECT_FALSE(items().popover().shown);
-
-    state.invoicesController().setSelectionIndexes({});
-    items().showItemPopover();
-    EXPECT_FALSE(items().popover().shown);
-    EXPECT_EQ(items().addItem(), nullptr);
 }
 
 struct DeleteItemCase
