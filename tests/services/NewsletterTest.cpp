@@ -125,25 +125,23 @@ INSTANTIATE_TEST_SUITE_P(Statuses, SubscriptionAnswer,
                                            StatusCase{"NoServer", {200, "ok"}, false, true}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-class SubscriptionAddress : public ServicesTest, public ::testing::WithParamInterface<const char*>
-{
-};
-
-TEST_P(SubscriptionAddress, UnderSevenCharactersIsRefusedUnsent)
+TEST_F(ServicesTest, AnAddressUnderSevenCharactersIsRefusedUnsent)
 {
     stub.route("/api/newsletter.php", {200, "ok"});
     NewsletterSubscription newsletter(settings, ui);
-    EXPECT_FALSE(newsletter.subscribeAction(QString::fromUtf8(GetParam()), "Me"));
-    EXPECT_FALSE(newsletter.isBusy());
-    EXPECT_EQ(ui.calls("beep").size(), 1);
-    const auto alerts = ui.calls("alert");
-    ASSERT_EQ(alerts.size(), 1);
-    EXPECT_EQ(alerts[0].title, "Error!");
-    EXPECT_EQ(alerts[0].text, "Please provide a valid email address.");
+    for (const char* address : {"", "a@b.de", "ä@b.de"}) {
+        SCOPED_TRACE(address);
+        ui.clear();
+        EXPECT_FALSE(newsletter.subscribeAction(QString::fromUtf8(address), "Me"));
+        EXPECT_FALSE(newsletter.isBusy());
+        EXPECT_EQ(ui.calls("beep").size(), 1);
+        const auto alerts = ui.calls("alert");
+        ASSERT_EQ(alerts.size(), 1);
+        EXPECT_EQ(alerts[0].title, "Error!");
+        EXPECT_EQ(alerts[0].text, "Please provide a valid email address.");
+    }
     EXPECT_FALSE(waitUntil([&] { return !stub.requests().isEmpty(); }, 100));
 }
-
-INSTANTIATE_TEST_SUITE_P(Addresses, SubscriptionAddress, ::testing::Values("", "a@b.de", "ä@b.de"));
 
 TEST_F(ServicesTest, ASecondSubscriptionWaitsForTheFirst)
 {
@@ -156,41 +154,35 @@ TEST_F(ServicesTest, ASecondSubscriptionWaitsForTheFirst)
     EXPECT_EQ(ui.alertTitles(), QStringList{"Success!"});
 }
 
-struct VideoCase
+TEST_F(ServicesTest, TheIntroductionShowsThePageOrTheOfflineNote)
 {
-    const char* name;
-    HttpStub::Response page;
-    bool online;
-};
-
-class IntroductionVideo : public ServicesTest, public ::testing::WithParamInterface<VideoCase>
-{
-};
-
-TEST_P(IntroductionVideo, ShowsThePageOrTheOfflineNote)
-{
-    stub.route("/introduction/", GetParam().page);
     const QUrl page = stub.url("/introduction/");
     settings.setValue(ServiceUrls::introductionVideo, page.toString());
-    ScreenCastController video(settings);
-    video.setTimeout(400);
-    std::optional<QUrl> url;
-    std::optional<QString> html;
-    QObject::connect(&video, &ScreenCastController::loadUrl, [&](const QUrl& u) { url = u; });
-    QObject::connect(&video, &ScreenCastController::loadHtml, [&](const QString& h) { html = h; });
-    video.awakeFromNib();
-    ASSERT_TRUE(waitUntil([&] { return url || html; }));
     const QString offline =
         "<br /><br /><br /><br /><br /><center>Please check your internet connection!</center>";
-    EXPECT_EQ(url, GetParam().online ? std::optional(page) : std::nullopt);
-    EXPECT_EQ(html, GetParam().online ? std::nullopt : std::optional(offline));
+    const struct
+    {
+        const char* name;
+        HttpStub::Response page;
+        bool online;
+    } cases[] = {{"Reachable", {200, "<html>video</html>"}, true},
+                 {"ServerError", {503, "busy"}, false},
+                 {"NoAnswer", {200, {}, true}, false}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        stub.route("/introduction/", row.page);
+        ScreenCastController video(settings);
+        video.setTimeout(400);
+        std::optional<QUrl> url;
+        std::optional<QString> html;
+        QObject::connect(&video, &ScreenCastController::loadUrl, [&](const QUrl& u) { url = u; });
+        QObject::connect(&video, &ScreenCastController::loadHtml, [&](const QString& h) { html = h; });
+        video.awakeFromNib();
+        ASSERT_TRUE(waitUntil([&] { return url || html; }));
+        EXPECT_EQ(url, row.online ? std::optional(page) : std::nullopt);
+        EXPECT_EQ(html, row.online ? std::nullopt : std::optional(offline));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Pages, IntroductionVideo,
-                         ::testing::Values(VideoCase{"Reachable", {200, "<html>video</html>"}, true},
-                                           VideoCase{"ServerError", {503, "busy"}, false},
-                                           VideoCase{"NoAnswer", {200, {}, true}, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(ServicesTest, WebLinksOpenTheAddressOfTheirSettingOrTheStandardOne)
 {
