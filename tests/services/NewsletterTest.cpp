@@ -209,7 +209,8 @@ TEST_F(ServicesTest, WebLinksOpenTheAddressOfTheirSettingOrTheStandardOne)
         settings.setValue(key, "http://127.0.0.1:9/mirror");
         EXPECT_TRUE((links.*open)());
         // Addresses that are not web pages fall back to the standard one.
-        for (const char* bad : {"javascript:alert(1)", "file:///etc/passwd", "not an address"}) {
+        for (const char* bad :
+             {"javascript:alert(1)", "file:///etc/passwd", "file://host/etc/passwd", "not an address"}) {
             settings.setValue(key, QString::fromLatin1(bad));
             EXPECT_TRUE((links.*open)());
         }
@@ -217,7 +218,7 @@ TEST_F(ServicesTest, WebLinksOpenTheAddressOfTheirSettingOrTheStandardOne)
         for (const auto& call : ui.calls("url"))
             opened << call.title;
         const QString s = standard.toString();
-        EXPECT_EQ(opened, (QStringList{s, "http://127.0.0.1:9/mirror", s, s, s}));
+        EXPECT_EQ(opened, (QStringList{s, "http://127.0.0.1:9/mirror", s, s, s, s}));
     }
 }
 
