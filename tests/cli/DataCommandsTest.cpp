@@ -16,12 +16,7 @@ namespace {
 class DataCommandsTest : public ::testing::Test
 {
 protected:
-    static CliRun ok(const QStringList& args)
-    {
-        CliRun r = runCli(args);
-        EXPECT_EQ(r.code, 0) << qPrintable(args.join(QLatin1Char(' '))) << ": " << qPrintable(r.err);
-        return r;
-    }
+    static CliRun ok(const QStringList& args) { return runOk(args); }
     void seed(int n, const QString& prefix)
     {
         h.launch(false);
