@@ -105,12 +105,4 @@ INSTANTIATE_TEST_SUITE_P(
                     "[<b>\n</b>]"}),
     [](const auto& info) { return "case" + std::to_string(info.index); });
 
-TEST(EditorCommandsTest, TheBuilderIndexChoosesTheEditor)
-{
-    EXPECT_EQ(EditorCommands::editorForIndex(1), EditorCommands::ItemEditor);
-    EXPECT_EQ(EditorCommands::editorForIndex(2), EditorCommands::StyleSheetEditor);
-    for (qint64 other : {0, 3, -1})
-        EXPECT_EQ(EditorCommands::editorForIndex(other), EditorCommands::PageEditor);
-}
-
 } // namespace
