@@ -1,13 +1,10 @@
 #include "designs/EditorCommands.h"
 
+#include "tests/support/TestValues.h"
+
 #include <gtest/gtest.h>
 
 using namespace vorn;
-
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace {
 

@@ -8,14 +8,11 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include "tests/support/TestValues.h"
+
 #include <gtest/gtest.h>
 
 using namespace vorn;
-
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace {
 
