@@ -49,6 +49,16 @@ TEST_F(DataCommandsTest, BackupThenRestoreThenCheck)
     // The run recorded the restored count, so the check finds nothing amiss.
     EXPECT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
     EXPECT_EQ(numbersIn(h.backupPath()), sequence(QStringLiteral("S"), 2));
+
+    // A store that cannot be opened stops every run but the restore.
+    QFile store(h.storePath());
+    ASSERT_TRUE(store.open(QIODevice::WriteOnly));
+    store.write(QByteArray(20000, 'x'));
+    store.close();
+    ASSERT_EQ(runCli({"check"}).code, 3);
+    ok({"restore", path("saved.vndb")});
+    EXPECT_EQ(numbersIn(h.storePath()), sequence(QStringLiteral("S"), 2));
+    EXPECT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
 }
 
 TEST_F(DataCommandsTest, CheckAsksTheRepairQuestionAndRepairsFromTheSafetyCopyOnly)
@@ -115,21 +125,6 @@ INSTANTIATE_TEST_SUITE_P(
                       Refusal{"BackupWithoutFile", {"backup"}, 2, "usage: backup OUT.vndb"},
                       Refusal{"CheckWithArgument", {"check", "now"}, 2, "usage: check"}),
     [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(DataCommandsTest, RestoreRescuesAStoreThatCannotBeOpened)
-{
-    seed(2, QStringLiteral("S"));
-    ok({"backup", path("good.vndb")});
-    QFile store(h.storePath());
-    ASSERT_TRUE(store.open(QIODevice::WriteOnly));
-    store.write(QByteArray(20000, 'x'));
-    store.close();
-    ASSERT_EQ(runCli({"check"}).code, 3);
-
-    ok({"restore", path("good.vndb")});
-    EXPECT_EQ(numbersIn(h.storePath()), sequence(QStringLiteral("S"), 2));
-    EXPECT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
-}
 
 TEST_F(DataCommandsTest, WhileTheApplicationRunsOnlyTheBackupWorks)
 {
