@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QProcess>
 
+#include <cstdio>
+
 namespace vorn::test {
 namespace {
 
@@ -27,10 +29,15 @@ protected:
 
         QProcess check;
         check.setProcessChannelMode(QProcess::MergedChannels);
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert(QStringLiteral("LC_ALL"), QStringLiteral("C.UTF-8"));
+        check.setProcessEnvironment(env);
         check.start(QStringLiteral("bash"),
                     {QStringLiteral(VORN_SOURCE_DIR "/scripts/validate-einvoice.sh"), path, m_artefacts});
         ASSERT_TRUE(check.waitForFinished(120000));
-        EXPECT_EQ(check.exitCode(), 0) << check.readAll().toStdString();
+        const QByteArray report = check.readAll();
+        EXPECT_EQ(check.exitCode(), 0) << report.toStdString();
+        std::printf("%s: %s", name, report.constData());
     }
 
     void SetUp() override
