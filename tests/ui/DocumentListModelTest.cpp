@@ -110,8 +110,8 @@ struct Cell
     const char* what;
     QVariantMap values;
     int column;
-    int role;
-    QVariant expected;
+    QVariant shown; // for the foreground, whether the cell stands out
+    int role = Qt::DisplayRole;
 };
 
 // The dates show in local time, so the cells run in Berlin whatever zone the
@@ -145,14 +145,13 @@ TEST_P(DocumentListCellTest, ShowsTheDocument)
     ASSERT_EQ(model.rowCount(), 1);
     const QVariant value = model.index(0, cell.column).data(cell.role);
     if (cell.role == Qt::ForegroundRole)
-        EXPECT_EQ(value.isValid(), cell.expected.toBool()) << value.toString().toStdString();
+        EXPECT_EQ(value.isValid(), cell.shown.toBool()) << value.toString().toStdString();
     else
-        EXPECT_EQ(value, cell.expected) << value.toString().toStdString();
+        EXPECT_EQ(value, cell.shown) << value.toString().toStdString();
 }
 
 using M = DocumentListModel;
 const QString nbsp(QChar(0x00A0));
-const QDateTime lateEvening(QDate(2026, 11, 21), QTime(23, 30), QTimeZone::utc());
 
 INSTANTIATE_TEST_SUITE_P(
     Cells, DocumentListCellTest,
@@ -160,83 +159,33 @@ INSTANTIATE_TEST_SUITE_P(
         Cell{"amount with grouping, two decimals and the currency",
              {{"amount", 1234.5f}, {"currency", "€"}},
              M::AmountColumn,
-             Qt::DisplayRole,
              QString("1,234.50" + nbsp + "€")},
-        Cell{"negative amount without currency",
-             {{"amount", -12.5f}, {"currency", ""}},
-             M::AmountColumn,
-             Qt::DisplayRole,
-             QString("-12.50")},
-        Cell{"absent amount",
-             {{"currency", "$"}},
-             M::AmountColumn,
-             Qt::DisplayRole,
-             QString("0.00" + nbsp + "$")},
-        Cell{"amounts line up on the right",
-             {},
-             M::AmountColumn,
-             Qt::TextAlignmentRole,
-             QVariant::fromValue(Qt::AlignRight | Qt::AlignVCenter)},
-        Cell{"the stored amount", {{"amount", 19.99f}}, M::AmountColumn, M::ValueRole, QVariant(19.99f)},
-        Cell{"the title as written",
-             {{"title", "Consulting"}, {"kind", 1}},
-             M::TitleColumn,
-             Qt::DisplayRole,
-             QString("Consulting")},
-        Cell{"a quote without title",
-             {{"title", ""}, {"kind", 0}},
-             M::TitleColumn,
-             Qt::DisplayRole,
-             QString("Quote")},
+        Cell{"negative amount without currency", {{"amount", -12.5f}}, M::AmountColumn, QString("-12.50")},
+        Cell{"a quote without title", {{"title", ""}, {"kind", 0}}, M::TitleColumn, QString("Quote")},
         Cell{"an invoice with a blank title",
              {{"title", "  "}, {"kind", 1}},
              M::TitleColumn,
-             Qt::DisplayRole,
              QString("Invoice")},
-        Cell{"client: first line that is not blank",
-             {{"address", "\n  \n  Acme Ltd \nHigh Street 1"}},
+        Cell{"client: the first line that is not blank",
+             {{"address", "\r\n  \n  Acme Ltd \r\nHigh Street 1"}},
              M::ClientColumn,
-             Qt::DisplayRole,
              QString("Acme Ltd")},
-        Cell{"client: Windows line ends",
-             {{"address", "One GmbH\r\nTwo"}},
-             M::ClientColumn,
-             Qt::DisplayRole,
-             QString("One GmbH")},
-        Cell{"client: no address", {}, M::ClientColumn, Qt::DisplayRole, QString()},
         Cell{"the date in local time, where it is already the next day",
-             {{"date", lateEvening}},
+             {{"date", QDateTime(QDate(2026, 11, 21), QTime(23, 30), QTimeZone::utc())}},
              M::DateColumn,
-             Qt::DisplayRole,
              QString("11/22/26")},
-        Cell{"the stored date", {{"date", lateEvening}}, M::DateColumn, M::ValueRole, QVariant(lateEvening)},
-        Cell{"status created", {{"status", 0}}, M::StatusColumn, Qt::DisplayRole, QString("Created")},
-        Cell{"status sent", {{"status", 1}}, M::StatusColumn, Qt::DisplayRole, QString("Sent")},
-        Cell{"status overdue", {{"status", 2}}, M::StatusColumn, Qt::DisplayRole, QString("Overdue")},
-        Cell{"status paid", {{"status", 3}}, M::StatusColumn, Qt::DisplayRole, QString("Paid")},
-        Cell{"status partly paid", {{"status", 4}}, M::StatusColumn, Qt::DisplayRole, QString("Partly Paid")},
-        Cell{"an unknown status reads as created",
-             {{"status", 7}},
-             M::StatusColumn,
-             Qt::DisplayRole,
-             QString("Created")},
+        Cell{"status partly paid", {{"status", 4}}, M::StatusColumn, QString("Partly Paid")},
+        Cell{"an unknown status reads as created", {{"status", 7}}, M::StatusColumn, QString("Created")},
         Cell{"an overdue invoice stands out",
              {{"status", 2}, {"kind", 1}},
              M::StatusColumn,
-             Qt::ForegroundRole,
-             true},
+             true,
+             Qt::ForegroundRole},
         Cell{"a quote is never marked overdue",
              {{"status", 2}, {"kind", 0}},
              M::StatusColumn,
-             Qt::ForegroundRole,
-             false},
-        Cell{"a created invoice is plain",
-             {{"status", 0}, {"kind", 1}},
-             M::StatusColumn,
-             Qt::ForegroundRole,
-             false},
-        Cell{"kind for filtering", {{"kind", 0}}, M::NumberColumn, M::KindRole, QVariant(qint64(0))},
-        Cell{"status for filtering", {{"status", 3}}, M::NumberColumn, M::StatusRole, QVariant(qint64(3))}),
+             false,
+             Qt::ForegroundRole}),
     [](const ::testing::TestParamInfo<Cell>& info) { return std::to_string(info.index); });
 
 TEST_F(DocumentListModelTest, RepaintsARowOnlyWhenWhatItShowsChanges)
