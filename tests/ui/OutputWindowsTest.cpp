@@ -41,6 +41,8 @@ TEST_F(OutputWindowsTest, PreviewCommandOpensTheWindowWithThePagesAndClosesItAga
     ASSERT_TRUE(waitForPreview());
     EXPECT_EQ(preview().pageCount(), 1);
     EXPECT_EQ(preview().thumbnailView()->count(), 1);
+    EXPECT_EQ(unnamedControls(preview()), QStringList());
+    shoot(&preview(), QStringLiteral("preview-window"));
 
     trigger("showPreview");
     EXPECT_FALSE(preview().isVisible());
@@ -74,6 +76,8 @@ TEST_F(OutputWindowsTest, ReminderSheetFollowsTheInvoiceAndShowsItsTextsInThePre
     ASSERT_TRUE(sheet && sheet->isVisible());
     auto* title = sheet->findChild<QLineEdit*>(QStringLiteral("reminderTitleField"));
     EXPECT_EQ(title->text(), settings.stringValue(QStringLiteral("locReminder")));
+    EXPECT_EQ(unnamedControls(*sheet), QStringList());
+    shoot(sheet, QStringLiteral("reminder-sheet"));
     title->setText(QStringLiteral("Second Notice"));
     sheet->accept();
 
@@ -101,6 +105,8 @@ TEST_F(OutputWindowsTest, ThePdfSheetOpensOnItsWindowAndSavesTheFile)
     EXPECT_FALSE(sheet.okButton()->isEnabled());
     ASSERT_TRUE(ready.wait(60000));
     EXPECT_TRUE(sheet.okButton()->isEnabled());
+    EXPECT_EQ(unnamedControls(sheet), QStringList());
+    shoot(&sheet, QStringLiteral("export-sheet"));
     sheet.reject();
     EXPECT_FALSE(sheet.isVisible());
     EXPECT_EQ(invoice->intValue(QStringLiteral("status")), 0);

