@@ -1,8 +1,11 @@
-#include "ui/DocumentListModel.h"
 #include "tests/ui/UiFixture.h"
+#include "ui/DocumentListModel.h"
+#include "ui/DocumentListView.h"
+#include "ui/SelectionSync.h"
 
 #include <QAbstractItemModelTester>
 #include <QColor>
+#include <QItemSelectionModel>
 
 #include <functional>
 
@@ -28,9 +31,17 @@ struct ChangeLog
     QStringList kinds;
 };
 
-class DocumentListModelTest : public UiFixture
+// The document list as the main window shows it: the model over the list
+// of documents, and a view whose selection is kept in step with the list's.
+class DocumentListTest : public UiFixture
 {
 public:
+    DocumentListTest()
+    {
+        view.setModel(&model);
+        sync = std::make_unique<SelectionSync>(model, view);
+    }
+
     QStringList shownNumbers() const
     {
         QStringList result;
@@ -38,70 +49,106 @@ public:
             result << model.index(row, DocumentListModel::NumberColumn).data().toString();
         return result;
     }
+    // The document a side shows as selected, "" for none.
+    QString viewSelection() const
+    {
+        const QModelIndexList rows = view.selectionModel()->selectedRows();
+        if (rows.size() > 1)
+            return QStringLiteral("several");
+        return rows.isEmpty() ? QString() : model.index(rows.first().row(), 0).data().toString();
+    }
+    QString listSelection()
+    {
+        const QStringList selected = numbers(list().selectedObjects());
+        return selected.size() > 1 ? QStringLiteral("several") : selected.value(0);
+    }
+    void undo() { context.undoManager()->undo(); }
+    void clickRow(int row)
+    {
+        view.selectionModel()->select(model.index(row, 0),
+                                      QItemSelectionModel::ClearAndSelect | QItemSelectionModel::Rows);
+    }
 
     DocumentListModel model{state.invoicesController()};
     QAbstractItemModelTester tester{&model, QAbstractItemModelTester::FailureReportingMode::Fatal};
     ChangeLog log{model};
+    DocumentListView view;
+    std::unique_ptr<SelectionSync> sync;
 };
 
+// Each step names the documents shown afterwards, top to bottom, how the
+// model announced the change, and the document both sides select.
 struct Step
 {
     const char* what;
-    std::function<void(DocumentListModelTest&)> run;
-    QStringList rows;    // numbers shown afterwards, top to bottom
-    QStringList changes; // how the model announced it
+    std::function<void(DocumentListTest&)> run;
+    const char* rows;
+    const char* changes;
+    const char* selected;
 };
 
-TEST_F(DocumentListModelTest, RowsFollowTheListThroughEditsSortingFilteringAndUndo)
+TEST_F(DocumentListTest, RowsAndSelectionFollowTheListThroughEditsSortingFilteringAndUndo)
 {
-    using T = DocumentListModelTest;
-    const QString insert = QStringLiteral("insert"), remove = QStringLiteral("remove"),
-                  layout = QStringLiteral("layout"), reset = QStringLiteral("reset");
+    using T = DocumentListTest;
     const std::vector<Step> steps = {
-        {"first document", [](T& t) { t.add("A", -3); }, {"A"}, {insert}},
-        {"a newer one goes on top", [](T& t) { t.add("B", -1); }, {"B", "A"}, {insert, layout}},
-        {"one dated between them", [](T& t) { t.add("C", -2, 0); }, {"B", "C", "A"}, {insert, layout}},
-        {"delete the middle one", [](T& t) { t.context.deleteObject(t.doc("C")); }, {"B", "A"}, {remove}},
-        {"undo brings it back in place",
-         [](T& t) { t.context.undoManager()->undo(); },
-         {"B", "C", "A"},
-         {insert}},
-        {"redate the oldest to tomorrow",
+        {"first document", [](T& t) { t.add("A", -3); }, "A", "insert", "A"},
+        {"a newer one goes on top, selected as added", [](T& t) { t.add("B", -1); }, "B A", "insert layout",
+         "B"},
+        {"one dated between them", [](T& t) { t.add("C", -2, 0); }, "B C A", "insert layout", "C"},
+        {"the user picks the bottom row", [](T& t) { t.clickRow(2); }, "B C A", "", "A"},
+        {"the list selects another one", [](T& t) { t.list().setSelectedObjects({t.doc("B")}); }, "B C A", "",
+         "B"},
+        {"delete the middle one", [](T& t) { t.context.deleteObject(t.doc("C")); }, "B A", "remove", "B"},
+        {"undo brings it back in place", [](T& t) { t.undo(); }, "B C A", "insert", "B"},
+        {"re-sorting keeps the selected document, not the row",
          [](T& t) {
              t.doc("A")->setValue(QStringLiteral("date"), t.clock.now().addDays(1));
              t.list().rearrangeObjects();
          },
-         {"A", "B", "C"},
-         {layout}},
-        {"show quotes only",
+         "A B C", "layout", "B"},
+        {"filtering out the selected document leaves nothing selected",
          [](T& t) {
              t.list().setFilterPredicate(
                  [](const ManagedObject& o) { return o.intValue(QStringLiteral("kind")) == 0; });
          },
-         {"C"},
-         {remove}},
-        {"show everything again", [](T& t) { t.list().setFilterPredicate({}); }, {"A", "B", "C"}, {insert}},
-        {"undoing the redate leaves the order to the list",
-         [](T& t) { t.context.undoManager()->undo(); },
-         {"A", "B", "C"},
-         {}},
-        {"which rearranges on request", [](T& t) { t.list().rearrangeObjects(); }, {"B", "C", "A"}, {layout}},
-        {"a whole new content",
+         "C", "remove", ""},
+        {"show everything again", [](T& t) { t.list().setFilterPredicate({}); }, "A B C", "insert", ""},
+        {"undoing the redate leaves the order to the list", [](T& t) { t.undo(); }, "A B C", "", ""},
+        {"which rearranges on request", [](T& t) { t.list().rearrangeObjects(); }, "B C A", "layout", ""},
+        {"the user picks the top row", [](T& t) { t.clickRow(0); }, "B C A", "", "B"},
+        {"the user clears the selection", [](T& t) { t.view.selectionModel()->clearSelection(); }, "B C A",
+         "", ""},
+        {"a new document on top", [](T& t) { t.add("D", 1); }, "D B C A", "insert layout", "D"},
+        {"with a list that avoids an empty selection, deleting the selected row selects its successor",
          [](T& t) {
-             ManagedObject* d = t.context.insertNewObject(Entity::Invoice);
-             d->setValue(QStringLiteral("number"), QStringLiteral("D"));
-             t.list().setContent({d, t.doc("A")});
+             t.list().setAvoidsEmptySelection(true);
+             t.context.deleteObject(t.doc("D"));
          },
-         {"A", "D"},
-         {reset}},
-        {"no context at all", [](T& t) { t.state.setContext(nullptr); }, {}, {remove}},
+         "B C A", "remove", "B"},
+        {"undoing the delete keeps the list's choice", [](T& t) { t.undo(); }, "D B C A", "insert", "B"},
+        {"the user cannot empty a list that avoids it",
+         [](T& t) { t.view.selectionModel()->clearSelection(); }, "D B C A", "", "D"},
+        {"a whole new content around the selected document keeps it selected",
+         [](T& t) {
+             ManagedObject* e = t.context.insertNewObject(Entity::Invoice);
+             e->setValue(QStringLiteral("number"), QStringLiteral("E"));
+             e->setValue(QStringLiteral("date"), t.clock.now().addDays(-20));
+             t.list().setContent({t.doc("D"), e});
+         },
+         "D E", "reset", "D"},
+        {"no context at all", [](T& t) { t.state.setContext(nullptr); }, "", "remove", ""},
     };
     for (const Step& step : steps) {
         SCOPED_TRACE(step.what);
         step.run(*this);
-        EXPECT_EQ(shownNumbers(), step.rows);
+        EXPECT_EQ(shownNumbers().join(' '), QLatin1String(step.rows));
         EXPECT_EQ(numbers(model.rows()), numbers(list().arrangedObjects()));
-        EXPECT_EQ(log.take(), step.changes);
+        EXPECT_EQ(log.take().join(' '), QLatin1String(step.changes));
+        EXPECT_EQ(listSelection(), QLatin1String(step.selected));
+        EXPECT_EQ(viewSelection(), QLatin1String(step.selected));
+        if (*step.selected) {
+            EXPECT_EQ(view.selectionModel()->currentIndex().row(), model.rowOf(state.currentInvoice()));
+        }
     }
 }
 
@@ -188,7 +235,7 @@ INSTANTIATE_TEST_SUITE_P(
              Qt::ForegroundRole}),
     [](const ::testing::TestParamInfo<Cell>& info) { return std::to_string(info.index); });
 
-TEST_F(DocumentListModelTest, RepaintsARowOnlyWhenWhatItShowsChanges)
+TEST_F(DocumentListTest, RepaintsARowOnlyWhenWhatItShowsChanges)
 {
     add("A", -1);
     add("B", -2);
