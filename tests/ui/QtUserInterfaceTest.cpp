@@ -3,6 +3,7 @@
 #include "store/Clock.h"
 #include "store/Settings.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestValues.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>

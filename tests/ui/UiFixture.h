@@ -7,6 +7,7 @@
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestValues.h"
 #include "ui/MainWindow.h"
 #include "ui/Translations.h"
 
@@ -24,12 +25,6 @@
 #include <memory>
 
 #include <gtest/gtest.h>
-
-// Readable strings in failure messages.
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace vorn::test {
 
