@@ -39,8 +39,9 @@ set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Vorn writes invoices, quotes and payment r
  businesses, keeps them in one local database and renders them through
  editable designs into previews, PDF files, print jobs and e-mails.")
 # The libraries come from dpkg-shlibdeps; what is loaded at run time (the web
-# engine's helper process, the desktop's URL and mail helpers) is named here.
+# engine's helper process, the SVG icon engine, the desktop's URL and mail
+# helpers) is named here.
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6webenginecore6-bin, xdg-utils")
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "libqt6webenginecore6-bin, libqt6svg6, xdg-utils")
 set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "qt6-translations-l10n, shared-mime-info, desktop-file-utils")
 include(CPack)

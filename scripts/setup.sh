@@ -6,7 +6,7 @@ set -euo pipefail
 packages=(
   cmake ninja-build pkg-config g++ clang-format
   qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
-  qt6-webengine-dev qt6-pdf-dev libgl-dev
+  qt6-webengine-dev qt6-pdf-dev libqt6svg6 libgl-dev
   libsqlite3-dev libplist-dev libicu-dev
   libgtest-dev libgmock-dev
   xvfb xauth poppler-utils python3 fonts-dejavu-core

@@ -3274,6 +3274,14 @@ Bezahlt %2 · Fällig %3</translation>
         <source>Preview – %1</source>
         <translation>Vorschau – %1</translation>
     </message>
+    <message>
+        <source>Page thumbnails</source>
+        <translation>Seitenminiaturen</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Seiten</translation>
+    </message>
 </context>
 <context>
     <name>vorn::ReminderSheet</name>

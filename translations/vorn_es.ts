@@ -3274,6 +3274,14 @@ Pagado %2 · Pendiente %3</translation>
         <source>Preview – %1</source>
         <translation>Vista previa – %1</translation>
     </message>
+    <message>
+        <source>Page thumbnails</source>
+        <translation>Miniaturas de las páginas</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Páginas</translation>
+    </message>
 </context>
 <context>
     <name>vorn::ReminderSheet</name>

@@ -3274,6 +3274,14 @@ Payé %2 · Dû %3</translation>
         <source>Preview – %1</source>
         <translation>Aperçu – %1</translation>
     </message>
+    <message>
+        <source>Page thumbnails</source>
+        <translation>Miniatures des pages</translation>
+    </message>
+    <message>
+        <source>Pages</source>
+        <translation>Pages</translation>
+    </message>
 </context>
 <context>
     <name>vorn::ReminderSheet</name>

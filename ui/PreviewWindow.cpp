@@ -44,6 +44,7 @@ PreviewWindow::PreviewWindow(AppDelegate& app, QWidget* parent) : QMainWindow(pa
 
     m_thumbnails = new QListWidget(this);
     m_thumbnails->setObjectName(QStringLiteral("pdfThumbnailView"));
+    m_thumbnails->setAccessibleName(tr("Page thumbnails"));
     m_thumbnails->setViewMode(QListView::IconMode);
     m_thumbnails->setFlow(QListView::TopToBottom);
     m_thumbnails->setWrapping(false);
@@ -56,6 +57,7 @@ PreviewWindow::PreviewWindow(AppDelegate& app, QWidget* parent) : QMainWindow(pa
 
     m_view = new QPdfView(this);
     m_view->setObjectName(QStringLiteral("pdfView"));
+    m_view->setAccessibleName(tr("Pages"));
     m_view->setDocument(m_pages->document());
     m_view->setPageMode(QPdfView::PageMode::MultiPage);
     m_view->setZoomMode(QPdfView::ZoomMode::FitToWidth);

@@ -43,20 +43,14 @@ TEST_F(AppDelegateTest, FirstLaunchCreatesTheStoreAndSeedsOnce)
     EXPECT_TRUE(h.ui.errors().isEmpty()) << qPrintable(h.ui.errors().value(0).fullText());
     EXPECT_TRUE(QFileInfo(l.storeFile()).isFile());
     EXPECT_EQ(QFileInfo(l.filesDirectory).fileName(), "com.tandrelo.Orvandel");
-    EXPECT_EQ(app().state().storeURL, l.storeFile());
     // The store stack is built once and shared.
-    ObjectContext* context = app().managedObjectContext();
-    ASSERT_NE(context, nullptr);
-    EXPECT_EQ(app().managedObjectContext(), context);
-    EXPECT_EQ(app().persistentStoreCoordinator(), context->store());
-    EXPECT_EQ(h.context(), context);
+    ASSERT_NE(h.context(), nullptr);
+    EXPECT_EQ(app().managedObjectContext(), h.context());
     EXPECT_EQ(templateLoads, 1);
     EXPECT_EQ(h.ui.calls("center").size(), 1);
     EXPECT_EQ(h.ui.calls("preferences").size(), 1);
-    EXPECT_TRUE(app().state().isReminderButtonHidden);
     // The PDF goes to the caches, not beside the store.
     EXPECT_EQ(app().state().pdfPath, l.cachesDirectory + "/Invoice.pdf");
-    EXPECT_EQ(app().state().backupPath, l.documentsDirectory + "/Vorn_Backup.vndb");
 
     // The English list is written as real settings, on disk.
     EXPECT_EQ(h.storedSetting("locInvoice"), "Invoice");
@@ -82,43 +76,26 @@ TEST_F(AppDelegateTest, FirstLaunchCreatesTheStoreAndSeedsOnce)
     EXPECT_TRUE(h.ui.errors().isEmpty());
 }
 
-TEST_F(AppDelegateTest, AFileWhereTheFolderShouldBe)
+// A store that cannot be built is told twice (its cause, then the store
+// failure), once only; the application stays up without it and nothing
+// writes to what is there, not even a log beside a damaged store.
+struct StoreFailure
 {
-    const QString folder = h.env.locations().filesDirectory;
-    writeFile(folder, "I am a file, not a folder.\n");
-    h.launch();
-    const QList<Error> errors = h.ui.errors();
-    ASSERT_GE(errors.size(), 2);
-    EXPECT_EQ(errors[0].domain, "YOUR_ERROR_DOMAIN");
-    EXPECT_EQ(errors[0].code, 101);
-    EXPECT_EQ(errors[0].message,
-              QString("Expected a folder to store application data, found a file (%1).").arg(folder));
-    EXPECT_EQ(errors[1].domain, "YOUR_ERROR_DOMAIN");
-    EXPECT_EQ(errors[1].code, 9999);
-    EXPECT_EQ(errors[1].message, "Failed to initialize the store");
-    EXPECT_EQ(errors[1].reason, "There was an error building up the data file.");
-    EXPECT_EQ(app().managedObjectContext(), nullptr);
-    EXPECT_EQ(h.context(), nullptr);
-    EXPECT_EQ(h.ui.errorCodes().count(9999), 1) << "the stack is not rebuilt on later use";
+    const char* name;
+    bool damagedStore; // else a file where the files folder should be
+    int code;
+};
 
-    // The application stays up without a store.
-    EXPECT_EQ(app().state().currentInvoice(), nullptr);
-    EXPECT_FALSE(app().state().isCurrentInvoiceSent());
-    app().saveAction();
-    app().fadeViewIn();
-    EXPECT_EQ(app().applicationShouldTerminate(), AppDelegate::TerminateReply::Now);
-    EXPECT_EQ(h.storedSetting("isTerminatedFine"), true);
-    EXPECT_EQ(h.storedSetting("fetchedObjectsCount"), qint64(0));
-    EXPECT_EQ(fileBytes(folder), "I am a file, not a folder.\n");
-}
-
-// The store file itself is sound enough to open, but damaged: nothing may
-// write to it, not even a log beside it.
-TEST_F(AppDelegateTest, ADamagedStoreIsReportedThenTheStoreFailureAndTheFileIsKept)
+class StoreFailureTest : public AppDelegateTest, public ::testing::WithParamInterface<StoreFailure>
 {
-    const QString path = h.storePath();
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    {
+};
+
+TEST_P(StoreFailureTest, IsToldThenTheApplicationStaysUpAndWritesNothing)
+{
+    const StoreFailure& row = GetParam();
+    const QString path = row.damagedStore ? h.storePath() : h.env.locations().filesDirectory;
+    if (row.damagedStore) {
+        QDir().mkpath(QFileInfo(path).absolutePath());
         auto store = SqliteStore::open(path, ObjectModel::vorn());
         ASSERT_TRUE(store.ok());
         ObjectContext ctx(std::move(store.value()), h.clock);
@@ -126,24 +103,50 @@ TEST_F(AppDelegateTest, ADamagedStoreIsReportedThenTheStoreFailureAndTheFileIsKe
             ctx.insertNewObject(Entity::Invoice)->setValue("notes", QString(200, 'x'));
         ASSERT_TRUE(ctx.save());
     }
-    writeFile(path, fileBytes(path).left(QFileInfo(path).size() / 2));
+    writeFile(path, row.damagedStore ? fileBytes(path).left(QFileInfo(path).size() / 2)
+                                     : "I am a file, not a folder.\n");
     const QByteArray before = fileBytes(path);
     h.launch();
-    ASSERT_EQ(h.ui.errorCodes().mid(0, 2), (QList<int>{ErrorCode::StoreDamaged, 9999}));
-    EXPECT_TRUE(h.ui.errors()[0].message.contains(path)) << qPrintable(h.ui.errors()[0].message);
+
+    const QList<Error> errors = h.ui.errors();
+    ASSERT_GE(errors.size(), 2);
+    EXPECT_EQ(errors[0].code, row.code);
+    if (row.damagedStore) {
+        EXPECT_TRUE(errors[0].message.contains(path)) << qPrintable(errors[0].message);
+    } else {
+        EXPECT_EQ(errors[0].domain, "YOUR_ERROR_DOMAIN");
+        EXPECT_EQ(errors[0].message,
+                  QString("Expected a folder to store application data, found a file (%1).").arg(path));
+    }
+    EXPECT_EQ(errors[1].domain, "YOUR_ERROR_DOMAIN");
+    EXPECT_EQ(errors[1].code, 9999);
+    EXPECT_EQ(errors[1].message, "Failed to initialize the store");
+    EXPECT_EQ(errors[1].reason, "There was an error building up the data file.");
     EXPECT_EQ(app().managedObjectContext(), nullptr);
+    EXPECT_EQ(h.context(), nullptr);
+
+    EXPECT_EQ(app().state().currentInvoice(), nullptr);
+    EXPECT_FALSE(app().state().isCurrentInvoiceSent());
     app().saveAction();
+    app().fadeViewIn();
+    EXPECT_EQ(h.ui.errorCodes().count(9999), 1) << "the stack is not rebuilt on later use";
     EXPECT_EQ(app().applicationShouldTerminate(), AppDelegate::TerminateReply::Now);
+    EXPECT_EQ(h.storedSetting("isTerminatedFine"), true);
+    EXPECT_EQ(h.storedSetting("fetchedObjectsCount"), qint64(0));
     h.crash();
     EXPECT_EQ(fileBytes(path), before);
     EXPECT_FALSE(QFileInfo::exists(path + "-wal"));
 }
 
+INSTANTIATE_TEST_SUITE_P(Causes, StoreFailureTest,
+                         ::testing::Values(StoreFailure{"AFileWhereTheFolderShouldBe", false, 101},
+                                           StoreFailure{"ADamagedStore", true, ErrorCode::StoreDamaged}),
+                         [](const auto& info) { return std::string(info.param.name); });
+
 // ---------------------------------------------------------------- quit
 
 enum class Setup
 {
-    NoStore,
     CommitFails,
     NoChanges,
     Changes,
@@ -166,7 +169,6 @@ const auto Now = AppDelegate::TerminateReply::Now;
 const auto Cancel = AppDelegate::TerminateReply::Cancel;
 
 const QuitCase quitCases[] = {
-    {"NoContext", Setup::NoStore, -1, -1, Now, true, false, 0},
     {"CommitFails", Setup::CommitFails, -1, -1, Cancel, false, false, 4},
     {"NoChanges", Setup::NoChanges, -1, -1, Now, true, false, 3},
     {"SaveSucceeds", Setup::Changes, -1, -1, Now, true, false, 4},
@@ -182,24 +184,20 @@ class QuitTest : public AppDelegateTest, public ::testing::WithParamInterface<Qu
 TEST_P(QuitTest, QuitProtocol)
 {
     const QuitCase& c = GetParam();
-    if (c.setup == Setup::NoStore)
-        writeFile(h.env.locations().filesDirectory, "file");
     h.launch();
     QObject editor;
-    if (c.setup != Setup::NoStore) {
-        ASSERT_NE(h.context(), nullptr);
-        addDocument(1);
-        addDocument(0);
-        addDocument(1, 3);
-        app().saveAction();
-        ASSERT_FALSE(h.context()->hasChanges());
-        if (c.setup != Setup::NoChanges)
-            addDocument(1)->setValue("title", "pending");
-        if (c.setup == Setup::CommitFails)
-            h.context()->registerEditor(&editor, [] { return false; });
-        if (c.setup == Setup::SaveFails) {
-            EXPECT_TRUE(execOn(h.storePath(), refuseInserts));
-        }
+    ASSERT_NE(h.context(), nullptr);
+    addDocument(1);
+    addDocument(0);
+    addDocument(1, 3);
+    app().saveAction();
+    ASSERT_FALSE(h.context()->hasChanges());
+    if (c.setup != Setup::NoChanges)
+        addDocument(1)->setValue("title", "pending");
+    if (c.setup == Setup::CommitFails)
+        h.context()->registerEditor(&editor, [] { return false; });
+    if (c.setup == Setup::SaveFails) {
+        EXPECT_TRUE(execOn(h.storePath(), refuseInserts));
     }
     // The opposite of what must be written, so that writing it shows.
     h.settings->setValue("isTerminatedFine", !c.terminatedFine);
@@ -360,15 +358,12 @@ TEST_F(AppDelegateTest, CurrentInvoiceFollowsTheSelectionAndTheToolbarTheList)
 TEST_F(AppDelegateTest, LoadDefaultsSwitchesToTheListOfTheLanguage)
 {
     h.launch();
-    const char* const lists[] = {"defaultPrefsEnglish", "defaultPrefsGerman", "defaultPrefsFrench",
-                                 "defaultPrefsSpanish"};
     const char* const quotes[] = {"Quote", "Angebot", "Devis", "Presupuesto"};
     for (int language = 0; language < 4; ++language) {
-        SCOPED_TRACE(lists[language]);
-        EXPECT_EQ(AppDelegate::defaultListName(language), lists[language]);
+        SCOPED_TRACE(quotes[language]);
         ASSERT_TRUE(app().loadDefaults(language));
         EXPECT_EQ(h.storedSetting("locQuote"), QString::fromUtf8(quotes[language]));
-        const auto list = AppDelegate::defaultList(lists[language]);
+        const auto list = AppDelegate::defaultList(AppDelegate::defaultListName(language));
         ASSERT_TRUE(list.ok());
         for (auto it = list.value().cbegin(); it != list.value().cend(); ++it)
             EXPECT_EQ(h.settings->value(it.key()), it.value()) << qPrintable(it.key());

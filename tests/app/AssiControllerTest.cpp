@@ -41,34 +41,25 @@ protected:
     int seeded = 0;
 };
 
-struct LaunchCase
+TEST_F(AssiTest, OpensAtLaunchUntilTheAssistantWasCompleted)
 {
-    const char* name;
-    bool assiDone;
-    bool launchChecks;
-    bool opens;
-};
-
-class FirstRun : public AssiTest, public ::testing::WithParamInterface<LaunchCase>
-{
-};
-
-TEST_P(FirstRun, OpensAtLaunchUntilTheAssistantWasCompleted)
-{
-    const LaunchCase& row = GetParam();
-    launchWith(row.assiDone, row.launchChecks);
-    EXPECT_EQ(assi().isSheetVisible(), row.opens);
-    EXPECT_TRUE(h.ui.alertTitles().isEmpty());
-    if (row.opens) {
-        EXPECT_EQ(assi().pageIndex(), int(AssiController::LanguagePage));
+    const struct
+    {
+        const char* name;
+        bool assiDone, launchChecks, opens;
+    } launches[] = {{"NeverCompleted", false, true, true},
+                    {"Completed", true, true, false},
+                    {"CommandLine", false, false, false}};
+    for (const auto& row : launches) {
+        SCOPED_TRACE(row.name);
+        launchWith(row.assiDone, row.launchChecks);
+        EXPECT_EQ(assi().isSheetVisible(), row.opens);
+        EXPECT_TRUE(h.ui.alertTitles().isEmpty());
+        if (row.opens) {
+            EXPECT_EQ(assi().pageIndex(), int(AssiController::LanguagePage));
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Launches, FirstRun,
-                         ::testing::Values(LaunchCase{"NeverCompleted", false, true, true},
-                                           LaunchCase{"Completed", true, true, false},
-                                           LaunchCase{"CommandLine", false, false, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 struct OpenCase
 {
@@ -171,49 +162,45 @@ TEST_F(AssiTest, PagesAdvanceToTheLastAndFocusTheirFirstField)
     EXPECT_EQ(focused, (QStringList{"assiCompanyField", "assiSubscriptionField"}));
 }
 
-class CloseAssi : public AssiTest, public ::testing::WithParamInterface<int>
+TEST_F(AssiTest, ClosingCompletesTheAssistantAndOffersTheVideo)
 {
-};
+    for (const int answer : {0, 1}) {
+        SCOPED_TRACE(answer == 0 ? "Yes" : "No");
+        launchWith(false);
+        assi().setCompanyName("Kim Design");
+        assi().setContact("Kim Berger\nMain St. 1");
+        assi().setCheckForUpdates(answer == 0);
+        int videos = 0;
+        QObject::connect(&assi(), &AssiController::screenCastRequested, [&] { ++videos; });
+        h.ui.answerAlert(answer);
 
-TEST_P(CloseAssi, CompletesTheAssistantAndOffersTheVideo)
-{
-    launchWith(false);
-    assi().setCompanyName("Kim Design");
-    assi().setContact("Kim Berger\nMain St. 1");
-    assi().setCheckForUpdates(GetParam() == 0);
-    int videos = 0;
-    QObject::connect(&assi(), &AssiController::screenCastRequested, [&] { ++videos; });
-    h.ui.answerAlert(GetParam());
+        assi().closeAssi();
 
-    assi().closeAssi();
+        EXPECT_FALSE(assi().isSheetVisible());
+        const auto alerts = h.ui.calls("alert");
+        ASSERT_EQ(alerts.size(), 1);
+        EXPECT_EQ(shown(alerts[0]),
+                  (QStringList{"30 Second Introduction",
+                               "Do you want to see the 30 second introduction video before creating your "
+                               "first invoice?",
+                               "Yes, please!|No, I prefer to suffer in silence."}));
+        EXPECT_EQ(videos, answer == 0 ? 1 : 0);
 
-    EXPECT_FALSE(assi().isSheetVisible());
-    const auto alerts = h.ui.calls("alert");
-    ASSERT_EQ(alerts.size(), 1);
-    EXPECT_EQ(shown(alerts[0]),
-              (QStringList{
-                  "30 Second Introduction",
-                  "Do you want to see the 30 second introduction video before creating your first invoice?",
-                  "Yes, please!|No, I prefer to suffer in silence."}));
-    EXPECT_EQ(videos, GetParam() == 0 ? 1 : 0);
+        EXPECT_EQ(h.storedSetting("isAssiDone"), true);
+        EXPECT_EQ(h.storedSetting("prefsName"), "Kim Design");
+        EXPECT_EQ(h.storedSetting("prefsContact"), "Kim Berger\nMain St. 1");
+        // The consent was given here: the launch asks no more and checks a day later.
+        EXPECT_EQ(h.storedSetting("ZRUpdateChecker:CheckAtStartup"), answer == 0);
+        EXPECT_EQ(h.storedSetting("firstUpdateCheck"), true);
+        EXPECT_EQ(h.storedSetting("ZRUpdateChecker:LastCheckDate"),
+                  ZRUpdateChecker::referenceSeconds(h.clock.now()));
 
-    EXPECT_EQ(h.storedSetting("isAssiDone"), true);
-    EXPECT_EQ(h.storedSetting("prefsName"), "Kim Design");
-    EXPECT_EQ(h.storedSetting("prefsContact"), "Kim Berger\nMain St. 1");
-    // The consent was given here: the launch asks no more and checks a day later.
-    EXPECT_EQ(h.storedSetting("ZRUpdateChecker:CheckAtStartup"), GetParam() == 0);
-    EXPECT_EQ(h.storedSetting("firstUpdateCheck"), true);
-    EXPECT_EQ(h.storedSetting("ZRUpdateChecker:LastCheckDate"),
-              ZRUpdateChecker::referenceSeconds(h.clock.now()));
-
-    // The next launch leaves the assistant closed.
-    h.quit();
-    h.launch();
-    EXPECT_FALSE(assi().isSheetVisible());
+        // The next launch leaves the assistant closed.
+        h.quit();
+        h.launch();
+        EXPECT_FALSE(assi().isSheetVisible());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, CloseAssi, ::testing::Values(0, 1),
-                         [](const auto& info) { return std::string(info.param == 0 ? "Yes" : "No"); });
 
 TEST_F(AssiTest, QuitEndsTheSheetThenAsksToQuit)
 {

@@ -382,8 +382,8 @@ struct BadSource
 {
     const char* name;
     int code; // the error presented; 0 for any
-    // Makes the file to restore from, given the good backup.
-    std::function<QString(const QString& base, AppHarness& h)> make;
+    // Spoils the copy of the good backup to restore from, or points elsewhere.
+    std::function<void(QString& path, AppHarness& h)> spoil;
     During during = During::Nothing;
     bool storeFolderReadOnly = false;
 };
@@ -395,7 +395,10 @@ class RestoreRefusal : public RestoreTest, public ::testing::WithParamInterface<
 TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
 {
     const BadSource& row = GetParam();
-    const QString source = row.make(base, h);
+    QString source = home() + '/' + row.name + ".vndb";
+    ASSERT_TRUE(QFile::copy(base, source));
+    if (row.spoil)
+        row.spoil(source, h);
     h.addDocuments(1, "P", false);
     int copySteps = 0;
     backup().setCopyProgress([&](int, int) {
@@ -438,21 +441,6 @@ TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
     EXPECT_EQ(leftovers(storeFolder()), "");
 }
 
-QString fileOf(AppHarness& h, const char* name, const QByteArray& bytes)
-{
-    const QString path = h.env.home() + '/' + name;
-    writeFile(path, bytes);
-    return path;
-}
-
-QString copyOf(const QString& base, AppHarness& h, const char* name)
-{
-    const QString path = h.env.home() + '/' + name;
-    QFile::remove(path);
-    QFile::copy(base, path);
-    return path;
-}
-
 QByteArray randomBytes(int size)
 {
     QByteArray bytes(size, '\0');
@@ -461,42 +449,26 @@ QByteArray randomBytes(int size)
 }
 
 const BadSource badSources[] = {
-    {"RandomBytes", ErrorCode::StoreNotVorn,
-     [](auto&, auto& h) { return fileOf(h, "random.vndb", randomBytes(65536)); }},
-    {"EmptyFile", ErrorCode::StoreNotVorn, [](auto&, auto& h) { return fileOf(h, "empty.vndb", {}); }},
-    {"MissingFile", ErrorCode::FileNotFound, [](auto&, auto& h) { return h.env.home() + "/missing.vndb"; }},
+    {"RandomBytes", ErrorCode::StoreNotVorn, [](auto& p, auto&) { writeFile(p, randomBytes(65536)); }},
+    {"EmptyFile", ErrorCode::StoreNotVorn, [](auto& p, auto&) { writeFile(p, {}); }},
+    {"MissingFile", ErrorCode::FileNotFound, [](auto& p, auto&) { QFile::remove(p); }},
     {"TruncatedStore", ErrorCode::StoreDamaged,
-     [](auto& base, auto& h) {
-         const QString path = copyOf(base, h, "truncated.vndb");
-         QFile::resize(path, QFileInfo(path).size() / 2);
-         return path;
-     }},
+     [](auto& p, auto&) { QFile::resize(p, QFileInfo(p).size() / 2); }},
     // Everything after the first page (which holds the schema) is noise.
     {"DamagedPages", ErrorCode::StoreDamaged,
-     [](auto& base, auto& h) {
-         return withNoise(copyOf(base, h, "damaged.vndb"), 4096 + 100, 997, "\xde\xad\xbe\xef");
-     }},
+     [](auto& p, auto&) { withNoise(p, 4096 + 100, 997, "\xde\xad\xbe\xef"); }},
     {"NewerSchemaVersion", ErrorCode::StoreTooNew,
-     [](auto& base, auto& h) {
-         const QString path = copyOf(base, h, "newer.vndb");
-         execOn(path, "PRAGMA user_version = 99");
-         return path;
-     }},
+     [](auto& p, auto&) { execOn(p, "PRAGMA user_version = 99"); }},
     {"AnotherSqliteDatabase", ErrorCode::StoreNotVorn,
-     [](auto&, auto& h) {
-         const QString path = h.env.home() + "/other.vndb";
-         execOn(path, "CREATE TABLE notes (text TEXT); INSERT INTO notes VALUES ('hello')", true);
-         return path;
+     [](auto& p, auto&) {
+         QFile::remove(p);
+         execOn(p, "CREATE TABLE notes (text TEXT); INSERT INTO notes VALUES ('hello')", true);
      }},
-    {"TheLiveStoreItself", 0, [](auto&, auto& h) { return h.storePath(); }},
-    {"VanishesMidCopy", ErrorCode::FileNotFound,
-     [](auto& base, auto& h) { return copyOf(base, h, "vanishing.vndb"); }, During::Vanish},
-    {"TruncatedMidCopy", 0, [](auto& base, auto& h) { return copyOf(base, h, "shrinking.vndb"); },
-     During::Truncate},
-    {"DamagedMidCopy", ErrorCode::StoreDamaged,
-     [](auto& base, auto& h) { return copyOf(base, h, "decaying.vndb"); }, During::Damage},
-    {"ReadOnlyStoreFolder", ErrorCode::FileWriteNoPermission, [](auto& base, auto&) { return base; },
-     During::Nothing, true},
+    {"TheLiveStoreItself", 0, [](auto& p, auto& h) { p = h.storePath(); }},
+    {"VanishesMidCopy", ErrorCode::FileNotFound, nullptr, During::Vanish},
+    {"TruncatedMidCopy", 0, nullptr, During::Truncate},
+    {"DamagedMidCopy", ErrorCode::StoreDamaged, nullptr, During::Damage},
+    {"ReadOnlyStoreFolder", ErrorCode::FileWriteNoPermission, nullptr, During::Nothing, true},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sources, RestoreRefusal, ::testing::ValuesIn(badSources),
@@ -589,26 +561,22 @@ TEST_F(RestoreTest, ALogLeftByAnotherReaderIsNotAppliedToTheRestoredStore)
     EXPECT_EQ(numbersIn(backup().lastReplacedPath(), true), words("A1 A2 A3 L1 L2"));
 }
 
-class RestoreCancelled : public RestoreTest, public ::testing::WithParamInterface<bool>
+TEST_F(RestoreTest, CancellingAtTheWarningOrInThePanelChangesNothing)
 {
-};
-
-TEST_P(RestoreCancelled, ChangesNothing)
-{
-    const bool atTheWarning = GetParam();
     h.addDocuments(1, "P", false);
-    h.ui.answerAlert(atTheWarning ? 1 : 0);
-    h.ui.answerPanel(atTheWarning ? std::optional<QString>(base) : std::nullopt);
-    EXPECT_EQ(backup().restoreVornData(), RestoreResult::Cancelled);
-    EXPECT_EQ(h.ui.calls("open").size(), atTheWarning ? 0 : 1);
-    EXPECT_TRUE(h.ui.calls("error").isEmpty());
-    EXPECT_TRUE(h.context()->hasChanges());
-    EXPECT_EQ(numbersIn(h.storePath()), sequence("A", 3));
-    EXPECT_EQ(leftovers(storeFolder()), "");
+    for (const bool atTheWarning : {false, true}) {
+        SCOPED_TRACE(atTheWarning ? "at the warning" : "in the panel");
+        h.ui.clear();
+        h.ui.answerAlert(atTheWarning ? 1 : 0);
+        h.ui.answerPanel(atTheWarning ? std::optional<QString>(base) : std::nullopt);
+        EXPECT_EQ(backup().restoreVornData(), RestoreResult::Cancelled);
+        EXPECT_EQ(h.ui.calls("open").size(), atTheWarning ? 0 : 1);
+        EXPECT_TRUE(h.ui.calls("error").isEmpty());
+        EXPECT_TRUE(h.context()->hasChanges());
+        EXPECT_EQ(numbersIn(h.storePath()), sequence("A", 3));
+        EXPECT_EQ(leftovers(storeFolder()), "");
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Answers, RestoreCancelled, ::testing::Bool(),
-                         [](const auto& info) { return info.param ? "AtTheWarning" : "InThePanel"; });
 
 TEST_F(BackupTest, RestoreRescuesAStoreThatCannotBeOpened)
 {

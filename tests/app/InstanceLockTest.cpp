@@ -86,12 +86,6 @@ TEST_F(InstanceLockTest, ALockThatCannotBeCreatedIsAnError)
     EXPECT_FALSE(InstanceLock::isHeldElsewhere(path()));
 }
 
-} // namespace
-} // namespace vorn::test
-
-namespace vorn::test {
-namespace {
-
 // A later start hands its files to the running instance (from another
 // thread here, since sending waits for the answer).
 TEST(InstanceChannelTest, ALaterStartHandsItsFilesToTheRunningInstance)

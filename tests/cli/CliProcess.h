@@ -33,6 +33,14 @@ inline CliRun runCli(const QStringList& args)
             QString::fromUtf8(p.readAllStandardOutput()), QString::fromUtf8(p.readAllStandardError())};
 }
 
+// A run that must succeed.
+inline CliRun runOk(const QStringList& args)
+{
+    CliRun r = runCli(args);
+    EXPECT_EQ(r.code, 0) << qPrintable(args.join(QLatin1Char(' '))) << ": " << qPrintable(r.err);
+    return r;
+}
+
 // A refusal: the exit code, nothing on standard output and one line
 // "vorn-cli: ..." (saying `says`) on standard error.
 inline void expectRefusal(const CliRun& r, int code, const QString& says = {})
@@ -49,13 +57,7 @@ class CliFixture : public ::testing::Test
 {
 protected:
     static CliRun run(const QStringList& args) { return runCli(args); }
-    // A run that must succeed.
-    static CliRun ok(const QStringList& args)
-    {
-        CliRun r = runCli(args);
-        EXPECT_EQ(r.code, 0) << qPrintable(args.join(QLatin1Char(' '))) << ": " << qPrintable(r.err);
-        return r;
-    }
+    static CliRun ok(const QStringList& args) { return runOk(args); }
     QString path(const QString& name) const { return QDir(env.home()).filePath(name); }
     void writeFile(const QString& name, const QByteArray& data) const
     {

@@ -80,11 +80,8 @@ TEST_F(DocumentCommandsTest, TheSentLockRefusesWithTheAlertText)
         {"set", id, "shippingAmount=3"},
         {"set", id, "notes=fine", "discountAmount=1"},
     };
-    for (const QStringList& args : refused) {
-        const CliRun r = run(args);
-        expectRefusal(r, 1);
-        EXPECT_EQ(r.err.trimmed(), "vorn-cli: " + locked) << qPrintable(args.join(' '));
-    }
+    for (const QStringList& args : refused)
+        expectRefusal(run(args), 1, locked);
     const QJsonObject unchanged = doc({"show", id});
     EXPECT_EQ(titles(unchanged), QStringList{"A"});
     EXPECT_FALSE(unchanged.value("isShippingEnabled").toBool());
@@ -122,8 +119,8 @@ TEST_F(DocumentCommandsTest, ListFiltersAndTotals)
     for (const QJsonValue& d : documents)
         EXPECT_FALSE(d.toObject().contains("items"));
 
-    const std::tuple<const char*, int, double> filtered[] = {
-        {"2", 1, 40}, {"4", 1, 0}, {"1", 0, 0}, {"12", 0, 0}};
+    // The filters are the list's; here a tag reaches them.
+    const std::tuple<const char*, int, double> filtered[] = {{"2", 1, 40}, {"4", 1, 0}};
     for (const auto& [tag, count, total] : filtered) {
         const QJsonObject list = doc({"list", "--filter", tag});
         EXPECT_EQ(list.value("documents").toArray().size(), count) << tag;
@@ -132,64 +129,52 @@ TEST_F(DocumentCommandsTest, ListFiltersAndTotals)
     expectRefusal(run({"list", "--filter", "x"}), 2);
 }
 
-TEST_F(DocumentCommandsTest, ShippingAndDiscountFromTheCommandLine)
+// The popovers' fields reach the document; the sums are the Calculator's.
+TEST_F(DocumentCommandsTest, ShippingDiscountAndAddressPopovers)
 {
     const QString id = newDocument("invoice");
     doc({"item", "add", id, "title=x", "baseAmount=100", "tax1=0"});
-
     QJsonObject d = doc({"shipping", id, "amount=10", "note=by van"});
     EXPECT_TRUE(d.value("isShippingEnabled").toBool());
-    EXPECT_EQ(d.value("shippingTitle").toString(), "Shipping"); // the default title
     EXPECT_FLOAT_EQ(float(number(d, "amount")), 110.0f);
-    doc({"shipping", id, "title=Shipping", "amount=10"}); // the same charge again
-
-    d = doc({"discount", id, "percent", "10%", "title=Loyal", "subtitle=thanks"});
-    EXPECT_FLOAT_EQ(float(number(d, "amount")), 99.0f);
-    EXPECT_TRUE(d.value("hasDiscountSubtitle").toBool());
-    EXPECT_FLOAT_EQ(float(number(doc({"discount", id, "percent", "0.1"}), "amount")), 99.0f);
-    EXPECT_FLOAT_EQ(float(number(doc({"discount", id, "fixed", "200"}), "amount")), -90.0f);
+    // A rate is a fraction, or a percentage with its sign.
+    for (const char* rate : {"10%", "0.1"}) {
+        d = doc({"discount", id, "percent", rate, "title=Loyal", "subtitle=thanks"});
+        EXPECT_FLOAT_EQ(float(number(d, "amount")), 99.0f) << rate;
+        EXPECT_TRUE(d.value("hasDiscountSubtitle").toBool());
+    }
+    EXPECT_FLOAT_EQ(float(number(doc({"discount", id, "fixed", "5"}), "amount")), 105.0f);
     EXPECT_FLOAT_EQ(float(number(doc({"discount", id, "--off"}), "amount")), 110.0f);
     EXPECT_FLOAT_EQ(float(number(doc({"shipping", id, "--off"}), "amount")), 100.0f);
-
-    // The remembered charge switches shipping on again, on another document too.
     const QString other = newDocument("quote");
     d = doc({"shipping", other, "--recent", "0"});
     EXPECT_TRUE(d.value("isShippingEnabled").toBool());
     EXPECT_FLOAT_EQ(float(number(d, "shippingAmount")), 10.0f);
-    expectRefusal(run({"shipping", other, "--recent", "1"}), 2); // only one was remembered
-    expectRefusal(run({"shipping", other, "weight=3"}), 2);
-    expectRefusal(run({"discount", other, "half", "3"}), 2);
-}
 
-TEST_F(DocumentCommandsTest, AddressesFromTextContactsAndMemory)
-{
-    setting("prefsAddressPattern", "%FIRSTNAME% %LASTNAME%\n%STREET%\n%ZIP% %CITY%");
-    const QString id = newDocument("invoice");
-    QJsonObject d =
-        doc({"address", id, "--text", "Ada\nLondon", "--email", "ada@x.org", "--client-number", "C-1"});
-    EXPECT_EQ(d.value("address").toString(), "Ada\nLondon");
-    EXPECT_EQ(d.value("emailAddress").toString(), "ada@x.org");
-    EXPECT_EQ(d.value("clientNumber").toString(), "C-1");
-
+    setting("prefsAddressPattern", "%FIRSTNAME% %LASTNAME%\n%CITY%");
+    d = doc({"address", id, "--text", "Ada\nLondon", "--email", "ada@x.org", "--client-number", "C-1"});
+    EXPECT_EQ(QStringList({d.value("address").toString(), d.value("emailAddress").toString(),
+                           d.value("clientNumber").toString()}),
+              (QStringList{"Ada\nLondon", "ada@x.org", "C-1"}));
     writeFile("people.vcf",
-              "BEGIN:VCARD\r\nVERSION:3.0\r\nN:One;Only\r\nEND:VCARD\r\nBEGIN:VCARD\r\nVERSION:2.1\r\n"
-              "N;CHARSET=ISO-8859-1:M\xFCller;J\xFCrgen\r\nADR;HOME:;;Hauptstr. 5;Berlin;;10115;\r\n"
-              "EMAIL;WORK:j@w.de\r\nEMAIL;HOME:j@h.de\r\nEND:VCARD\r\n");
+              "BEGIN:VCARD\r\nN:One;Only\r\nEND:VCARD\r\nBEGIN:VCARD\r\nN:M\xC3\xBCller;J\xC3\xBCrgen\r\n"
+              "ADR:;;;Berlin;;;\r\nEMAIL:j@h.de\r\nEND:VCARD\r\n");
     d = doc({"address", id, "--contact", path("people.vcf"), "--index", "1"});
-    EXPECT_EQ(d.value("address").toString(), "Jürgen Müller\nHauptstr. 5\n10115 Berlin");
+    EXPECT_EQ(d.value("address").toString(), "Jürgen Müller\nBerlin");
     EXPECT_EQ(d.value("emailAddress").toString(), "j@h.de");
-    EXPECT_EQ(d.value("clientNumber").toString(), "C-1");
-
-    const QJsonArray remembered = ok({"address", "list"}).array();
-    ASSERT_EQ(remembered.size(), 2);
-    EXPECT_EQ(remembered[0].toObject().value("clientNumber").toString(), "C-1");
-    d = doc({"address", newDocument("quote"), "--recent", "0"});
+    EXPECT_EQ(ok({"address", "list"}).array().size(), 2);
+    d = doc({"address", other, "--recent", "0"});
     EXPECT_EQ(d.value("address").toString() + d.value("clientNumber").toString(), "Ada\nLondonC-1");
 
     expectRefusal(run({"address", id, "--contact", path("people.vcf"), "--index", "2"}), 3);
     expectRefusal(run({"address", id, "--contact", path("none.vcf")}), 3);
-    expectRefusal(run({"address", id, "--text"}), 2);
-    expectRefusal(run({"address", id, "--text", "x", "--recent", "0"}), 2);
+    const QStringList usage[] = {{"shipping", other, "--recent", "1"}, // only one was remembered
+                                 {"shipping", other, "weight=3"},
+                                 {"discount", other, "half", "3"},
+                                 {"address", id, "--text"},
+                                 {"address", id, "--text", "x", "--recent", "0"}};
+    for (const QStringList& args : usage)
+        expectRefusal(run(args), 2);
 }
 
 TEST_F(DocumentCommandsTest, LifecycleCommandsAndNumbers)
@@ -210,13 +195,10 @@ TEST_F(DocumentCommandsTest, LifecycleCommandsAndNumbers)
     const QJsonObject converted = doc({"convert", "Q-1"});
     EXPECT_EQ(converted.value("kind").toInt(), 1);
     EXPECT_EQ(converted.value("number").toString(), "RE-102");
-    EXPECT_EQ(converted.value("date").toString(), quote.value("date").toString());
 
-    doc({"set", "RE-101", "status=3", "dispatchNumber=D-9"});
     const QJsonObject copy = doc({"duplicate", "RE-101"});
     EXPECT_NE(copy.value("uniqueID").toString(), invoice.value("uniqueID").toString());
-    for (const char* k : {"number", "status", "date", "paid", "dispatchNumber"})
-        EXPECT_FALSE(copy.contains(k)) << k;
+    EXPECT_FALSE(copy.contains("number"));
 
     const QJsonObject stamped = doc({"dispatched", "RE-102"});
     EXPECT_GT(stamped.value("dispatched").toString(), converted.value("dispatched").toString());
@@ -225,7 +207,6 @@ TEST_F(DocumentCommandsTest, LifecycleCommandsAndNumbers)
                                  {"delete", "Q-1"}, // renumbered: no such document
                                  {"show", "#9"},
                                  {"set", "RE-101", "nosuchkey=1"},
-                                 {"set", "RE-101", "status=high"},
                                  {"item", "move", "RE-101", "0", "0"}, // no items
                                  {"new", "order"}};
     for (const QStringList& args : usage)

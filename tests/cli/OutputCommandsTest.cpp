@@ -57,37 +57,27 @@ TEST_F(OutputCommandsTest, HtmlIsTheDocumentInTheDefaultDesign)
         expectRefusal(run(args), 2);
 }
 
-// Which kinds are marked under which setting is the export controller's rule.
-TEST_F(OutputCommandsTest, PdfMarksAnInvoiceSentWhenTheSettingIsOn)
+// Which kinds are marked is the export controller's rule and every paper the
+// renderer's; here both settings reach the command, which never replaces a file.
+TEST_F(OutputCommandsTest, PdfFollowsTheSettingsAndNeverReplacesAFile)
 {
     ok({"defaults", "write", "markInvoiceAsSent", "1", "--type", "bool"});
+    ok({"defaults", "write", "tempPaperSize", "1", "--type", "int"});
     const QString id = make("invoice", "DOC-1");
-    EXPECT_EQ(ok({"pdf", id, path("out.pdf")}).out.trimmed(), path("out.pdf"));
-    EXPECT_TRUE(readFile(path("out.pdf")).startsWith("%PDF-"));
-    EXPECT_EQ(status(id), 1);
-}
-
-TEST_F(OutputCommandsTest, PdfNeverReplacesAFile)
-{
-    ok({"defaults", "write", "markInvoiceAsSent", "1", "--type", "bool"});
-    const QString id = make("invoice", "INV-9");
     writeFile("mine.pdf", "keep me");
     expectRefusal(run({"pdf", id, path("mine.pdf")}), 3, "already exists");
     EXPECT_EQ(readFile(path("mine.pdf")), QByteArray("keep me"));
-    // Nothing was saved: the invoice is not marked as sent.
-    EXPECT_EQ(status(id), 0);
-}
+    EXPECT_EQ(status(id), 0) << "nothing was saved";
 
-// The renderer's tests cover every paper; here the setting reaches the command.
-TEST_F(OutputCommandsTest, PdfPaperFollowsTheSetting)
-{
-    ok({"defaults", "write", "tempPaperSize", "1", "--type", "int"});
-    ok({"pdf", make("invoice", "INV-P"), path("paper.pdf")});
+    EXPECT_EQ(ok({"pdf", id, path("out.pdf")}).out.trimmed(), path("out.pdf"));
+    const QString pdf = QString::fromLatin1(readFile(path("out.pdf")));
+    EXPECT_TRUE(pdf.startsWith("%PDF-"));
     static const QRegularExpression box(QStringLiteral("/MediaBox\\s*\\[\\s*0 0 ([0-9.]+) ([0-9.]+)"));
-    const auto m = box.match(QString::fromLatin1(readFile(path("paper.pdf"))));
+    const auto m = box.match(pdf);
     EXPECT_EQ(
         QStringLiteral("%1x%2").arg(qRound(m.captured(1).toDouble())).arg(qRound(m.captured(2).toDouble())),
         QStringLiteral("612x1008"));
+    EXPECT_EQ(status(id), 1);
 }
 
 TEST_F(OutputCommandsTest, AllListedDocumentsAreNamedByTheirJobTitles)

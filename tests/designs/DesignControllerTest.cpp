@@ -151,11 +151,8 @@ TEST_F(DesignTest, NewDesignIsTitledNotDefaultAndItsTitleEdited)
     ASSERT_NE(design, nullptr);
     EXPECT_EQ(design->stringValue("title"), "New Design");
     EXPECT_FALSE(design->boolValue("isDefault"));
-    const std::pair<const char*, const char*> texts[] = {
-        {"invoice", "Invoice.htm"}, {"item", "Item.htm"}, {"css", "CSS.css"}};
-    for (const auto& [key, resource] : texts)
-        EXPECT_EQ(design->stringValue(key), QString::fromUtf8(*DesignController::bundledResource(resource)))
-            << key;
+    EXPECT_EQ(design->stringValue("invoice"),
+              QString::fromUtf8(*DesignController::bundledResource("Invoice.htm")));
     EXPECT_EQ(editedRow, 9);
     EXPECT_EQ(list.arrangedObjects().value(9), design);
     EXPECT_EQ(list.selectedObject(), design);

@@ -1,13 +1,10 @@
 #include "designs/EditorCommands.h"
 
+#include "tests/support/TestValues.h"
+
 #include <gtest/gtest.h>
 
 using namespace vorn;
-
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace {
 
@@ -104,13 +101,5 @@ INSTANTIATE_TEST_SUITE_P(
         CommandCase{"the HTML editors beep and change nothing", Command::CommentHtml, "[<b>\n</b>]",
                     "[<b>\n</b>]"}),
     [](const auto& info) { return "case" + std::to_string(info.index); });
-
-TEST(EditorCommandsTest, TheBuilderIndexChoosesTheEditor)
-{
-    EXPECT_EQ(EditorCommands::editorForIndex(1), EditorCommands::ItemEditor);
-    EXPECT_EQ(EditorCommands::editorForIndex(2), EditorCommands::StyleSheetEditor);
-    for (qint64 other : {0, 3, -1})
-        EXPECT_EQ(EditorCommands::editorForIndex(other), EditorCommands::PageEditor);
-}
 
 } // namespace

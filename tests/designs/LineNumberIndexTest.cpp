@@ -17,16 +17,6 @@ TEST(LineNumberIndexTest, LineStarts)
     EXPECT_EQ(LineNumberIndex::calculateLines("a\r\nb\rc\n\n"), (QList<int>{0, 3, 5, 7, 8}));
 }
 
-TEST(LineNumberIndexTest, IsBuiltWhenAskedAndDroppedOnChange)
-{
-    LineNumberIndex index;
-    EXPECT_FALSE(index.isBuilt());
-    EXPECT_EQ(index.lineIndices("a\nb").size(), 2);
-    EXPECT_EQ(index.lineIndices("changed without telling").size(), 2);
-    index.invalidate();
-    EXPECT_EQ(index.lineIndices("a\nb\nc").size(), 3);
-}
-
 TEST(LineNumberIndexTest, LineOfACharacter)
 {
     const QList<int> starts{0, 4, 9, 10, 20};
@@ -51,17 +41,6 @@ TEST(LineNumberIndexTest, ThicknessFitsTheDigitsAndNeverGoesBelow22)
 TEST(LineNumberIndexTest, LabelsAreRightAlignedAndCentred)
 {
     EXPECT_EQ(LineNumberIndex::labelRect(30, QSizeF(12, 10), 100, 14), QRectF(13, 102, 12, 10));
-}
-
-TEST(LineNumberIndexTest, MarkersByLine)
-{
-    LineNumberIndex index;
-    index.setMarkers({{3}, {7}});
-    index.addMarker({9});
-    index.removeMarker({3});
-    EXPECT_EQ(index.markers().keys(), (QList<int>{7, 9}));
-    EXPECT_EQ(index.markerAtLine(7), LineMarker{7});
-    EXPECT_FALSE(index.markerAtLine(3));
 }
 
 } // namespace

@@ -8,14 +8,11 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
+#include "tests/support/TestValues.h"
+
 #include <gtest/gtest.h>
 
 using namespace vorn;
-
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
 
 namespace {
 
@@ -106,7 +103,6 @@ TEST(SyntaxDefinitionTest, ColoursComeFromTheSettingsOverTheDefinition)
     const SyntaxDefinition d = SyntaxDefinition::fromDictionary(testLanguage(), &settings);
     EXPECT_EQ(d.modeColor(d.modeOf("Keyword")), (SyntaxColor{1, 0, 0, 1, true}));
     EXPECT_EQ(d.modeColor(d.modeOf("Line")), (SyntaxColor{0.5, 0.25, 0, 1, true}));
-    EXPECT_EQ(d.modeColor(d.modeOf("Tag")), (SyntaxColor{0.11, 0.33, 0.62, 1, true}));
     EXPECT_FALSE(SyntaxDefinition::colorValue(QVariantList{1, "x", 0}).isValid());
     EXPECT_EQ(SyntaxDefinition::arrayWithColor({0.25, 0.5, 1, 0.5, true}),
               (QVariantList{0.25, 0.5, 1.0, 0.5}));

@@ -85,23 +85,19 @@ TEST_F(EInvoiceRenderTest, FacturXCarriesTheXmlTheMetadataAndTheOutputIntent)
     if (!report)
         GTEST_SKIP() << "python3-pikepdf is not installed";
     const QJsonObject r = QJsonDocument::fromJson(*report).object();
-    const QJsonObject attachment =
-        r[QStringLiteral("attachments")][QStringLiteral("factur-x.xml")].toObject();
-    EXPECT_EQ(attachment[QStringLiteral("relationship")].toString(), QStringLiteral("/Alternative"));
-    EXPECT_EQ(attachment[QStringLiteral("subtype")].toString(), QStringLiteral("/text/xml"));
-    EXPECT_EQ(attachment[QStringLiteral("bytes")].toInt(), xml->size());
-    EXPECT_EQ(r[QStringLiteral("af")].toArray().first().toString(), QStringLiteral("factur-x.xml"));
-    EXPECT_EQ(r[QStringLiteral("intents")].toArray().first().toObject()[QStringLiteral("s")].toString(),
-              QStringLiteral("/GTS_PDFA1"));
-    EXPECT_EQ(r[QStringLiteral("intents")].toArray().first().toObject()[QStringLiteral("n")].toInt(), 3);
-    const QJsonObject xmp = r[QStringLiteral("xmp")].toObject();
-    EXPECT_EQ(xmp[QStringLiteral("pdfaid:part")].toString(), QStringLiteral("3"));
-    EXPECT_EQ(xmp[QStringLiteral("pdfaid:conformance")].toString(), QStringLiteral("B"));
-    EXPECT_EQ(xmp[QStringLiteral("fx:DocumentFileName")].toString(), QStringLiteral("factur-x.xml"));
-    EXPECT_EQ(xmp[QStringLiteral("fx:ConformanceLevel")].toString(), QStringLiteral("EN 16931"));
-    EXPECT_EQ(r[QStringLiteral("version")].toString(), QStringLiteral("1.7"));
-    EXPECT_FALSE(r[QStringLiteral("metadataFiltered")].toBool());
-    EXPECT_TRUE(r[QStringLiteral("fontsEmbedded")].toBool());
+    const QJsonValue attachment = r[u"attachments"][u"factur-x.xml"], xmp = r[u"xmp"];
+    const QJsonValue intent = r[u"intents"].toArray().first();
+    EXPECT_EQ(QStringList({attachment[u"relationship"].toString(), attachment[u"subtype"].toString(),
+                           r[u"af"].toArray().first().toString(), intent[u"s"].toString(),
+                           xmp[u"pdfaid:part"].toString(), xmp[u"pdfaid:conformance"].toString(),
+                           xmp[u"fx:DocumentFileName"].toString(), xmp[u"fx:ConformanceLevel"].toString(),
+                           r[u"version"].toString()}),
+              QStringList({"/Alternative", "/text/xml", "factur-x.xml", "/GTS_PDFA1", "3", "B",
+                           "factur-x.xml", "EN 16931", "1.7"}));
+    EXPECT_EQ(attachment[u"bytes"].toInt(), xml->size());
+    EXPECT_EQ(intent[u"n"].toInt(), 3);
+    EXPECT_FALSE(r[u"metadataFiltered"].toBool());
+    EXPECT_TRUE(r[u"fontsEmbedded"].toBool());
 }
 
 // The page shows the EPC code; a scanner reads the transfer from it.

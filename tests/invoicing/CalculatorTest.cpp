@@ -43,9 +43,7 @@ const LineCase lineCases[] = {
     {"zeroQuantity", 99.99f, 0, 0.19f, 0.1f, 0.1f, true, true, true, true, true, 0, 0, 0, 0, 0},
 };
 
-class LineArithmetic : public InvoicingFixture, public ::testing::WithParamInterface<LineCase>
-{
-};
+using LineArithmetic = CaseTable<InvoicingFixture, LineCase>;
 
 TEST_P(LineArithmetic, ItemAmounts)
 {
@@ -67,8 +65,7 @@ TEST_P(LineArithmetic, ItemAmounts)
     EXPECT_FLOAT_EQ(doc->floatValue(key::subAmount), c.net);
 }
 
-INSTANTIATE_TEST_SUITE_P(Calculator, LineArithmetic, ::testing::ValuesIn(lineCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Calculator, LineArithmetic, ::testing::ValuesIn(lineCases), caseName);
 
 // ---------------------------------------------------------------------------
 // Shipping and discount on a document with one untaxed line of 100.
@@ -109,9 +106,7 @@ const DocumentCase documentCases[] = {
      0, 110},
 };
 
-class DocumentArithmetic : public InvoicingFixture, public ::testing::WithParamInterface<DocumentCase>
-{
-};
+using DocumentArithmetic = CaseTable<InvoicingFixture, DocumentCase>;
 
 TEST_P(DocumentArithmetic, ShippingAndDiscount)
 {
@@ -136,8 +131,7 @@ TEST_P(DocumentArithmetic, ShippingAndDiscount)
     EXPECT_FLOAT_EQ(doc->floatValue(key::discountAmount), c.discountAmount);
 }
 
-INSTANTIATE_TEST_SUITE_P(Calculator, DocumentArithmetic, ::testing::ValuesIn(documentCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Calculator, DocumentArithmetic, ::testing::ValuesIn(documentCases), caseName);
 
 using CalculatorTest = InvoicingFixture;
 
@@ -199,15 +193,13 @@ const StatusCase statusCases[] = {
     {"statusAboveFourStampsAndCounts", 1, 7, -86400, false, 40, 2, 3, 7, 2, 3, true, 1, 1, 0},
 };
 
-class StatusMoves : public InvoicingFixture, public ::testing::WithParamInterface<StatusCase>
-{
-};
+using StatusMoves = CaseTable<InvoicingFixture, StatusCase>;
 
 TEST_P(StatusMoves, OneDocument)
 {
     const StatusCase& c = GetParam();
     ManagedObject* doc = document(c.kind, c.status, c.amount);
-    const QDateTime oldPaid = at(2020, 1, 1);
+    const QDateTime oldPaid = utc(2020, 1, 1);
     assign(*doc, key::due, c.dueInSeconds == kNoDue ? QVariant() : clock.now().addSecs(c.dueInSeconds),
            key::isPaid, c.isPaid, key::paidAmount, c.paidAmount, key::dueAmount, c.dueAmount, key::paid,
            oldPaid);
@@ -233,8 +225,7 @@ TEST_P(StatusMoves, OneDocument)
     EXPECT_EQ(doc->dateValue(key::paid), stamped);
 }
 
-INSTANTIATE_TEST_SUITE_P(Calculator, StatusMoves, ::testing::ValuesIn(statusCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Calculator, StatusMoves, ::testing::ValuesIn(statusCases), caseName);
 
 TEST_F(CalculatorTest, SetBackFromPaidToSentKeepsOldPaidAmountInTotals)
 {

@@ -16,25 +16,19 @@ protected:
 // payment and dispatch fields, quotes stay open whatever their status.
 TEST_F(DocumentEditorTest, SentInvoicesKeepOnlyTheirPaymentAndDispatchFieldsOpen)
 {
-    struct Case
-    {
-        int kind, status;
-        QString key;
-        bool editable;
-    } cases[] = {
+    // kind, status, field, editable
+    const std::tuple<int, int, QString, bool> cases[] = {
         {1, 0, key::title, true},           {1, 1, key::title, false},     {1, 3, key::notes, false},
         {1, 1, key::status, true},          {1, 4, key::paidAmount, true}, {1, 1, key::dispatchNumber, true},
         {1, 2, key::address, false},        {0, 1, key::title, true},      {0, 0, key::currency, true},
         {1, 1, key::buyerReference, false},
     };
-    for (const Case& c : cases) {
-        select(document(c.kind, c.status));
-        EXPECT_EQ(editor().isEditable(c.key), c.editable)
-            << c.kind << ' ' << c.status << ' ' << c.key.toStdString();
-        EXPECT_EQ(editor().setDocumentValue(c.key, c.key == key::status ? QVariant(0)
-                                                                        : QVariant(QStringLiteral("x"))),
-                  c.editable)
-            << c.key.toStdString();
+    for (const auto& [kind, status, field, editable] : cases) {
+        SCOPED_TRACE(QStringLiteral("%1 %2 %3").arg(kind).arg(status).arg(field).toStdString());
+        select(document(kind, status));
+        EXPECT_EQ(editor().isEditable(field), editable);
+        const QVariant value = field == key::status ? QVariant(0) : QVariant(QStringLiteral("x"));
+        EXPECT_EQ(editor().setDocumentValue(field, value), editable);
     }
     state.invoicesController().setSelectedObjects({});
     EXPECT_FALSE(editor().isEditable(key::title));
@@ -43,19 +37,14 @@ TEST_F(DocumentEditorTest, SentInvoicesKeepOnlyTheirPaymentAndDispatchFieldsOpen
 
 TEST_F(DocumentEditorTest, PaidDateAndAmountAreShownForPaidAndPartlyPaidInvoices)
 {
-    struct Case
-    {
-        int kind, status;
-        bool paidDate, paidAmount;
-    } cases[] = {{1, 0, false, false},
-                 {1, 2, false, false},
-                 {1, 3, true, false},
-                 {1, 4, true, true},
-                 {0, 4, false, false}};
-    for (const Case& c : cases) {
-        select(document(c.kind, c.status));
-        EXPECT_EQ(editor().isRelevant(key::paid), c.paidDate) << c.status;
-        EXPECT_EQ(editor().isRelevant(key::paidAmount), c.paidAmount) << c.status;
+    // kind, status, paid date shown, paid amount shown
+    const std::tuple<int, int, bool, bool> cases[] = {{1, 0, false, false}, {1, 2, false, false},
+                                                      {1, 3, true, false},  {1, 4, true, true},
+                                                      {1, 9, true, true},   {0, 4, false, false}};
+    for (const auto& [kind, status, paidDate, paidAmount] : cases) {
+        select(document(kind, status));
+        EXPECT_EQ(editor().isRelevant(key::paid), paidDate) << status;
+        EXPECT_EQ(editor().isRelevant(key::paidAmount), paidAmount) << status;
     }
 }
 

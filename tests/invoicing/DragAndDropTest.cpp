@@ -9,16 +9,6 @@ namespace {
 
 using DnD = QVDragAndDropArrayController;
 
-TEST(DragAndDrop, CountOfIndexesInRange)
-{
-    const std::tuple<QList<int>, int, int, int> cases[] = {
-        {{1, 2}, 0, 4, 2}, {{1, 2}, 0, 2, 1}, {{0, 4}, 0, 2, 1},    {{0, 4}, 1, 3, 0},    {{0, 4}, 4, 1, 1},
-        {{3}, 0, 3, 0},    {{}, 0, 10, 0},    {{0, 1, 2}, 0, 0, 0}, {{5, 6, 9}, 6, 4, 2},
-    };
-    for (const auto& [indexes, location, length, count] : cases)
-        EXPECT_EQ(DnD::countOfIndexesInRange(indexes, location, length), count) << location << "+" << length;
-}
-
 class DragAndDropTest : public InvoicingFixture
 {
 protected:
@@ -29,13 +19,7 @@ protected:
             item(doc, float(i + 1), 1)->setValue(key::title, QString::number(i));
         select(doc);
     }
-    QString order() const
-    {
-        QString text;
-        for (const ManagedObject* line : doc->items())
-            text += line->stringValue(key::title);
-        return text;
-    }
+    QString order() const { return texts(doc->items()).join(QString()); }
     DnD& dnd() { return controllers->items().dragAndDrop(); }
 
     ManagedObject* doc = nullptr;
@@ -54,7 +38,7 @@ const MoveCase moveCases[] = {
     {"twoDownToRowFour", {1, 2}, 4, "03124", {2, 3}},
     {"firstToEnd", {0}, 5, "12340", {4}},
     {"lastToTop", {4}, 0, "40123", {0}},
-    {"ends ToMiddle", {0, 4}, 2, "10423", {1, 2}},
+    {"endsToMiddle", {0, 4}, 2, "10423", {1, 2}},
     {"ontoItself", {2}, 2, "01234", {2}},
     {"justBelowItself", {2}, 3, "01234", {2}},
     {"pastTheEndClamps", {1, 3}, 10, "02413", {3, 4}},
@@ -62,9 +46,7 @@ const MoveCase moveCases[] = {
     {"outOfRangeIgnored", {7, -1}, 0, "01234", {}},
 };
 
-class MovingRows : public DragAndDropTest, public ::testing::WithParamInterface<MoveCase>
-{
-};
+using MovingRows = CaseTable<DragAndDropTest, MoveCase>;
 
 TEST_P(MovingRows, LandAsOneBlock)
 {
@@ -77,11 +59,7 @@ TEST_P(MovingRows, LandAsOneBlock)
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(DragAndDrop, MovingRows, ::testing::ValuesIn(moveCases), [](const auto& info) {
-    std::string name = info.param.name;
-    std::erase(name, ' ');
-    return name;
-});
+INSTANTIATE_TEST_SUITE_P(DragAndDrop, MovingRows, ::testing::ValuesIn(moveCases), caseName);
 
 TEST_F(DragAndDropTest, DropsWithinTheTableMoveOthersCopy)
 {

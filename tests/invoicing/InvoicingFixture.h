@@ -7,20 +7,15 @@
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
+#include "tests/support/TestValues.h"
 
 #include <QTemporaryDir>
-#include <QTimeZone>
 
 #include <gtest/gtest.h>
 
-#include <charconv>
 #include <memory>
 #include <ostream>
-
-inline void PrintTo(const QString& text, std::ostream* os)
-{
-    *os << '"' << text.toStdString() << '"';
-}
+#include <string>
 
 inline void PrintTo(const QDateTime& date, std::ostream* os)
 {
@@ -28,29 +23,6 @@ inline void PrintTo(const QDateTime& date, std::ostream* os)
 }
 
 namespace vorn::test {
-
-// Sets values in order, on settings or on an object: assign(target, key, value, key, value ...).
-template <class Target, class... Rest>
-void assign(Target& target, const QString& key, const QVariant& value, const Rest&... rest)
-{
-    target.setValue(key, value);
-    if constexpr (sizeof...(rest) > 0)
-        assign(target, rest...);
-}
-
-// Several values of an object as text joined by '|' (numbers in their
-// shortest form, absent values empty), to compare in one expectation.
-inline QString fields(const ManagedObject* object, const QStringList& keys)
-{
-    QStringList texts;
-    for (const QString& k : keys) {
-        const QVariant v = object->value(k);
-        char single[32];
-        const auto end = std::to_chars(single, single + sizeof single, v.toFloat()).ptr;
-        texts << (v.typeId() == QMetaType::Float ? QString::fromLatin1(single, end - single) : v.toString());
-    }
-    return texts.join(QLatin1Char('|'));
-}
 
 // The invoicing controllers over an in-memory context, a scratch settings
 // file, a fixed clock (Wednesday 5 March 2025, 10:00 UTC) and a scripted user.
@@ -68,11 +40,6 @@ protected:
     {
         controllers.reset();
         state.setContext(nullptr);
-    }
-
-    static QDateTime at(int y, int m, int d, int h = 10, int min = 0)
-    {
-        return QDateTime(QDate(y, m, d), QTime(h, min), QTimeZone::utc());
     }
 
     // A document straight in the store and the list (not through addInvoice),
@@ -99,17 +66,35 @@ protected:
         return it;
     }
 
+    // The given values of each object (titles unless told), as fields() joins them.
+    static QStringList texts(const QList<ManagedObject*>& objects, const QStringList& keys = {key::title})
+    {
+        QStringList list;
+        for (const ManagedObject* o : objects)
+            list << fields(*o, keys);
+        return list;
+    }
+
     void select(ManagedObject* doc) { state.invoicesController().setSelectedObjects({doc}); }
 
     Calculator& calculator() { return controllers->calculator(); }
 
     QTemporaryDir dir;
-    FixedClock clock{at(2025, 3, 5)};
+    FixedClock clock{utc(2025, 3, 5, 10)};
     Settings settings;
     ScriptedUserInterface ui;
     ObjectContext context{nullptr, clock};
     AppState state;
     std::unique_ptr<InvoicingControllers> controllers;
 };
+
+// A table of cases run on a fresh fixture each: TEST_P(Table, ...), GetParam() the case.
+template <class Fixture, class Case>
+class CaseTable : public Fixture, public ::testing::WithParamInterface<Case>
+{
+};
+
+// Names the cases of a table by their `name`.
+inline constexpr auto caseName = [](const auto& info) { return std::string(info.param.name); };
 
 } // namespace vorn::test

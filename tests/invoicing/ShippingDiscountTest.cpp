@@ -28,11 +28,7 @@ protected:
     }
     QStringList remembered()
     {
-        QStringList list;
-        for (const ManagedObject* r : state.recentShippingArrayController().arrangedObjects())
-            list << r->stringValue(key::title) + QLatin1Char('/') +
-                        QString::number(r->floatValue(key::amount));
-        return list;
+        return texts(state.recentShippingArrayController().arrangedObjects(), {key::title, key::amount});
     }
 
     ManagedObject* doc = nullptr;
@@ -58,9 +54,7 @@ const DefaultTitleCase defaultTitleCases[] = {
     {"discountOnWithEmptyTitle", true, true, "", "Discount", ""},
 };
 
-class DefaultTitles : public ShippingDiscountTest, public ::testing::WithParamInterface<DefaultTitleCase>
-{
-};
+using DefaultTitles = CaseTable<ShippingDiscountTest, DefaultTitleCase>;
 
 TEST_P(DefaultTitles, OnOpening)
 {
@@ -77,8 +71,7 @@ TEST_P(DefaultTitles, OnOpening)
     EXPECT_TRUE(c.discount ? discount().isDiscountPopoverShown() : shipping().isShippingPopoverShown());
 }
 
-INSTANTIATE_TEST_SUITE_P(Shipping, DefaultTitles, ::testing::ValuesIn(defaultTitleCases),
-                         [](const auto& info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Shipping, DefaultTitles, ::testing::ValuesIn(defaultTitleCases), caseName);
 
 TEST_F(ShippingDiscountTest, ButtonsToggleAndSentDocumentsAreRefused)
 {
@@ -122,12 +115,11 @@ TEST_F(ShippingDiscountTest, AcceptingRecalculatesAndRemembersEachChargeOnce)
     acceptShipping(QStringLiteral("Express"), 10);
     acceptShipping(QStringLiteral("Express"), 12.5f);
     acceptShipping(QStringLiteral("Post"), 10);
-    EXPECT_EQ(remembered(), (QStringList{QStringLiteral("Express/10"), QStringLiteral("Express/12.5"),
-                                         QStringLiteral("Post/10")}));
+    EXPECT_EQ(remembered(), QStringList({"Express|10", "Express|12.5", "Post|10"}));
 
     const ManagedObject* first = state.recentShippingArrayController().arrangedObjects().first();
     EXPECT_EQ(
-        fields(first, {key::note, key::subtitle, key::hasSubtitle, key::isTax1Enabled, key::isTax2Enabled}),
+        fields(*first, {key::note, key::subtitle, key::hasSubtitle, key::isTax1Enabled, key::isTax2Enabled}),
         QStringLiteral("by courier|2 days|true|false|true"));
 
     // Cancelling neither recalculates nor remembers.
@@ -151,8 +143,8 @@ TEST_F(ShippingDiscountTest, PickingARememberedChargeSwitchesShippingOn)
     shipping().showShippingPopover();
     state.recentShippingArrayController().setSelectionIndexes({0});
     shipping().selectRecentShipping();
-    EXPECT_EQ(fields(doc, {key::isShippingEnabled, key::shippingTitle, key::shippingSubtitle,
-                           key::isShippingTax1Enabled, key::notes}),
+    EXPECT_EQ(fields(*doc, {key::isShippingEnabled, key::shippingTitle, key::shippingSubtitle,
+                            key::isShippingTax1Enabled, key::notes}),
               QStringLiteral("true|Freight|pallet|true|"));
     EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 160.0f);
     EXPECT_FALSE(shipping().isShippingPopoverShown());

@@ -55,24 +55,14 @@ TEST_P(Golden, HtmlMatchesThePinnedFile)
 
 void items(OutputFixture& f, ManagedObject* d)
 {
-    f.addItem(d, values({"title", "Brand workshop for %LOCINVOICE% and %TOTAL%", "subtitle", "half a day",
-                         "unit", "day", "sku", "WS-1", "unitCount", 1.0f, "baseAmount", 1200.0f,
-                         "isTax1Applied", true, "tax1Title", "VAT", "tax1Percent", 0.07f}));
-    f.addItem(d, values({"title",         "Printing <b>bold</b>",
-                         "unit",          "pc",
-                         "sku",           "PR-500",
-                         "unitCount",     2.5f,
-                         "baseAmount",    0.125f,
-                         "isTax1Applied", true,
-                         "tax1Title",     "VAT",
-                         "tax1Percent",   7.1f,
-                         "isTax2Applied", false,
-                         "tax2Title",     "City Tax",
-                         "tax2Percent",   0.05f,
-                         "isTax3Applied", true,
-                         "tax3Title",     "Levy",
-                         "tax3Percent",   0.01f}));
-    f.addItem(d, values({"title", "Licence", "unitCount", 1234.0f, "baseAmount", 1.5f}));
+    f.addItem(d, "title", "Brand workshop for %LOCINVOICE% and %TOTAL%", "subtitle", "half a day", "unit",
+              "day", "sku", "WS-1", "unitCount", 1.0f, "baseAmount", 1200.0f, "isTax1Applied", true,
+              "tax1Title", "VAT", "tax1Percent", 0.07f);
+    f.addItem(d, "title", "Printing <b>bold</b>", "unit", "pc", "sku", "PR-500", "unitCount", 2.5f,
+              "baseAmount", 0.125f, "isTax1Applied", true, "tax1Title", "VAT", "tax1Percent", 7.1f,
+              "isTax2Applied", false, "tax2Title", "City Tax", "tax2Percent", 0.05f, "isTax3Applied", true,
+              "tax3Title", "Levy", "tax3Percent", 0.01f);
+    f.addItem(d, "title", "Licence", "unitCount", 1234.0f, "baseAmount", 1.5f);
 }
 
 // The amounts as the Calculator makes them from the items and the settings.

@@ -220,30 +220,6 @@ TEST_F(Rendering, GarbageStylesStillGiveAPage)
     EXPECT_GE(pdf.pageCount(), 1);
 }
 
-TEST_F(Rendering, SeveralPagesRenderAtOnce)
-{
-    renderer.setParallelPages(3);
-    const int jobs = 7;
-    QList<std::optional<Result<QByteArray>>> results(jobs);
-    QEventLoop loop;
-    int done = 0;
-    for (int i = 0; i < jobs; ++i) {
-        renderer.render(preview.renderJob(QStringLiteral("<h1>JOB-%1-DONE</h1>").arg(i)),
-                        [&, i](Result<QByteArray> r) {
-                            results[i] = std::move(r);
-                            if (++done == jobs)
-                                loop.quit();
-                        });
-    }
-    if (done < jobs)
-        loop.exec();
-    for (int i = 0; i < jobs; ++i) {
-        ASSERT_TRUE(results[i] && results[i]->ok()) << i;
-        PdfInspector pdf(results[i]->value());
-        EXPECT_TRUE(pdf.allText().contains(QStringLiteral("JOB-%1-DONE").arg(i))) << i;
-    }
-}
-
 TEST_F(Rendering, ThePreviewWritesThePdfAndReportsIt)
 {
     documentWithItems(2);

@@ -8,15 +8,6 @@
 
 namespace vorn::test {
 
-QList<QByteArray> HttpStub::Request::header(const QByteArray& name) const
-{
-    QList<QByteArray> values;
-    for (const auto& [key, value] : headers)
-        if (key == name.toLower())
-            values << value;
-    return values;
-}
-
 HttpStub::HttpStub()
 {
     m_server.listen(QHostAddress::LocalHost, 0);
@@ -83,7 +74,7 @@ void HttpStub::readFrom(QTcpSocket* socket)
             continue;
         const QByteArray name = lines[i].left(colon).trimmed().toLower();
         const QByteArray value = lines[i].mid(colon + 1).trimmed();
-        request.headers.append({name, value});
+        request.headers.insert(name, value);
         if (name == "content-length")
             length = value.toLongLong();
     }

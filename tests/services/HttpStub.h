@@ -31,9 +31,8 @@ public:
     {
         QByteArray method;
         QByteArray path;
-        QList<std::pair<QByteArray, QByteArray>> headers; // names in lower case
+        QMultiMap<QByteArray, QByteArray> headers; // names in lower case
         QByteArray body;
-        QList<QByteArray> header(const QByteArray& name) const;
     };
 
     HttpStub();

@@ -64,8 +64,9 @@ TEST_F(ServicesTest, TheFormIsPostedWithItsHeaders)
     const HttpStub::Request& request = stub.requests().first();
     EXPECT_EQ(request.method, QByteArray("POST"));
     EXPECT_EQ(request.path, QByteArray("/api/newsletter.php"));
-    EXPECT_EQ(request.header("content-type"), QList<QByteArray>{"application/x-www-form-urlencoded"});
-    EXPECT_EQ(request.header("content-length"), QList<QByteArray>{QByteArray::number(request.body.size())});
+    EXPECT_EQ(request.headers.values("content-type"), QList<QByteArray>{"application/x-www-form-urlencoded"});
+    EXPECT_EQ(request.headers.values("content-length"),
+              QList<QByteArray>{QByteArray::number(request.body.size())});
     EXPECT_EQ(request.body,
               QByteArray("?action=sendmail&to=list@tandrelo.com&name=Kim%20%26%20Co%0AMain%20St.%201"
                          "&email=a%2Bb@example.org&message=New%20Subscriber"));
@@ -124,25 +125,23 @@ INSTANTIATE_TEST_SUITE_P(Statuses, SubscriptionAnswer,
                                            StatusCase{"NoServer", {200, "ok"}, false, true}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-class SubscriptionAddress : public ServicesTest, public ::testing::WithParamInterface<const char*>
-{
-};
-
-TEST_P(SubscriptionAddress, UnderSevenCharactersIsRefusedUnsent)
+TEST_F(ServicesTest, AnAddressUnderSevenCharactersIsRefusedUnsent)
 {
     stub.route("/api/newsletter.php", {200, "ok"});
     NewsletterSubscription newsletter(settings, ui);
-    EXPECT_FALSE(newsletter.subscribeAction(QString::fromUtf8(GetParam()), "Me"));
-    EXPECT_FALSE(newsletter.isBusy());
-    EXPECT_EQ(ui.calls("beep").size(), 1);
-    const auto alerts = ui.calls("alert");
-    ASSERT_EQ(alerts.size(), 1);
-    EXPECT_EQ(alerts[0].title, "Error!");
-    EXPECT_EQ(alerts[0].text, "Please provide a valid email address.");
+    for (const char* address : {"", "a@b.de", "ä@b.de"}) {
+        SCOPED_TRACE(address);
+        ui.clear();
+        EXPECT_FALSE(newsletter.subscribeAction(QString::fromUtf8(address), "Me"));
+        EXPECT_FALSE(newsletter.isBusy());
+        EXPECT_EQ(ui.calls("beep").size(), 1);
+        const auto alerts = ui.calls("alert");
+        ASSERT_EQ(alerts.size(), 1);
+        EXPECT_EQ(alerts[0].title, "Error!");
+        EXPECT_EQ(alerts[0].text, "Please provide a valid email address.");
+    }
     EXPECT_FALSE(waitUntil([&] { return !stub.requests().isEmpty(); }, 100));
 }
-
-INSTANTIATE_TEST_SUITE_P(Addresses, SubscriptionAddress, ::testing::Values("", "a@b.de", "ä@b.de"));
 
 TEST_F(ServicesTest, ASecondSubscriptionWaitsForTheFirst)
 {
@@ -155,90 +154,72 @@ TEST_F(ServicesTest, ASecondSubscriptionWaitsForTheFirst)
     EXPECT_EQ(ui.alertTitles(), QStringList{"Success!"});
 }
 
-struct VideoCase
+TEST_F(ServicesTest, TheIntroductionShowsThePageOrTheOfflineNote)
 {
-    const char* name;
-    HttpStub::Response page;
-    bool online;
-};
-
-class IntroductionVideo : public ServicesTest, public ::testing::WithParamInterface<VideoCase>
-{
-};
-
-TEST_P(IntroductionVideo, ShowsThePageOrTheOfflineNote)
-{
-    stub.route("/introduction/", GetParam().page);
     const QUrl page = stub.url("/introduction/");
     settings.setValue(ServiceUrls::introductionVideo, page.toString());
-    ScreenCastController video(settings);
-    video.setTimeout(400);
-    std::optional<QUrl> url;
-    std::optional<QString> html;
-    QObject::connect(&video, &ScreenCastController::loadUrl, [&](const QUrl& u) { url = u; });
-    QObject::connect(&video, &ScreenCastController::loadHtml, [&](const QString& h) { html = h; });
-    video.awakeFromNib();
-    ASSERT_TRUE(waitUntil([&] { return url || html; }));
     const QString offline =
         "<br /><br /><br /><br /><br /><center>Please check your internet connection!</center>";
-    EXPECT_EQ(url, GetParam().online ? std::optional(page) : std::nullopt);
-    EXPECT_EQ(html, GetParam().online ? std::nullopt : std::optional(offline));
+    const struct
+    {
+        const char* name;
+        HttpStub::Response page;
+        bool online;
+    } cases[] = {{"Reachable", {200, "<html>video</html>"}, true},
+                 {"ServerError", {503, "busy"}, false},
+                 {"NoAnswer", {200, {}, true}, false}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        stub.route("/introduction/", row.page);
+        ScreenCastController video(settings);
+        video.setTimeout(400);
+        std::optional<QUrl> url;
+        std::optional<QString> html;
+        QObject::connect(&video, &ScreenCastController::loadUrl, [&](const QUrl& u) { url = u; });
+        QObject::connect(&video, &ScreenCastController::loadHtml, [&](const QString& h) { html = h; });
+        video.awakeFromNib();
+        ASSERT_TRUE(waitUntil([&] { return url || html; }));
+        EXPECT_EQ(url, row.online ? std::optional(page) : std::nullopt);
+        EXPECT_EQ(html, row.online ? std::nullopt : std::optional(offline));
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, IntroductionVideo,
-                         ::testing::Values(VideoCase{"Reachable", {200, "<html>video</html>"}, true},
-                                           VideoCase{"ServerError", {503, "busy"}, false},
-                                           VideoCase{"NoAnswer", {200, {}, true}, false}),
-                         [](const auto& info) { return std::string(info.param.name); });
-
-struct LinkCase
-{
-    const char* name;
-    bool (KelvoGeneralController::*open)();
-    QString key;
-};
-
-class WebLinks : public ServicesTest, public ::testing::WithParamInterface<LinkCase>
-{
-};
-
-TEST_P(WebLinks, OpenTheAddressOfTheirSetting)
+TEST_F(ServicesTest, WebLinksOpenTheAddressOfTheirSettingOrTheStandardOne)
 {
     KelvoGeneralController links(settings, ui);
-    const LinkCase& row = GetParam();
-
-    EXPECT_TRUE((links.*row.open)());
-    const QUrl standard = ServiceUrls::defaultUrl(row.key);
-    EXPECT_EQ(standard.scheme(), "https");
-    EXPECT_TRUE(standard.host().endsWith("tandrelo.com"));
-
-    settings.setValue(row.key, "http://127.0.0.1:9/mirror");
-    EXPECT_TRUE((links.*row.open)());
-    // Addresses that are not web pages fall back to the standard one.
-    for (const char* bad : {"javascript:alert(1)", "file:///etc/passwd", "not an address"}) {
-        settings.setValue(row.key, QString::fromLatin1(bad));
-        EXPECT_TRUE((links.*row.open)());
+    using K = KelvoGeneralController;
+    const std::pair<bool (K::*)(), QString> commands[] = {{&K::openBlog, ServiceUrls::blog},
+                                                          {&K::openManual, ServiceUrls::manual},
+                                                          {&K::openManuals, ServiceUrls::manual},
+                                                          {&K::openTwitter, ServiceUrls::twitter},
+                                                          {&K::openADN, ServiceUrls::adn},
+                                                          {&K::openKelvo, ServiceUrls::kelvo},
+                                                          {&K::openSupport, ServiceUrls::support},
+                                                          {&K::openFeedback, ServiceUrls::feedback},
+                                                          {&K::openAppWebsite, ServiceUrls::appWebsite},
+                                                          {&K::openACK, ServiceUrls::acknowledgements}};
+    for (const auto& [open, key] : commands) {
+        SCOPED_TRACE(key.toStdString());
+        ui.clear();
+        const QUrl standard = ServiceUrls::defaultUrl(key);
+        EXPECT_EQ(standard.scheme(), "https");
+        EXPECT_TRUE(standard.host().endsWith("tandrelo.com"));
+        settings.removeValue(key);
+        EXPECT_TRUE((links.*open)());
+        settings.setValue(key, "http://127.0.0.1:9/mirror");
+        EXPECT_TRUE((links.*open)());
+        // Addresses that are not web pages fall back to the standard one.
+        for (const char* bad :
+             {"javascript:alert(1)", "file:///etc/passwd", "file://host/etc/passwd", "not an address"}) {
+            settings.setValue(key, QString::fromLatin1(bad));
+            EXPECT_TRUE((links.*open)());
+        }
+        QStringList opened;
+        for (const auto& call : ui.calls("url"))
+            opened << call.title;
+        const QString s = standard.toString();
+        EXPECT_EQ(opened, (QStringList{s, "http://127.0.0.1:9/mirror", s, s, s, s}));
     }
-    QStringList opened;
-    for (const auto& call : ui.calls("url"))
-        opened << call.title;
-    const QString s = standard.toString();
-    EXPECT_EQ(opened, (QStringList{s, "http://127.0.0.1:9/mirror", s, s, s}));
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Commands, WebLinks,
-    ::testing::Values(
-        LinkCase{"Blog", &KelvoGeneralController::openBlog, ServiceUrls::blog},
-        LinkCase{"Manual", &KelvoGeneralController::openManual, ServiceUrls::manual},
-        LinkCase{"Manuals", &KelvoGeneralController::openManuals, ServiceUrls::manual},
-        LinkCase{"Twitter", &KelvoGeneralController::openTwitter, ServiceUrls::twitter},
-        LinkCase{"ADN", &KelvoGeneralController::openADN, ServiceUrls::adn},
-        LinkCase{"Kelvo", &KelvoGeneralController::openKelvo, ServiceUrls::kelvo},
-        LinkCase{"Support", &KelvoGeneralController::openSupport, ServiceUrls::support},
-        LinkCase{"Feedback", &KelvoGeneralController::openFeedback, ServiceUrls::feedback},
-        LinkCase{"AppWebsite", &KelvoGeneralController::openAppWebsite, ServiceUrls::appWebsite},
-        LinkCase{"Acknowledgements", &KelvoGeneralController::openACK, ServiceUrls::acknowledgements}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 } // namespace

@@ -1,52 +1,27 @@
-#include "app/AppDelegate.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/ExportController.h"
 #include "output/PreviewController.h"
-#include "store/Clock.h"
 #include "store/ManagedObject.h"
-#include "store/Settings.h"
-#include "tests/support/ScriptedUserInterface.h"
-#include "tests/support/TestEnvironment.h"
+#include "tests/ui/UiFixture.h"
 #include "ui/ExportSheet.h"
-#include "ui/MainWindow.h"
 #include "ui/PreviewWindow.h"
 
 #include <QAction>
 #include <QDialog>
 #include <QFile>
-#include <QLineEdit>
 #include <QListWidget>
 #include <QPushButton>
 #include <QSignalSpy>
-#include <QTimeZone>
-
-#include <gtest/gtest.h>
 
 namespace vorn::test {
 namespace {
 
 // The main window over a launched application with one invoice, its output
 // commands driven as the menus and toolbars drive them.
-class OutputWindowsTest : public ::testing::Test
+class OutputWindowsTest : public AppFixture
 {
 public:
-    OutputWindowsTest()
-        : clock(QDateTime(QDate(2026, 11, 21), QTime(9, 0), QTimeZone::utc())),
-          settings(env.locations().settingsFile())
-    {
-        app = std::make_unique<AppDelegate>(settings, ui, clock, env.locations());
-        app->setLaunchChecksEnabled(false);
-        app->awakeFromNib();
-        app->applicationDidFinishLaunching();
-        invoice = app->invoicing().data().addInvoice();
-        window = std::make_unique<MainWindow>(*app);
-        window->show();
-    }
-    ~OutputWindowsTest() override
-    {
-        window.reset();
-        app.reset();
-    }
+    OutputWindowsTest() : invoice(app->invoicing().data().addInvoice()) {}
 
     void trigger(const char* command) { window->command(QLatin1String(command))->trigger(); }
     PreviewWindow& preview() { return *window->previewWindow(); }
@@ -56,13 +31,7 @@ public:
         return ready.wait(60000);
     }
 
-    TestEnvironment env;
-    FixedClock clock;
-    Settings settings;
-    ScriptedUserInterface ui;
-    std::unique_ptr<AppDelegate> app;
-    std::unique_ptr<MainWindow> window;
-    ManagedObject* invoice = nullptr;
+    ManagedObject* invoice;
 };
 
 TEST_F(OutputWindowsTest, PreviewCommandOpensTheWindowWithThePagesAndClosesItAgain)
@@ -72,6 +41,8 @@ TEST_F(OutputWindowsTest, PreviewCommandOpensTheWindowWithThePagesAndClosesItAga
     ASSERT_TRUE(waitForPreview());
     EXPECT_EQ(preview().pageCount(), 1);
     EXPECT_EQ(preview().thumbnailView()->count(), 1);
+    EXPECT_EQ(unnamedControls(preview()), QStringList());
+    shoot(&preview(), QStringLiteral("preview-window"));
 
     trigger("showPreview");
     EXPECT_FALSE(preview().isVisible());
@@ -105,6 +76,8 @@ TEST_F(OutputWindowsTest, ReminderSheetFollowsTheInvoiceAndShowsItsTextsInThePre
     ASSERT_TRUE(sheet && sheet->isVisible());
     auto* title = sheet->findChild<QLineEdit*>(QStringLiteral("reminderTitleField"));
     EXPECT_EQ(title->text(), settings.stringValue(QStringLiteral("locReminder")));
+    EXPECT_EQ(unnamedControls(*sheet), QStringList());
+    shoot(sheet, QStringLiteral("reminder-sheet"));
     title->setText(QStringLiteral("Second Notice"));
     sheet->accept();
 
@@ -115,76 +88,42 @@ TEST_F(OutputWindowsTest, ReminderSheetFollowsTheInvoiceAndShowsItsTextsInThePre
     ASSERT_TRUE(waitForPreview());
 }
 
-// Each output command opens the sheet on the window it came from; the
-// sheet confirms only once its PDF is made.
-struct SheetCase
+// The PDF sheet opens on the window its command came from and confirms only
+// once its PDF is made; cancelled it changes nothing, confirmed it writes
+// the file where the user chose and marks the invoice sent.
+TEST_F(OutputWindowsTest, ThePdfSheetOpensOnItsWindowAndSavesTheFile)
 {
-    const char* command;
-    bool fromPreview;
-    qint64 kind;
-    const char* title;
-};
-
-class ExportSheetTest : public OutputWindowsTest, public ::testing::WithParamInterface<SheetCase>
-{
-};
-
-TEST_P(ExportSheetTest, OpensOnItsWindowAndConfirmsOnceThePdfIsMade)
-{
-    const SheetCase& c = GetParam();
-    ExportController& exporter = app->exporter();
-    QSignalSpy ready(&exporter, &ExportController::okEnabledChanged);
-    if (c.fromPreview) {
-        trigger("showPreview");
-        ASSERT_TRUE(waitForPreview());
-        using Command = void (ExportController::*)(bool);
-        const QMap<QString, Command> commands{
-            {QStringLiteral("printInvoice"), &ExportController::printInvoice},
-            {QStringLiteral("pdfInvoice"), &ExportController::pdfInvoice}};
-        (exporter.*commands.value(QLatin1String(c.command)))(true);
-    } else {
-        trigger(c.command);
-    }
+    settings.setValue(QStringLiteral("markInvoiceAsSent"), true);
+    QSignalSpy ready(&app->exporter(), &ExportController::okEnabledChanged);
+    trigger("showPreview");
+    ASSERT_TRUE(waitForPreview());
+    app->exporter().pdfInvoice(true);
     ExportSheet& sheet = *window->exportSheet();
     ASSERT_TRUE(sheet.isVisible());
-    EXPECT_EQ(sheet.parentWidget(), c.fromPreview ? static_cast<QWidget*>(&preview()) : window.get());
-    EXPECT_EQ(app->state().exportKind, c.kind);
-    EXPECT_EQ(sheet.windowTitle(), QLatin1String(c.title));
+    EXPECT_EQ(sheet.parentWidget(), &preview());
+    EXPECT_EQ(sheet.windowTitle(), QStringLiteral("Export Invoice As PDF File"));
     EXPECT_FALSE(sheet.okButton()->isEnabled());
     ASSERT_TRUE(ready.wait(60000));
     EXPECT_TRUE(sheet.okButton()->isEnabled());
-    EXPECT_TRUE(QFile::exists(app->state().pdfPath));
-
+    EXPECT_EQ(unnamedControls(sheet), QStringList());
+    shoot(&sheet, QStringLiteral("export-sheet"));
     sheet.reject();
     EXPECT_FALSE(sheet.isVisible());
-    EXPECT_EQ(invoice->intValue(QStringLiteral("status")), 0) << "cancelling changes nothing";
-}
+    EXPECT_EQ(invoice->intValue(QStringLiteral("status")), 0);
 
-INSTANTIATE_TEST_SUITE_P(
-    Commands, ExportSheetTest,
-    ::testing::Values(
-        SheetCase{"printInvoice", false, ExportController::Print, "Print Invoice"},
-        SheetCase{"pdfInvoice", false, ExportController::PdfFile, "Export Invoice As PDF File"},
-        SheetCase{"emailInvoice", false, ExportController::Email, "Send Invoice As Email Attachment"},
-        SheetCase{"exportInvoice", false, ExportController::DocumentExport, "Export Invoice"},
-        SheetCase{"pdfInvoice", true, ExportController::PdfFile, "Export Invoice As PDF File"}));
-
-TEST_F(OutputWindowsTest, SavingThePdfWritesTheFileMarksTheInvoiceSentAndCountsIt)
-{
-    settings.setValue(QStringLiteral("markInvoiceAsSent"), true);
+    trigger("showPreview");
     const QString target = env.home() + QStringLiteral("/Invoice for Acme.pdf");
     ui.answerPanel(target);
-    QSignalSpy ready(&app->exporter(), &ExportController::okEnabledChanged);
     trigger("pdfInvoice");
+    ASSERT_TRUE(sheet.isVisible());
+    EXPECT_EQ(sheet.parentWidget(), window.get());
     ASSERT_TRUE(ready.wait(60000));
-    window->exportSheet()->okButton()->click();
-
-    EXPECT_FALSE(window->exportSheet()->isVisible());
+    sheet.okButton()->click();
+    EXPECT_FALSE(sheet.isVisible());
     QFile file(target);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.read(5) == "%PDF-");
     EXPECT_EQ(invoice->intValue(QStringLiteral("status")), 1);
-    EXPECT_EQ(app->state().invoiceCount, 1) << "a sent invoice is counted under the list";
 }
 
 // The File menu's e-invoice commands are there for invoices only; with the

@@ -1,6 +1,7 @@
 #include "output/PdfRenderer.h"
 
 #include <QApplication>
+#include <QIcon>
 #include <QLocale>
 
 #include <gtest/gtest.h>
@@ -10,6 +11,7 @@ int main(int argc, char** argv)
     ::testing::InitGoogleTest(&argc, argv);
     // The output windows lay documents out in the web engine.
     vorn::PdfRenderer::prepareProcess(true);
+    QIcon::setFallbackThemeName(QStringLiteral("vorn"));
     QApplication application(argc, argv);
     // Amounts and dates in the expectations are written the American way.
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
