@@ -98,9 +98,10 @@ void DocumentListView::setModel(QAbstractItemModel* model)
     QHeaderView* header = horizontalHeader();
     const QFontMetrics metrics = fontMetrics();
     const auto width = [&metrics](const QString& sample) { return metrics.horizontalAdvance(sample) + 28; };
-    // The list pane is narrow: cells just fit their text and padding.
+    // The list pane is narrow: cells just fit their text, the padding and
+    // the style's own text margins, with a pixel to spare for rounding.
     const auto tight = [&metrics](const QString& sample) {
-        return metrics.horizontalAdvance(sample) + 2 * (kCellPadding - 3) + 6;
+        return metrics.horizontalAdvance(sample) + 2 * (kCellPadding - 3) + 8;
     };
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setSectionResizeMode(DocumentListModel::ClientColumn, QHeaderView::Stretch);
