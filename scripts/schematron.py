@@ -7,7 +7,10 @@ stylesheet that writes an SVRL report, so Saxon-HE can run the rules.
 
 Each pattern walks the whole document in its own mode; within a pattern a
 node is checked by the first rule whose context matches it (earlier rules get
-higher template priorities), as the Schematron standard says."""
+higher template priorities), as the Schematron standard says. Variables of
+the schema and of its patterns are global, as rule sets written for the
+usual XSLT implementation expect."""
+import os
 import sys
 import xml.etree.ElementTree as ET
 from xml.sax.saxutils import escape, quoteattr
@@ -46,15 +49,32 @@ def check(element, failed):
             % (quoteattr(condition), tag, attributes, quoteattr(test), message(element), tag))
 
 
+def resolve_includes(element, base):
+    """Replaces each <include href> by the root element of the file it names."""
+    for index, child in enumerate(list(element)):
+        if child.tag == SCH + "include":
+            path = os.path.join(os.path.dirname(base), child.get("href"))
+            included = ET.parse(path).getroot()
+            resolve_includes(included, path)
+            included.tail = child.tail
+            element.remove(child)
+            element.insert(index, included)
+        else:
+            resolve_includes(child, base)
+
+
 def compile_schema(root):
-    namespaces = {ns.get("prefix"): ns.get("uri") for ns in root.iter(SCH + "ns")}
+    # XSLT 2.0 rule sets use the schema types (xs:decimal) without declaring them.
+    namespaces = {"xs": "http://www.w3.org/2001/XMLSchema"}
+    namespaces.update({ns.get("prefix"): ns.get("uri") for ns in root.iter(SCH + "ns")})
     declarations = "".join(' xmlns:%s=%s' % (p, quoteattr(u)) for p, u in namespaces.items())
     out = ['<?xml version="1.0" encoding="UTF-8"?>',
            '<xsl:stylesheet version="2.0" xmlns:xsl="http://www.w3.org/1999/XSL/Transform"'
            ' xmlns:svrl="http://purl.oclc.org/dsdl/svrl"%s exclude-result-prefixes="#all">' % declarations,
            '<xsl:output method="xml" indent="yes"/>']
-    out += [variable(let) for let in root.findall(SCH + "let")]
     patterns = root.findall(SCH + "pattern")
+    out += [variable(let) for let in root.findall(SCH + "let")]
+    out += [variable(let) for pattern in patterns for let in pattern.findall(SCH + "let")]
     out.append('<xsl:template match="/"><svrl:schematron-output>')
     for index, pattern in enumerate(patterns):
         out.append('<svrl:active-pattern id=%s/>' % quoteattr(pattern.get("id", str(index))))
@@ -62,10 +82,9 @@ def compile_schema(root):
     out.append('</svrl:schematron-output></xsl:template>')
     for index, pattern in enumerate(patterns):
         mode = "M%d" % index
-        lets = [variable(let) for let in pattern.findall(SCH + "let")]
         rules = pattern.findall(SCH + "rule")
         for order, rule in enumerate(rules):
-            body = lets + [variable(let) for let in rule.findall(SCH + "let")]
+            body = [variable(let) for let in rule.findall(SCH + "let")]
             body.append('<svrl:fired-rule context=%s/>' % quoteattr(rule.get("context")))
             for child in rule:
                 if child.tag == SCH + "assert":
@@ -86,5 +105,7 @@ def compile_schema(root):
 if __name__ == "__main__":
     if len(sys.argv) != 3:
         sys.exit("usage: schematron.py RULES.sch OUT.xsl")
+    schema = ET.parse(sys.argv[1]).getroot()
+    resolve_includes(schema, sys.argv[1])
     with open(sys.argv[2], "w", encoding="utf-8") as f:
-        f.write(compile_schema(ET.parse(sys.argv[1]).getroot()))
+        f.write(compile_schema(schema))

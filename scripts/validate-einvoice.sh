@@ -13,7 +13,8 @@
 #   ARTEFACTS_DIR/schema/.../CrossIndustryInvoice_100pD16B.xsd   (found anywhere below)
 #   ARTEFACTS_DIR/xslt/EN16931-CII-validation.xslt, or
 #   ARTEFACTS_DIR/EN16931-CII-validation-preprocessed.sch
-#   ARTEFACTS_DIR/xrechnung/XRechnung-CII-validation.xsl         (optional)
+#   ARTEFACTS_DIR/xrechnung/XRechnung-CII-validation.xsl, or      (optional)
+#   ARTEFACTS_DIR/xrechnung/cii/XRechnung-CII-validation.sch with its ../common.sch
 # Needs libxml2-utils, libsaxonhe-java and qpdf (Debian packages).
 set -euo pipefail
 
@@ -44,16 +45,25 @@ saxon=/usr/share/java/Saxon-HE.jar
 failed=0
 checked=0
 here=$(dirname "$0")
-sch=$artefacts/EN16931-CII-validation-preprocessed.sch
-if [ -f "$sch" ] && [ ! -f "$artefacts/xslt/EN16931-CII-validation.xslt" ]; then
-  mkdir -p "$work/xslt"
-  /usr/bin/python3 "$here/schematron.py" "$sch" "$work/xslt/EN16931-CII-validation.xslt"
-  artefacts_xslt=$work/xslt
-else
-  artefacts_xslt=$artefacts/xslt
+# Each rule set in its XSLT form, or made from its Schematron.
+rule_set() {
+  local xslt=$1 sch=$2
+  if [ -f "$xslt" ]; then
+    echo "$xslt"
+  elif [ -f "$sch" ]; then
+    local made
+    made=$work/$(basename "${xslt%.*}").xsl
+    /usr/bin/python3 "$here/schematron.py" "$sch" "$made"
+    echo "$made"
+  fi
+}
+rule_sets=("$(rule_set "$artefacts/xslt/EN16931-CII-validation.xslt" "$artefacts/EN16931-CII-validation-preprocessed.sch")")
+# XRechnung's own rules apply to the invoices that claim to follow it.
+if grep -q 'kosit:xrechnung' "$xml"; then
+  rule_sets+=("$(rule_set "$artefacts/xrechnung/XRechnung-CII-validation.xsl" "$artefacts/xrechnung/cii/XRechnung-CII-validation.sch")")
 fi
-for rules in "$artefacts_xslt/EN16931-CII-validation.xslt" "$artefacts/xrechnung/XRechnung-CII-validation.xsl"; do
-  [ -f "$rules" ] || continue
+for rules in "${rule_sets[@]}"; do
+  [ -n "$rules" ] || continue
   checked=$((checked + 1))
   java -jar "$saxon" -s:"$xml" -xsl:"$rules" -o:"$work/report.svrl"
   # Fatal assertions are errors; warnings are shown but pass.
