@@ -162,6 +162,38 @@ void GUIController::restoreListSort()
     sortListBy(s.stringValue(key::listSortKey), s.boolValue(key::listSortAscending));
 }
 
+QStringList GUIController::listColumnKeys()
+{
+    return {key::number, key::title, key::address, key::date, key::amount};
+}
+
+QStringList GUIController::hiddenListColumns() const
+{
+    const Settings& s = m_state.settings();
+    if (!s.value(key::listHiddenColumns).isValid())
+        return {key::title};
+    QStringList hidden;
+    for (const QString& k : s.stringValue(key::listHiddenColumns).split(QLatin1Char(',')))
+        if (listColumnKeys().contains(k) && !hidden.contains(k))
+            hidden << k;
+    // A list with every column hidden would look empty: the amount stays.
+    if (hidden.size() == listColumnKeys().size())
+        hidden.removeAll(key::amount);
+    return hidden;
+}
+
+void GUIController::setListColumnShown(const QString& columnKey, bool shown)
+{
+    if (!listColumnKeys().contains(columnKey))
+        return;
+    QStringList hidden = hiddenListColumns();
+    if (shown)
+        hidden.removeAll(columnKey);
+    else if (!hidden.contains(columnKey) && hidden.size() + 1 < listColumnKeys().size())
+        hidden << columnKey;
+    m_state.settings().setValue(key::listHiddenColumns, hidden.join(QLatin1Char(',')));
+}
+
 void GUIController::calculatorButtonAction()
 {
     if (m_state.ui().openApplication(QStringLiteral("calculator")))

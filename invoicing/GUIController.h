@@ -79,6 +79,14 @@ public:
     // Puts the remembered order in force (at launch).
     void restoreListSort();
 
+    // The list's columns by the attribute they show. The narrow list shows
+    // number, client, date and amount; the user may hide or show any of
+    // them (the title too), never the last one shown. Kept in the settings
+    // (listHiddenColumns, the keys joined by commas).
+    static QStringList listColumnKeys();
+    QStringList hiddenListColumns() const;
+    void setListColumnShown(const QString& key, bool shown);
+
     void showPreferences();
     // Starts the desktop's calculator; says so when there is none.
     void calculatorButtonAction();

@@ -135,6 +135,7 @@ inline const QString markInvoiceAsSent = QStringLiteral("markInvoiceAsSent");
 inline const QString showItemSubAmount = QStringLiteral("showItemSubAmount");
 inline const QString listSortKey = QStringLiteral("listSortKey");
 inline const QString listSortAscending = QStringLiteral("listSortAscending");
+inline const QString listHiddenColumns = QStringLiteral("listHiddenColumns");
 inline const QString mainTabIndex = QStringLiteral("mainTabIndex");
 inline const QString addressTabViewIndex = QStringLiteral("addressTabViewIndex");
 inline const QString itemTabViewIndex = QStringLiteral("itemTabViewIndex");

@@ -2529,6 +2529,10 @@ Paid %2 · Due %3</source>
         <translation>Gesamt %1
 Bezahlt %2 · Fällig %3</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Spalten</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>

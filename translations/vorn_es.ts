@@ -2529,6 +2529,10 @@ Paid %2 · Due %3</source>
         <translation>Total %1
 Pagado %2 · Pendiente %3</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Columnas</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>

@@ -2529,6 +2529,10 @@ Paid %2 · Due %3</source>
         <translation>Total %1
 Payé %2 · Dû %3</translation>
     </message>
+    <message>
+        <source>&amp;Columns</source>
+        <translation>&amp;Colonnes</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>

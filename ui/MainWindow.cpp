@@ -34,6 +34,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QLocale>
+#include <QMenu>
 #include <QMenuBar>
 #include <QPainter>
 #include <QPlainTextEdit>
@@ -185,6 +186,9 @@ void MainWindow::createViewMenu()
         m_viewMenu->addAction(page);
     m_viewMenu->addSeparator();
     m_viewMenu->addAction(command(QStringLiteral("openFilterPopover")));
+    QMenu* columns = m_viewMenu->addMenu(tr("&Columns"));
+    columns->setObjectName(QStringLiteral("columnsMenu"));
+    connect(columns, &QMenu::aboutToShow, this, [this, columns] { fillColumnsMenu(columns); });
 }
 
 void MainWindow::createDocumentMenu()
@@ -443,7 +447,13 @@ void MainWindow::createCentralArea()
     m_list->setObjectName(QStringLiteral("documentList"));
     m_list->setAccessibleName(tr("Documents"));
     m_list->setModel(m_model);
-    m_list->setColumnHidden(DocumentListModel::TitleColumn, true);
+    applyListColumns();
+    m_list->horizontalHeader()->setContextMenuPolicy(Qt::CustomContextMenu);
+    connect(m_list->horizontalHeader(), &QWidget::customContextMenuRequested, this, [this](const QPoint& at) {
+        QMenu menu(this);
+        fillColumnsMenu(&menu);
+        menu.exec(m_list->horizontalHeader()->mapToGlobal(at));
+    });
     m_list->horizontalHeader()->setSectionsClickable(true);
     m_list->horizontalHeader()->setSortIndicatorShown(true);
     connect(m_list->horizontalHeader(), &QHeaderView::sectionClicked, this, &MainWindow::sortByColumn);
@@ -569,6 +579,55 @@ void MainWindow::sortByColumn(int column)
     if (keys.contains(column))
         m_app.invoicing().gui().sortListBy(keys.value(column), order == Qt::AscendingOrder);
     showSortIndicator();
+}
+
+namespace {
+
+int listColumn(const QString& key)
+{
+    static const QHash<QString, int> columns{{key::number, DocumentListModel::NumberColumn},
+                                             {key::title, DocumentListModel::TitleColumn},
+                                             {key::address, DocumentListModel::ClientColumn},
+                                             {key::date, DocumentListModel::DateColumn},
+                                             {key::amount, DocumentListModel::AmountColumn}};
+    return columns.value(key, -1);
+}
+
+} // namespace
+
+void MainWindow::fillColumnsMenu(QMenu* menu)
+{
+    menu->clear();
+    const QStringList keys = GUIController::listColumnKeys();
+    const QStringList hidden = m_app.invoicing().gui().hiddenListColumns();
+    for (const QString& k : keys) {
+        QAction* action = menu->addAction(m_model->headerData(listColumn(k), Qt::Horizontal).toString());
+        action->setCheckable(true);
+        action->setChecked(!hidden.contains(k));
+        // The last column shown stays.
+        action->setEnabled(hidden.contains(k) || hidden.size() + 1 < keys.size());
+        connect(action, &QAction::toggled, this, [this, k](bool shown) {
+            m_app.invoicing().gui().setListColumnShown(k, shown);
+            applyListColumns();
+        });
+    }
+}
+
+void MainWindow::applyListColumns()
+{
+    const QStringList hidden = m_app.invoicing().gui().hiddenListColumns();
+    for (const QString& k : GUIController::listColumnKeys())
+        m_list->setColumnHidden(listColumn(k), hidden.contains(k));
+    // One text column takes the room the others leave: the client, else the
+    // title, else the number.
+    QHeaderView* header = m_list->horizontalHeader();
+    bool stretched = false;
+    for (const QString& k : {key::address, key::title, key::number}) {
+        const bool stretch = !stretched && !hidden.contains(k);
+        header->setSectionResizeMode(listColumn(k),
+                                     stretch ? QHeaderView::Stretch : QHeaderView::Interactive);
+        stretched = stretched || stretch;
+    }
 }
 
 void MainWindow::showSortIndicator()

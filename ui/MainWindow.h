@@ -106,6 +106,10 @@ private:
     void showCurrentPage(bool fade);
     void sortByColumn(int column);
     void showSortIndicator();
+    // The list's columns the user chose to see (View ▸ Columns, or the
+    // header's context menu).
+    void fillColumnsMenu(QMenu* menu);
+    void applyListColumns();
     void updateFilterButton();
     void createToolBar();
     void createCentralArea();

@@ -130,5 +130,33 @@ TEST_F(DocumentEditorTest, TheListOrderFromAHeaderIsRememberedAndUnknownKeysFall
     EXPECT_FALSE(state.invoicesController().sortDescriptors().first().ascending);
 }
 
+// Columns are hidden and shown by their key, remembered, and the list never
+// loses its last column, whatever the settings file says.
+TEST_F(DocumentEditorTest, HiddenListColumnsAreRememberedAndOneAlwaysStays)
+{
+    GUIController& gui = controllers->gui();
+    EXPECT_EQ(gui.hiddenListColumns(), QStringList{key::title});
+    const struct
+    {
+        QString key;
+        bool shown;
+        QStringList hidden;
+    } steps[] = {
+        {key::date, false, {key::title, key::date}},
+        {key::title, true, {key::date}},
+        {QStringLiteral("misc3"), false, {key::date}},
+        {key::number, false, {key::date, key::number}},
+        {key::address, false, {key::date, key::number, key::address}},
+        {key::title, false, {key::date, key::number, key::address, key::title}},
+        {key::amount, false, {key::date, key::number, key::address, key::title}},
+    };
+    for (const auto& step : steps) {
+        gui.setListColumnShown(step.key, step.shown);
+        EXPECT_EQ(gui.hiddenListColumns(), step.hidden) << step.key.toStdString();
+    }
+    settings.setValue(key::listHiddenColumns, QStringLiteral("number,title,address,date,amount,misc3"));
+    EXPECT_EQ(gui.hiddenListColumns(), (QStringList{key::number, key::title, key::address, key::date}));
+}
+
 } // namespace
 } // namespace vorn::test

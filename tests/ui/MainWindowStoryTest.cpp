@@ -21,6 +21,7 @@
 #include <QFile>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QMimeData>
 #include <QPushButton>
 #include <QStackedWidget>
@@ -247,6 +248,16 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     EXPECT_NE(window->totalsLabel()->text(), allTotals);
     EXPECT_TRUE(window->filterButton()->property("filterActive").toBool());
     shoot(window.get(), QStringLiteral("12-filtered"));
+
+    // View ▸ Columns hides the date; the client takes its room.
+    QMenu* columns = window->viewMenu()->findChild<QMenu*>(QStringLiteral("columnsMenu"));
+    ASSERT_NE(columns, nullptr);
+    Q_EMIT columns->aboutToShow();
+    const int clientWidth = window->documentList()->columnWidth(DocumentListModel::ClientColumn);
+    columns->actions().at(3)->trigger();
+    EXPECT_TRUE(window->documentList()->isColumnHidden(DocumentListModel::DateColumn));
+    EXPECT_GT(window->documentList()->columnWidth(DocumentListModel::ClientColumn), clientWidth);
+    shoot(window.get(), QStringLiteral("12b-without-date"));
     window->resize(1920, 1080);
     window->showPage(1);
     shoot(window.get(), QStringLiteral("15-items-1920"));
