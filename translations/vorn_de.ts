@@ -2533,6 +2533,14 @@ Bezahlt %2 · Fällig %3</translation>
         <source>&amp;Columns</source>
         <translation>&amp;Spalten</translation>
     </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Weitere Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Divider between list and document</source>
+        <translation>Trennlinie zwischen Liste und Dokument</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>

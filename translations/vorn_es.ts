@@ -2533,6 +2533,14 @@ Pagado %2 · Pendiente %3</translation>
         <source>&amp;Columns</source>
         <translation>&amp;Columnas</translation>
     </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Más herramientas</translation>
+    </message>
+    <message>
+        <source>Divider between list and document</source>
+        <translation>Separador entre la lista y el documento</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>

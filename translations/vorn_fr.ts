@@ -2533,6 +2533,14 @@ Payé %2 · Dû %3</translation>
         <source>&amp;Columns</source>
         <translation>&amp;Colonnes</translation>
     </message>
+    <message>
+        <source>More Tools</source>
+        <translation>Autres outils</translation>
+    </message>
+    <message>
+        <source>Divider between list and document</source>
+        <translation>Séparateur entre la liste et le document</translation>
+    </message>
 </context>
 <context>
     <name>vorn::NewsletterSubscription</name>

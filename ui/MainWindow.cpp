@@ -229,6 +229,9 @@ QToolBar* MainWindow::addFixedToolBar(QMainWindow& window, const QString& title,
     bar->setToolButtonStyle(Qt::ToolButtonTextUnderIcon);
     bar->setIconSize(QSize(24, 24));
     bar->toggleViewAction()->setEnabled(false);
+    // The button that shows the tools a narrow window has no room for.
+    if (auto* more = bar->findChild<QToolButton*>(QStringLiteral("qt_toolbar_ext_button")))
+        more->setAccessibleName(tr("More Tools"));
     return bar;
 }
 
@@ -518,6 +521,7 @@ void MainWindow::createCentralArea()
     m_splitter->setStretchFactor(0, 0);
     m_splitter->setStretchFactor(1, 1);
     m_splitter->setSizes({int(GUIController::constrainMaxCoordinate(0)), 900});
+    m_splitter->handle(1)->setAccessibleName(tr("Divider between list and document"));
     setCentralWidget(m_splitter);
 
     connect(&m_app.settings(), &Settings::valueChanged, this, [this](const QString& key) {
