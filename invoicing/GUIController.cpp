@@ -44,13 +44,17 @@ bool GUIController::hasPrerequisites(const QString& action) const
     static const QStringList needStore{QStringLiteral("addInvoice"),        QStringLiteral("addQuote"),
                                        QStringLiteral("importInvoice"),     QStringLiteral("exportItems"),
                                        QStringLiteral("exportVornDataXML"), QStringLiteral("backupVornData")};
-    static const QStringList needDocument{QStringLiteral("duplicateInvoice"),
-                                          QStringLiteral("setDispatched")};
+    static const QStringList needDocument{
+        QStringLiteral("duplicateInvoice"),    QStringLiteral("setDispatched"),
+        QStringLiteral("showAddressPopover"),  QStringLiteral("showItemPopover"),
+        QStringLiteral("showShippingPopover"), QStringLiteral("showDiscountPopover")};
     const ManagedObject* doc = m_state.currentInvoice();
     if (needStore.contains(action))
         return m_state.context() != nullptr;
     if (needDocument.contains(action))
         return doc != nullptr;
+    if (action == QLatin1String("deleteItem"))
+        return doc && m_state.itemsController().selectedObject();
     if (action == QLatin1String("convertQuoteToInvoice"))
         return doc && doc->isQuote();
     // E-invoices are made of invoices only.

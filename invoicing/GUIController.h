@@ -33,7 +33,8 @@ public:
     Validation validateUserInterfaceItem(const QString& action) const;
     // Whether a command has what it works on, before the rules above: a
     // store for those that create documents or write files, a current
-    // document for those that act on it, a quote for converting.
+    // document for those that act on it (also the page commands), a quote
+    // for converting, a selected line for deleting one.
     bool hasPrerequisites(const QString& action) const;
 
     // Labels the delete toolbar item and shows or hides the reminder button

@@ -156,12 +156,11 @@ void ItemsPage::updateTaxColumns()
 
 void ItemsPage::updateButtons()
 {
-    AppState& state = m_app.state();
-    const bool doc = state.currentInvoice() != nullptr;
-    m_add->setEnabled(doc);
-    m_delete->setEnabled(doc && state.itemsController().selectedObject() != nullptr);
-    m_shipping->setEnabled(doc);
-    m_discount->setEnabled(doc);
+    const GUIController& gui = m_app.invoicing().gui();
+    m_add->setEnabled(gui.hasPrerequisites(QStringLiteral("showItemPopover")));
+    m_delete->setEnabled(gui.hasPrerequisites(QStringLiteral("deleteItem")));
+    m_shipping->setEnabled(gui.hasPrerequisites(QStringLiteral("showShippingPopover")));
+    m_discount->setEnabled(gui.hasPrerequisites(QStringLiteral("showDiscountPopover")));
 }
 
 void ItemsPage::updateTotals()

@@ -54,10 +54,6 @@ namespace vorn {
 namespace {
 
 const QString kGeometryKey = QStringLiteral("mainWindowGeometry");
-// Commands that work on the page of the current document.
-const QStringList kDocumentPageCommands{
-    QStringLiteral("showAddressPopover"), QStringLiteral("showItemPopover"), QStringLiteral("deleteItem"),
-    QStringLiteral("showShippingPopover"), QStringLiteral("showDiscountPopover")};
 
 } // namespace
 
@@ -420,12 +416,7 @@ void MainWindow::validateCommands()
     const GUIController& gui = m_app.invoicing().gui();
     for (auto it = m_commands.cbegin(); it != m_commands.cend(); ++it) {
         const GUIController::Validation validation = gui.validateUserInterfaceItem(it.key());
-        bool enabled = validation.enabled && gui.hasPrerequisites(it.key());
-        if (kDocumentPageCommands.contains(it.key()))
-            enabled = enabled && m_app.state().currentInvoice();
-        if (it.key() == QLatin1String("deleteItem"))
-            enabled = enabled && m_app.state().itemsController().selectedObject();
-        it.value()->setEnabled(enabled);
+        it.value()->setEnabled(validation.enabled && gui.hasPrerequisites(it.key()));
         if (validation.title) {
             it.value()->setText(*validation.title);
             it.value()->setIconText(*validation.title);

@@ -139,6 +139,9 @@ TEST_P(WindowState, MenusToolbarAndReminder)
     EXPECT_TRUE(gui.hasPrerequisites(QStringLiteral("addInvoice")));
     EXPECT_EQ(gui.hasPrerequisites(QStringLiteral("duplicateInvoice")), c.kind >= 0);
     EXPECT_EQ(gui.hasPrerequisites(QStringLiteral("convertQuoteToInvoice")), c.kind == 0);
+    EXPECT_EQ(gui.hasPrerequisites(QStringLiteral("showItemPopover")), c.kind >= 0);
+    // A new document has no line to delete.
+    EXPECT_FALSE(gui.hasPrerequisites(QStringLiteral("deleteItem")));
 
     gui.delayedToolbarLabel();
     EXPECT_EQ(gui.deleteToolbarLabel(), QString::fromUtf8(c.deleteTitle));
