@@ -11,6 +11,27 @@
 
 namespace vorn {
 
+namespace {
+
+// In the order of the columns.
+const QString* const kColumnKeys[DocumentListModel::ColumnCount] = {&key::number, &key::title,  &key::address,
+                                                                    &key::date,   &key::amount, &key::status};
+
+} // namespace
+
+QString DocumentListModel::keyOfColumn(int column)
+{
+    return column >= 0 && column < ColumnCount ? *kColumnKeys[column] : QString();
+}
+
+int DocumentListModel::columnOfKey(const QString& key)
+{
+    for (int column = 0; column < ColumnCount; ++column)
+        if (*kColumnKeys[column] == key)
+            return column;
+    return -1;
+}
+
 int DocumentListModel::columnCount(const QModelIndex& parent) const
 {
     return parent.isValid() ? 0 : ColumnCount;
@@ -116,21 +137,7 @@ QVariant DocumentListModel::data(const QModelIndex& index, int role) const
         }
         break;
     case ValueRole:
-        switch (index.column()) {
-        case NumberColumn:
-            return doc->value(key::number);
-        case TitleColumn:
-            return doc->value(key::title);
-        case ClientColumn:
-            return doc->value(key::address);
-        case DateColumn:
-            return doc->value(key::date);
-        case AmountColumn:
-            return doc->value(key::amount);
-        case StatusColumn:
-            return doc->value(key::status);
-        }
-        break;
+        return doc->value(keyOfColumn(index.column()));
     case StampRole:
         return ValueTransformers::entityToImageTable(doc);
     case KindRole:

@@ -38,6 +38,10 @@ public:
     QVariant data(const QModelIndex& index, int role = Qt::DisplayRole) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role = Qt::DisplayRole) const override;
 
+    // The attribute a column shows, and back (-1 for an attribute no column shows).
+    static QString keyOfColumn(int column);
+    static int columnOfKey(const QString& key);
+
     static QString statusText(qint64 status);
     static QString kindText(qint64 kind);
     // The first line of an address block that holds more than white space.

@@ -565,30 +565,12 @@ void MainWindow::showCurrentPage(bool fade)
 
 void MainWindow::sortByColumn(int column)
 {
-    static const QHash<int, QString> keys{{DocumentListModel::NumberColumn, QStringLiteral("number")},
-                                          {DocumentListModel::ClientColumn, QStringLiteral("address")},
-                                          {DocumentListModel::DateColumn, QStringLiteral("date")},
-                                          {DocumentListModel::AmountColumn, QStringLiteral("amount")},
-                                          {DocumentListModel::StatusColumn, QStringLiteral("status")}};
+    const QString k = DocumentListModel::keyOfColumn(column);
     const Qt::SortOrder order = m_list->horizontalHeader()->sortIndicatorOrder();
-    if (keys.contains(column))
-        m_app.invoicing().gui().sortListBy(keys.value(column), order == Qt::AscendingOrder);
+    if (GUIController::sortableKeys().contains(k))
+        m_app.invoicing().gui().sortListBy(k, order == Qt::AscendingOrder);
     showSortIndicator();
 }
-
-namespace {
-
-int listColumn(const QString& key)
-{
-    static const QHash<QString, int> columns{{key::number, DocumentListModel::NumberColumn},
-                                             {key::title, DocumentListModel::TitleColumn},
-                                             {key::address, DocumentListModel::ClientColumn},
-                                             {key::date, DocumentListModel::DateColumn},
-                                             {key::amount, DocumentListModel::AmountColumn}};
-    return columns.value(key, -1);
-}
-
-} // namespace
 
 void MainWindow::fillColumnsMenu(QMenu* menu)
 {
@@ -596,7 +578,8 @@ void MainWindow::fillColumnsMenu(QMenu* menu)
     const QStringList keys = GUIController::listColumnKeys();
     const QStringList hidden = m_app.invoicing().gui().hiddenListColumns();
     for (const QString& k : keys) {
-        QAction* action = menu->addAction(m_model->headerData(listColumn(k), Qt::Horizontal).toString());
+        QAction* action = menu->addAction(
+            m_model->headerData(DocumentListModel::columnOfKey(k), Qt::Horizontal).toString());
         action->setCheckable(true);
         action->setChecked(!hidden.contains(k));
         // The last column shown stays.
@@ -612,14 +595,14 @@ void MainWindow::applyListColumns()
 {
     const QStringList hidden = m_app.invoicing().gui().hiddenListColumns();
     for (const QString& k : GUIController::listColumnKeys())
-        m_list->setColumnHidden(listColumn(k), hidden.contains(k));
+        m_list->setColumnHidden(DocumentListModel::columnOfKey(k), hidden.contains(k));
     // One text column takes the room the others leave: the client, else the
     // title, else the number.
     QHeaderView* header = m_list->horizontalHeader();
     bool stretched = false;
     for (const QString& k : {key::address, key::title, key::number}) {
         const bool stretch = !stretched && !hidden.contains(k);
-        header->setSectionResizeMode(listColumn(k),
+        header->setSectionResizeMode(DocumentListModel::columnOfKey(k),
                                      stretch ? QHeaderView::Stretch : QHeaderView::Interactive);
         stretched = stretched || stretch;
     }
@@ -628,16 +611,12 @@ void MainWindow::applyListColumns()
 void MainWindow::showSortIndicator()
 {
     const QList<SortDescriptor>& sort = m_app.state().invoicesController().sortDescriptors();
-    const QString key = sort.isEmpty() ? QStringLiteral("date") : sort.first().key;
-    static const QHash<QString, int> columns{{QStringLiteral("number"), DocumentListModel::NumberColumn},
-                                             {QStringLiteral("address"), DocumentListModel::ClientColumn},
-                                             {QStringLiteral("date"), DocumentListModel::DateColumn},
-                                             {QStringLiteral("amount"), DocumentListModel::AmountColumn},
-                                             {QStringLiteral("status"), DocumentListModel::StatusColumn}};
+    const QString k = sort.isEmpty() ? key::date : sort.first().key;
+    const int column = GUIController::sortableKeys().contains(k) ? DocumentListModel::columnOfKey(k)
+                                                                 : int(DocumentListModel::DateColumn);
     const QSignalBlocker block(m_list->horizontalHeader());
     m_list->horizontalHeader()->setSortIndicator(
-        columns.value(key, DocumentListModel::DateColumn),
-        !sort.isEmpty() && sort.first().ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
+        column, !sort.isEmpty() && sort.first().ascending ? Qt::AscendingOrder : Qt::DescendingOrder);
 }
 
 void MainWindow::openFilterPopover()
