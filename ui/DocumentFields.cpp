@@ -3,6 +3,7 @@
 #include "invoicing/DocumentEditor.h"
 #include "invoicing/TextValue.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 
 #include <QCheckBox>
@@ -133,7 +134,7 @@ void DocumentFields::objectChanged(ManagedObject* object, const QString& key)
     bool bound = false;
     // The status decides which fields are open, so it refreshes them all.
     for (const Field& f : std::as_const(m_fields)) {
-        if (f.key == key || key == QLatin1String("status")) {
+        if (f.key == key || key == key::status) {
             load(f);
             bound = true;
         }

@@ -69,11 +69,8 @@ QVariant ItemTableModel::data(const QModelIndex& index, int role) const
     case Qt::EditRole:
         if (taxColumn)
             return {};
-        if (column == QuantityColumn || column == PriceColumn || column == NetColumn) {
-            const float value = item->floatValue(keyOfColumn(column));
-            return role == Qt::EditRole ? QVariant(DocumentFields::formatNumber(value))
-                                        : QVariant(DocumentFields::formatNumber(value));
-        }
+        if (column == QuantityColumn || column == PriceColumn || column == NetColumn)
+            return DocumentFields::formatNumber(item->floatValue(keyOfColumn(column)));
         return item->stringValue(keyOfColumn(column));
     case Qt::CheckStateRole:
         if (taxColumn)

@@ -2,6 +2,7 @@
 
 #include "invoicing/ValueTransformers.h"
 #include "store/AppState.h"
+#include "store/Keys.h"
 #include "store/ManagedObject.h"
 
 namespace vorn {
@@ -24,8 +25,8 @@ void LockBanner::watchContext()
     disconnect(m_connection);
     if (m_state.context())
         m_connection = connect(m_state.context(), &ObjectContext::objectChanged, this,
-                               [this](ManagedObject* object, const QString& key) {
-                                   if (object == m_state.currentInvoice() && key == QLatin1String("status"))
+                               [this](ManagedObject* object, const QString& k) {
+                                   if (object == m_state.currentInvoice() && k == key::status)
                                        refresh();
                                });
     refresh();

@@ -516,7 +516,7 @@ void MainWindow::createCentralArea()
     setCentralWidget(m_splitter);
 
     connect(&m_app.settings(), &Settings::valueChanged, this, [this](const QString& key) {
-        if (key == QLatin1String("mainTabIndex"))
+        if (key == key::mainTabIndex)
             showCurrentPage(true);
     });
     connect(&m_app.state(), &AppState::currentInvoiceChanged, this, [this] { showCurrentPage(false); });
@@ -528,7 +528,7 @@ void MainWindow::createCentralArea()
 
 int MainWindow::currentPageIndex() const
 {
-    const qint64 index = m_app.settings().intValue(QStringLiteral("mainTabIndex"));
+    const qint64 index = m_app.settings().intValue(key::mainTabIndex);
     return index >= 0 && index <= 2 ? int(index) : 0;
 }
 
