@@ -7,6 +7,7 @@
 #include "store/Settings.h"
 #include "ui/DocumentFields.h"
 #include "ui/FormRow.h"
+#include "ui/ItemsPage.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -144,13 +145,11 @@ void ItemPopover::sync()
 {
     const ItemController::Popover& p = m_controller.popover();
     const Settings& s = m_state.settings();
-    const QString titles[3] = {s.stringValue(key::tax1Title), s.stringValue(key::tax2Title),
-                               s.stringValue(key::tax3Title)};
     const QString enabled[3] = {key::tax1Enabled, key::tax2Enabled, key::tax3Enabled};
     const bool values[3] = {p.tax1, p.tax2, p.tax3};
     for (int i = 0; i < 3; ++i) {
         const QSignalBlocker block(m_tax[i]);
-        m_tax[i]->setText(titles[i].isEmpty() ? tr("Tax %1").arg(i + 1) : titles[i]);
+        m_tax[i]->setText(ItemsPage::taxTitle(s, i + 1));
         m_tax[i]->setVisible(s.boolValue(enabled[i]));
         m_tax[i]->setChecked(values[i]);
     }

@@ -7,6 +7,7 @@
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/DocumentFields.h"
+#include "ui/ItemsPage.h"
 
 #include <QGuiApplication>
 #include <QMimeData>
@@ -109,11 +110,9 @@ QVariant ItemTableModel::headerData(int section, Qt::Orientation orientation, in
     case PriceColumn:
         return tr("Unit Price");
     case Tax1Column:
-        return s.stringValue(key::tax1Title).isEmpty() ? tr("Tax 1") : s.stringValue(key::tax1Title);
     case Tax2Column:
-        return s.stringValue(key::tax2Title).isEmpty() ? tr("Tax 2") : s.stringValue(key::tax2Title);
     case Tax3Column:
-        return s.stringValue(key::tax3Title).isEmpty() ? tr("Tax 3") : s.stringValue(key::tax3Title);
+        return ItemsPage::taxTitle(s, section - Tax1Column + 1);
     case NetColumn:
         return tr("Net");
     }

@@ -146,6 +146,13 @@ ItemsPage::ItemsPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app
     setTabOrder(m_discount, m_table);
 }
 
+QString ItemsPage::taxTitle(const Settings& settings, int tax)
+{
+    static const QString* const titles[3] = {&key::tax1Title, &key::tax2Title, &key::tax3Title};
+    const QString title = tax >= 1 && tax <= 3 ? settings.stringValue(*titles[tax - 1]) : QString();
+    return title.isEmpty() ? tr("Tax %1").arg(tax) : title;
+}
+
 void ItemsPage::updateTaxColumns()
 {
     const Settings& s = m_app.settings();
@@ -173,14 +180,11 @@ void ItemsPage::updateTotals()
     const Settings& s = m_app.settings();
     const auto amount = [doc](const QString& k) { return DocumentFields::formatNumber(doc->floatValue(k)); };
     QStringList parts{tr("Subtotal %1").arg(amount(key::subAmount))};
-    const QString taxTitles[3] = {key::tax1Title, key::tax2Title, key::tax3Title};
     const QString taxEnabled[3] = {key::tax1Enabled, key::tax2Enabled, key::tax3Enabled};
     const QString taxAmounts[3] = {key::tax1Amount, key::tax2Amount, key::tax3Amount};
     for (int i = 0; i < 3; ++i)
         if (s.boolValue(taxEnabled[i]) || doc->floatValue(taxAmounts[i]) != 0.0f)
-            parts << tr("%1 %2").arg(s.stringValue(taxTitles[i]).isEmpty() ? tr("Tax %1").arg(i + 1)
-                                                                           : s.stringValue(taxTitles[i]),
-                                     amount(taxAmounts[i]));
+            parts << tr("%1 %2").arg(taxTitle(s, i + 1), amount(taxAmounts[i]));
     if (doc->boolValue(key::isShippingEnabled))
         parts << tr("Shipping %1").arg(amount(key::shippingAmount));
     if (doc->boolValue(key::isDiscountEnabled))

@@ -13,6 +13,7 @@ class DiscountPopover;
 class ItemPopover;
 class ItemTableModel;
 class SelectionSync;
+class Settings;
 class ShippingPopover;
 
 // The lines of the current document with their buttons (add, delete,
@@ -34,6 +35,9 @@ public:
     QToolButton* discountButton() const { return m_discount; }
     QLabel* totalsLabel() const { return m_totals; }
     void updateTotals();
+
+    // The name of tax 1, 2 or 3 as the settings give it, else "Tax n".
+    static QString taxTitle(const Settings& settings, int tax);
 
 private:
     void updateButtons();

@@ -7,6 +7,7 @@
 #include "store/Settings.h"
 #include "ui/DocumentFields.h"
 #include "ui/FormRow.h"
+#include "ui/ItemsPage.h"
 
 #include <QCheckBox>
 #include <QDialogButtonBox>
@@ -134,11 +135,9 @@ void ShippingPopover::sync()
     if (shown && !isVisible()) {
         // The taxes as the settings name and switch them now.
         const Settings& s = m_app.settings();
-        const QString titles[3] = {key::tax1Title, key::tax2Title, key::tax3Title};
         const QString enabled[3] = {key::tax1Enabled, key::tax2Enabled, key::tax3Enabled};
         for (int i = 0; i < 3; ++i) {
-            const QString title = s.stringValue(titles[i]);
-            m_tax[i]->setText(title.isEmpty() ? tr("Tax %1").arg(i + 1) : title);
+            m_tax[i]->setText(ItemsPage::taxTitle(s, i + 1));
             m_tax[i]->setVisible(s.boolValue(enabled[i]));
         }
         m_fields->refresh();
