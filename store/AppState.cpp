@@ -20,6 +20,13 @@ AppState::AppState(Settings& settings, UserInterface& ui, const Clock& clock, Fi
 void AppState::setContext(ObjectContext* context)
 {
     m_context = context;
+    disconnect(m_contextWatch);
+    if (context)
+        m_contextWatch = connect(context, &ObjectContext::objectChanged, this,
+                                 [this](ManagedObject* object, const QString& key) {
+                                     if (object && object == currentInvoice())
+                                         Q_EMIT currentInvoiceValueChanged(key);
+                                 });
     m_invoices.setEntity(context, Entity::Invoice);
     m_addresses.setEntity(context, Entity::Address);
     m_recentItems.setEntity(context, Entity::RecentItem);

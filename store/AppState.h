@@ -70,6 +70,9 @@ Q_SIGNALS:
     void totalsChanged();
     void stateChanged();
     void currentInvoiceChanged();
+    // An attribute of the current document changed: an edit, an undo, the
+    // arithmetic.
+    void currentInvoiceValueChanged(const QString& key);
 
 private:
     Settings& m_settings;
@@ -77,6 +80,7 @@ private:
     const Clock& m_clock;
     FileLocations m_locations;
     ObjectContext* m_context = nullptr;
+    QMetaObject::Connection m_contextWatch;
     ArrayController m_invoices;
     ArrayController m_items;
     ArrayController m_addresses;

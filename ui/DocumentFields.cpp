@@ -27,17 +27,8 @@ DocumentFields::DocumentFields(AppState& state, DocumentEditor& editor, QObject*
     : QObject(parent), m_state(state), m_editor(editor)
 {
     connect(&m_state, &AppState::currentInvoiceChanged, this, &DocumentFields::refresh);
-    connect(&m_state, &AppState::contextChanged, this, &DocumentFields::watchContext);
-    watchContext();
-}
-
-void DocumentFields::watchContext()
-{
-    disconnect(m_contextConnection);
-    if (ObjectContext* context = m_state.context())
-        m_contextConnection =
-            connect(context, &ObjectContext::objectChanged, this, &DocumentFields::objectChanged);
-    refresh();
+    connect(&m_state, &AppState::contextChanged, this, &DocumentFields::refresh);
+    connect(&m_state, &AppState::currentInvoiceValueChanged, this, &DocumentFields::valueChanged);
 }
 
 float DocumentFields::readNumber(const QString& text)
@@ -127,10 +118,8 @@ void DocumentFields::commitFocused()
             commit(f);
 }
 
-void DocumentFields::objectChanged(ManagedObject* object, const QString& key)
+void DocumentFields::valueChanged(const QString& key)
 {
-    if (!object || object != m_state.currentInvoice())
-        return;
     bool bound = false;
     // The status decides which fields are open, so it refreshes them all.
     for (const Field& f : std::as_const(m_fields)) {

@@ -75,13 +75,11 @@ private:
     void add(QWidget* widget, const QString& key, Type type, float scale = 1.0f);
     void load(const Field& field);
     void commit(const Field& field);
-    void objectChanged(ManagedObject* object, const QString& key);
-    void watchContext();
+    void valueChanged(const QString& key);
 
     AppState& m_state;
     DocumentEditor& m_editor;
     QList<Field> m_fields;
-    QMetaObject::Connection m_contextConnection;
     bool m_loading = false;
 };
 

@@ -217,13 +217,9 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
         showRelevance();
         showDispatched();
     });
-    connect(&app.state(), &AppState::contextChanged, this, [this, showDispatched] {
-        if (ObjectContext* context = m_app.state().context())
-            connect(context, &ObjectContext::objectChanged, this,
-                    [this, showDispatched](ManagedObject* o, const QString& k) {
-                        if (o == m_app.state().currentInvoice() && k == key::dispatched)
-                            showDispatched();
-                    });
+    connect(&app.state(), &AppState::currentInvoiceValueChanged, this, [showDispatched](const QString& k) {
+        if (k == key::dispatched)
+            showDispatched();
     });
     showDueDays();
     showRelevance();

@@ -121,17 +121,11 @@ ItemsPage::ItemsPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app
     connect(&state, &AppState::currentInvoiceChanged, this, &ItemsPage::updateTotals);
     connect(&state, &AppState::currentInvoiceChanged, this, &ItemsPage::updateButtons);
     connect(&state.itemsController(), &ArrayController::selectionChanged, this, &ItemsPage::updateButtons);
-    connect(&state, &AppState::contextChanged, this, [this] {
-        if (ObjectContext* context = m_app.state().context())
-            connect(context, &ObjectContext::objectChanged, this,
-                    [this](ManagedObject* object, const QString& k) {
-                        if (object == m_app.state().currentInvoice()) {
-                            updateTotals();
-                            if (k == key::status)
-                                updateButtons();
-                        }
-                    });
+    connect(&state, &AppState::contextChanged, this, &ItemsPage::updateTotals);
+    connect(&state, &AppState::currentInvoiceValueChanged, this, [this](const QString& k) {
         updateTotals();
+        if (k == key::status)
+            updateButtons();
     });
     connect(&app.settings(), &Settings::valueChanged, this, [this](const QString& k) {
         if (k.startsWith(QLatin1String("tax")))

@@ -16,19 +16,11 @@ LockBanner::LockBanner(AppState& state, QWidget* parent) : QLabel(parent), m_sta
     setText(tr("This invoice is marked as sent, so its fields are read-only. To change it, set its status "
                "back to \"Created\" on the Info page."));
     connect(&m_state, &AppState::currentInvoiceChanged, this, &LockBanner::refresh);
-    connect(&m_state, &AppState::contextChanged, this, &LockBanner::watchContext);
-    watchContext();
-}
-
-void LockBanner::watchContext()
-{
-    disconnect(m_connection);
-    if (m_state.context())
-        m_connection = connect(m_state.context(), &ObjectContext::objectChanged, this,
-                               [this](ManagedObject* object, const QString& k) {
-                                   if (object == m_state.currentInvoice() && k == key::status)
-                                       refresh();
-                               });
+    connect(&m_state, &AppState::contextChanged, this, &LockBanner::refresh);
+    connect(&m_state, &AppState::currentInvoiceValueChanged, this, [this](const QString& k) {
+        if (k == key::status)
+            refresh();
+    });
     refresh();
 }
 

@@ -16,10 +16,7 @@ public:
     void refresh();
 
 private:
-    void watchContext();
-
     AppState& m_state;
-    QMetaObject::Connection m_connection;
 };
 
 } // namespace vorn

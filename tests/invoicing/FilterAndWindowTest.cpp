@@ -166,6 +166,19 @@ TEST_F(WindowTest, SelectionChangesRelabelTheToolbarShortlyAfter)
     EXPECT_EQ(controllers->gui().deleteToolbarLabel(), QStringLiteral("Delete Quote"));
 }
 
+TEST_F(WindowTest, OnlyTheCurrentDocumentsChangesReachThePages)
+{
+    ManagedObject* current = document(1);
+    ManagedObject* other = document(1);
+    select(current);
+    QStringList changed;
+    QObject::connect(&state, &AppState::currentInvoiceValueChanged,
+                     [&changed](const QString& k) { changed << k; });
+    other->setValue(key::title, QStringLiteral("Other"));
+    current->setValue(key::title, QStringLiteral("Current"));
+    EXPECT_EQ(changed, QStringList{key::title});
+}
+
 TEST_F(WindowTest, TabsFollowTheToolbarTags)
 {
     const std::pair<qint64, const char*> tags[] = {
