@@ -54,6 +54,16 @@ QStringList termChoices()
             QCoreApplication::translate("PreferencesWindow", "28 days")};
 }
 
+// In the order of the stored index; the class's own translations.
+QStringList paperChoices()
+{
+    return {QCoreApplication::translate("vorn::PreferencesWindow", "US Letter"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "US Legal"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "A4"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "JIS B4"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "JIS B5")};
+}
+
 } // namespace
 
 QStringList PreferencesWindow::toolbarDefaultItemIdentifiers()
@@ -208,7 +218,6 @@ void PreferencesWindow::changePanes(int tag)
     for (const Pane& pane : std::as_const(m_panes))
         if (pane.tag == tag)
             pane.action->setChecked(true);
-    setWindowTitle(QStringLiteral("Orvandel"));
     fitToPane(view);
     // The first field of the pane, so the keyboard can start at once.
     view->setFocus();
@@ -477,8 +486,7 @@ QWidget* PreferencesWindow::designPane()
     layout->addWidget(list, 1);
     auto* paper = new PreferencesForm(m_app.settings(), pane);
     paper->layout()->setContentsMargins(0, 0, 0, 0);
-    paper->addChoice(QStringLiteral("tempPaperSize"), tr("Paper:"),
-                     {tr("US Letter"), tr("US Legal"), tr("A4"), tr("JIS B4"), tr("JIS B5")});
+    paper->addChoice(QStringLiteral("tempPaperSize"), tr("Paper:"), paperChoices());
     layout->addWidget(paper);
     pane->setMinimumSize(620, 420);
     return pane;
@@ -490,8 +498,7 @@ PreferencesForm* PreferencesWindow::regionPane()
     f->addSection(tr("Money and dates"));
     f->addLine(key::prefsCurrency, tr("&Currency:"));
     f->addLine(QStringLiteral("prefsDatePattern"), tr("&Date pattern:"));
-    f->addChoice(QStringLiteral("tempPaperSize"), tr("&Paper:"),
-                 {tr("US Letter"), tr("US Legal"), tr("A4"), tr("JIS B4"), tr("JIS B5")});
+    f->addChoice(QStringLiteral("tempPaperSize"), tr("&Paper:"), paperChoices());
     f->addSection(tr("Payments"));
     f->addLine(key::prefsIBAN, tr("&IBAN:"));
     f->addLine(key::prefsBIC, tr("&BIC:"));
