@@ -38,24 +38,33 @@ EInvoiceData EInvoiceController::data(const ManagedObject& document, EInvoicePro
     return EInvoiceData::fromDocument(document, m_state.settings(), profile);
 }
 
-Result<QByteArray> EInvoiceController::xml(const ManagedObject& document, EInvoiceProfile profile) const
+namespace {
+
+Result<QByteArray> checkedXml(const EInvoiceData& invoice)
 {
-    const EInvoiceData invoice = data(document, profile);
     const QStringList problems = EInvoiceValidator::problems(invoice);
     if (!problems.isEmpty())
         return Error::make(incompleteCode, problems.join(QLatin1Char(' ')));
     return CiiWriter::write(invoice);
 }
 
+} // namespace
+
+Result<QByteArray> EInvoiceController::xml(const ManagedObject& document, EInvoiceProfile profile) const
+{
+    return checkedXml(data(document, profile));
+}
+
 Result<QByteArray> EInvoiceController::facturX(const ManagedObject& document, const QByteArray& pdf,
                                                EInvoiceProfile profile) const
 {
-    Result<QByteArray> invoiceXml = xml(document, profile);
+    const EInvoiceData invoice = data(document, profile);
+    Result<QByteArray> invoiceXml = checkedXml(invoice);
     if (!invoiceXml)
         return invoiceXml.error();
     FacturX::Metadata metadata;
     metadata.title = jobTitle(document);
-    metadata.author = data(document, profile).seller.name;
+    metadata.author = invoice.seller.name;
     if (profile == EInvoiceProfile::XRechnung)
         metadata.conformanceLevel = QStringLiteral("XRECHNUNG");
     metadata.created = m_state.clock().now();
