@@ -4,6 +4,7 @@
 #include "einvoice/EInvoiceLog.h"
 #include "einvoice/EInvoiceValidator.h"
 #include "einvoice/FacturX.h"
+#include "output/ExportController.h"
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
 #include "store/AppState.h"
@@ -63,7 +64,7 @@ Result<QByteArray> EInvoiceController::facturX(const ManagedObject& document, co
     if (!invoiceXml)
         return invoiceXml.error();
     FacturX::Metadata metadata;
-    metadata.title = jobTitle(document);
+    metadata.title = ExportController::jobTitle(m_state.settings(), &document);
     metadata.author = invoice.seller.name;
     if (profile == EInvoiceProfile::XRechnung)
         metadata.conformanceLevel = QStringLiteral("XRECHNUNG");
@@ -137,13 +138,6 @@ bool EInvoiceController::refuseIfIncomplete(const Result<QByteArray>& checked)
     return true;
 }
 
-QString EInvoiceController::jobTitle(const ManagedObject& document) const
-{
-    return QStringLiteral("%1 | %2 | %3")
-        .arg(m_state.settings().stringValue(QStringLiteral("prefsName")), document.stringValue(key::title),
-             document.stringValue(key::number));
-}
-
 void EInvoiceController::exportXRechnung()
 {
     const ManagedObject* document = m_state.currentInvoice();
@@ -155,7 +149,7 @@ void EInvoiceController::exportXRechnung()
     UserInterface::FilePanel panel;
     panel.title = tr("Export As XRechnung XML");
     panel.fileTypes = {QStringLiteral("xml")};
-    panel.proposedName = jobTitle(*document);
+    panel.proposedName = ExportController::jobTitle(m_state.settings(), document);
     const std::optional<QString> target = m_state.ui().runSavePanel(panel);
     if (!target) {
         Q_EMIT exportFinished(false);
@@ -177,7 +171,7 @@ void EInvoiceController::exportFacturX()
     UserInterface::FilePanel panel;
     panel.title = tr("Export As E-Invoice (Factur-X PDF)");
     panel.fileTypes = {QStringLiteral("pdf")};
-    panel.proposedName = jobTitle(*document);
+    panel.proposedName = ExportController::jobTitle(m_state.settings(), document);
     const std::optional<QString> target = m_state.ui().runSavePanel(panel);
     if (!target) {
         Q_EMIT exportFinished(false);

@@ -40,9 +40,13 @@ ExportController::ExportController(AppState& state, PreviewController& preview, 
 
 QString ExportController::jobTitle() const
 {
-    const ManagedObject* document = m_state.currentInvoice();
+    return jobTitle(m_state.settings(), m_state.currentInvoice());
+}
+
+QString ExportController::jobTitle(const Settings& settings, const ManagedObject* document)
+{
     return QStringLiteral("%1 | %2 | %3")
-        .arg(m_state.settings().stringValue(QStringLiteral("prefsName")),
+        .arg(settings.stringValue(QStringLiteral("prefsName")),
              document ? document->stringValue(key::title) : QString(),
              document ? document->stringValue(key::number) : QString());
 }
