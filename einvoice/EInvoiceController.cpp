@@ -22,8 +22,6 @@ namespace vorn {
 
 namespace {
 
-// The platform's "file exists" error code, as the PDF export uses it.
-constexpr int fileExistsCode = 516;
 // Refused by the rules of e-invoices: the user can put the data right.
 constexpr int incompleteCode = 134200;
 
@@ -118,7 +116,7 @@ Status EInvoiceController::writeNew(const QString& path, const QByteArray& bytes
 {
     const QFileInfo target(path);
     if (target.exists())
-        return Error::make(fileExistsCode,
+        return Error::make(ExportController::fileExistsCode,
                            tr("“%1” could not be written because a file of that name already exists.")
                                .arg(target.fileName()),
                            tr("Choose another name, or move the existing file aside, and try again."));

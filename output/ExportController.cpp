@@ -24,13 +24,6 @@
 
 namespace vorn {
 
-namespace {
-
-// The platform's "file exists" error code.
-constexpr int fileExistsCode = 516;
-
-} // namespace
-
 ExportController::ExportController(AppState& state, PreviewController& preview, Calculator& calculator,
                                    QObject* parent)
     : QObject(parent), m_state(state), m_preview(preview), m_mailer(&ExportController::sendWithXdgEmail),
