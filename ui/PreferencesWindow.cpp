@@ -193,19 +193,26 @@ QWidget* PreferencesWindow::padded(QWidget* form)
     return form;
 }
 
-QWidget* PreferencesWindow::paneView(int tag) const
+const PreferencesWindow::Pane* PreferencesWindow::findPane(int tag) const
 {
     for (const Pane& pane : m_panes)
         if (pane.tag == tag)
-            return pane.view;
+            return &pane;
     return nullptr;
+}
+
+QWidget* PreferencesWindow::paneView(int tag) const
+{
+    const Pane* found = findPane(tag);
+    return found ? found->view : nullptr;
 }
 
 void PreferencesWindow::changePanes(int tag)
 {
-    QWidget* view = paneView(tag);
-    if (!view || tag == m_current)
+    const Pane* next = findPane(tag);
+    if (!next || tag == m_current)
         return;
+    QWidget* view = next->view;
     if (m_current == builderTag)
         m_builderSize = size();
     if (QWidget* old = paneView(m_current)) {
@@ -215,9 +222,7 @@ void PreferencesWindow::changePanes(int tag)
     m_current = tag;
     m_container->layout()->addWidget(view);
     view->show();
-    for (const Pane& pane : std::as_const(m_panes))
-        if (pane.tag == tag)
-            pane.action->setChecked(true);
+    next->action->setChecked(true);
     fitToPane(view);
     // The first field of the pane, so the keyboard can start at once.
     view->setFocus();
