@@ -207,16 +207,14 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
         dispatchedDate->setText(when.isValid() ? QLocale().toString(when.toLocalTime(), QLocale::ShortFormat)
                                                : QString());
     };
-    connect(m_fields, &DocumentFields::documentChanged, this, [this, showDispatched] {
+    // What the page shows beside the bound fields.
+    const auto showDerived = [this, showDispatched] {
         showDueDays();
         showRelevance();
         showDispatched();
-    });
-    connect(&app.state(), &AppState::currentInvoiceChanged, this, [this, showDispatched] {
-        showDueDays();
-        showRelevance();
-        showDispatched();
-    });
+    };
+    connect(m_fields, &DocumentFields::documentChanged, this, showDerived);
+    connect(&app.state(), &AppState::currentInvoiceChanged, this, showDerived);
     connect(&app.state(), &AppState::currentInvoiceValueChanged, this, [showDispatched](const QString& k) {
         if (k == key::dispatched)
             showDispatched();
