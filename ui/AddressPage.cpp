@@ -67,6 +67,7 @@ AddressPage::AddressPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m
     m_fields->bindText(m_subject, key::subject);
 
     m_popover = new AddressPopover(app.state(), invoicing.addresses(), this);
+    m_popover->setAnchor(m_choose);
     connect(m_choose, &QPushButton::clicked, this, [this, &invoicing] {
         m_fields->commitFocused();
         invoicing.addresses().showAddressPopover();

@@ -172,9 +172,7 @@ void AddressPopover::sync()
         fillRecent();
         m_search->clear();
         m_tabs->setCurrentIndex(m_state.settings().intValue(key::addressTabViewIndex) == 1 ? 1 : 0);
-        showBelow(parentWidget()
-                      ? parentWidget()->window()->findChild<QWidget*>(QStringLiteral("chooseAddressButton"))
-                      : nullptr);
+        showBelow();
         (m_tabs->currentIndex() == 1 ? static_cast<QWidget*>(m_recent) : m_search)->setFocus();
     } else if (!p.shown && isVisible()) {
         close();

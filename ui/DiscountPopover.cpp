@@ -99,8 +99,7 @@ void DiscountPopover::sync()
     if (shown && !isVisible()) {
         m_fields->refresh();
         showKind();
-        showBelow(parentWidget() ? parentWidget()->findChild<QWidget*>(QStringLiteral("discountButton"))
-                                 : nullptr);
+        showBelow();
         m_title->setFocus();
     } else if (!shown && isVisible()) {
         close();

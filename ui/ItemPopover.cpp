@@ -169,8 +169,7 @@ void ItemPopover::sync()
     if (p.shown && !isVisible()) {
         fillRecent();
         m_tabs->setCurrentIndex(s.intValue(key::itemTabViewIndex) == 1 ? 1 : 0);
-        showBelow(parentWidget() ? parentWidget()->findChild<QWidget*>(QStringLiteral("addItemToolButton"))
-                                 : nullptr);
+        showBelow();
         (m_tabs->currentIndex() == 1 ? static_cast<QWidget*>(m_recent) : m_title)->setFocus();
     } else if (!p.shown && isVisible()) {
         close();

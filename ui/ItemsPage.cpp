@@ -106,6 +106,9 @@ ItemsPage::ItemsPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app
     m_itemPopover = new ItemPopover(app.state(), invoicing.items(), this);
     m_shippingPopover = new ShippingPopover(app, this);
     m_discountPopover = new DiscountPopover(app, this);
+    m_itemPopover->setAnchor(m_add);
+    m_shippingPopover->setAnchor(m_shipping);
+    m_discountPopover->setAnchor(m_discount);
 
     connect(m_add, &QToolButton::clicked, &invoicing.items(), &ItemController::showItemPopover);
     connect(m_delete, &QToolButton::clicked, &invoicing.items(), &ItemController::deleteItem);

@@ -13,6 +13,8 @@ Popover::Popover(QWidget* parent) : QFrame(parent, Qt::Popup)
 
 void Popover::showBelow(QWidget* anchor)
 {
+    if (!anchor)
+        anchor = m_anchor;
     adjustSize();
     QPoint at = anchor ? anchor->mapToGlobal(QPoint(0, anchor->height())) : QPoint(100, 100);
     // Kept on the screen, flipped above the button when there is no room below.

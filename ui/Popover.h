@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QFrame>
+#include <QPointer>
 
 namespace vorn {
 
@@ -13,7 +14,9 @@ class Popover : public QFrame
 public:
     explicit Popover(QWidget* parent = nullptr);
 
-    void showBelow(QWidget* anchor);
+    // The button it opens below when shown without one.
+    void setAnchor(QWidget* anchor) { m_anchor = anchor; }
+    void showBelow(QWidget* anchor = nullptr);
     // Hides without reporting a dismissal (the core closed it).
     void close();
 
@@ -24,6 +27,7 @@ protected:
     void hideEvent(QHideEvent* event) override;
 
 private:
+    QPointer<QWidget> m_anchor;
     bool m_closing = false;
 };
 

@@ -144,8 +144,7 @@ void ShippingPopover::sync()
         fillRecent();
         m_note->setText(m_app.invoicing().shipping().note());
         m_tabs->setCurrentIndex(m_app.settings().intValue(key::shippingTabViewIndex) == 1 ? 1 : 0);
-        showBelow(parentWidget() ? parentWidget()->findChild<QWidget*>(QStringLiteral("shippingButton"))
-                                 : nullptr);
+        showBelow();
         (m_tabs->currentIndex() == 1 ? static_cast<QWidget*>(m_recent) : m_title)->setFocus();
     } else if (!shown && isVisible()) {
         close();
