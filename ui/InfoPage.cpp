@@ -193,7 +193,7 @@ InfoPage::InfoPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app(a
         const ManagedObject* doc = m_app.state().currentInvoice();
         if (!doc)
             return;
-        invoicing.editor().setDocumentValue(key::number, doc->intValue(key::kind) == 0
+        invoicing.editor().setDocumentValue(key::number, doc->isQuote()
                                                              ? invoicing.numbering().quoteNumberString()
                                                              : invoicing.numbering().invoiceNumberString());
     });
@@ -255,7 +255,7 @@ void InfoPage::showRelevance()
 {
     const ManagedObject* doc = m_app.state().currentInvoice();
     // Quotes are not paid; their status is only "Created" or "Sent".
-    const bool invoice = doc && doc->intValue(key::kind) != 0;
+    const bool invoice = doc && !doc->isQuote();
     m_status->setToolTip(invoice ? QString()
                                  : tr("Quotes are not paid; convert the quote into an invoice first."));
 }
