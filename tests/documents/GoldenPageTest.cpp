@@ -52,7 +52,7 @@ protected:
             settings.setValue(QLatin1String(label), QStringLiteral("{%1}").arg(QLatin1String(label)));
         assign(settings, "prefsName", "Tandrelo Studio", "prefsContact", "12 Harbour Road\nPortsmouth",
                "prefsLetterbox", "Tandrelo Studio · 12 Harbour Road", "prefsCurrency", "EUR",
-               "prefsDatePattern", "%DAY%.%MONTH%.%YEARLONG%", "invHaveNumber", true, "invPattern",
+               "prefsDatePattern", "%DAY%.%MONTHSHORT%.%YEARLONG%", "invHaveNumber", true, "invPattern",
                "RE-%YEAR%-%COUNT%", "quotHaveNumber", true, "quotPattern", "Q-%COUNT%", "tax1Enabled", true,
                "tax1Title", "VAT", "tax1Rate", 0.19f, "tax2Enabled", true, "tax2Title", "City Tax",
                "tax2Rate", 0.05f, "showItemSubAmount", true);
