@@ -7,7 +7,6 @@
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
-#include "store/UniqueId.h"
 #include "store/UserInterface.h"
 
 #include <QFile>
@@ -64,23 +63,16 @@ QString DesignBuilder::attributeFor(EditorCommands::Editor editor)
 
 ManagedObject* DesignBuilder::duplicateDesign()
 {
-    ObjectContext* context = m_state.context();
     ArrayController& list = m_state.designsController();
     const ManagedObject* original = list.selectedObject();
-    if (!context || !original)
+    if (!original)
         return nullptr;
-    ManagedObject* copy = nullptr;
-    {
-        UndoGroup group(context->undoManager(), tr("Duplicate Design"));
-        copy = context->insertNewObject(Entity::Design);
-        copy->setValue(key::uniqueID, globallyUniqueString());
-        copy->setValue(key::title, tr("%1 copy").arg(original->stringValue(key::title)));
-        for (const char* key : {"invoice", "item", "css"})
-            copy->setValue(QLatin1String(key), original->stringValue(QLatin1String(key)));
-        copy->setValue(key::isDefault, false);
-    }
-    list.addObject(copy);
-    list.rearrangeObjects();
+    ManagedObject* copy =
+        m_designs.insertDesign(tr("Duplicate Design"), tr("%1 copy").arg(original->stringValue(key::title)),
+                               original->stringValue(key::invoice), original->stringValue(key::item),
+                               original->stringValue(key::css));
+    if (!copy)
+        return nullptr;
     list.setSelectedObjects({copy});
     m_designs.save();
     return copy;
