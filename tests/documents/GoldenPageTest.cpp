@@ -2,6 +2,7 @@
 #include "documents/Template.h"
 #include "documents/TemplateValues.h"
 #include "tests/invoicing/InvoicingFixture.h"
+#include "tests/support/TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -16,12 +17,6 @@
 // (the run then fails, so that the difference is reviewed).
 namespace vorn::test {
 namespace {
-
-QString readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 struct ItemLine
 {
@@ -103,13 +98,13 @@ protected:
     {
         const Formatter formatter(settings);
         PageValues values = pageValuesForDocument(doc, settings, nullptr);
-        values.css = readFile(folder + QStringLiteral("/style.css"));
+        values.css = readText(folder + QStringLiteral("/style.css"));
         QList<ItemValues> rows;
         for (const ManagedObject* item : doc.items())
             rows.append(ItemValues::fromObject(*item));
-        values.itemsList = fillItemsList(readFile(folder + QStringLiteral("/item.html")), rows,
+        values.itemsList = fillItemsList(readText(folder + QStringLiteral("/item.html")), rows,
                                          ItemRowSettings::fromSettings(settings), values.currency, formatter);
-        QString text = readFile(folder + QStringLiteral("/invoice.html"));
+        QString text = readText(folder + QStringLiteral("/invoice.html"));
         Template::apply(text, pageSteps(values, formatter));
         return text;
     }
@@ -123,7 +118,7 @@ TEST_P(GoldenPages, BuiltInDesignShowsAControllerMadeDocument)
     const ManagedObject* doc = makeDocument(GetParam() % 2 == 1);
     ASSERT_EQ(doc->items().size(), 3);
     QString html = page(folder, *doc);
-    const QString css = readFile(folder + QStringLiteral("/style.css"));
+    const QString css = readText(folder + QStringLiteral("/style.css"));
     ASSERT_FALSE(css.isEmpty());
     ASSERT_EQ(html.count(css), 1) << "the style sheet is not embedded verbatim";
     html.replace(css, QStringLiteral("/* style.css */"));
@@ -136,7 +131,7 @@ TEST_P(GoldenPages, BuiltInDesignShowsAControllerMadeDocument)
         FAIL() << "wrote " << path.toStdString()
                << "; review the difference, then run without VORN_UPDATE_GOLDEN";
     }
-    EXPECT_EQ(html.toStdString(), readFile(path).toStdString()) << "differs from " << path.toStdString();
+    EXPECT_EQ(html.toStdString(), readText(path).toStdString()) << "differs from " << path.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(BuiltIn, GoldenPages, ::testing::Range(1, 10));
