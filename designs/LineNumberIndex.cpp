@@ -2,6 +2,7 @@
 
 #include <QSizeF>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vorn {
@@ -32,19 +33,8 @@ const QList<int>& LineNumberIndex::lineIndices(const QString& text)
 
 int LineNumberIndex::lineNumberForCharacterIndex(const QList<int>& lineIndices, int index)
 {
-    int left = 0;
-    int right = int(lineIndices.size());
-    while (right - left >= 2) {
-        const int mid = (left + right) / 2;
-        const int start = lineIndices[mid];
-        if (index < start)
-            right = mid;
-        else if (index > start)
-            left = mid;
-        else
-            return mid;
-    }
-    return left;
+    const auto next = std::upper_bound(lineIndices.cbegin(), lineIndices.cend(), index);
+    return std::max(0, int(next - lineIndices.cbegin()) - 1);
 }
 
 int LineNumberIndex::requiredThickness(int lineCount, const std::function<qreal(const QString&)>& textWidth)
