@@ -40,12 +40,8 @@ LineNumberRuler::LineNumberRuler(TemplateEditor* editor)
     m_font = font;
     setAccessibleName(tr("Line numbers"));
     setAttribute(Qt::WA_OpaquePaintEvent, false);
-    connect(editor, &QPlainTextEdit::blockCountChanged, this, [this] {
-        m_index.invalidate();
-        updateThickness();
-    });
+    connect(editor, &QPlainTextEdit::blockCountChanged, this, &LineNumberRuler::updateThickness);
     connect(editor, &QPlainTextEdit::updateRequest, this, &LineNumberRuler::editorUpdated);
-    connect(editor->document(), &QTextDocument::contentsChanged, this, [this] { m_index.invalidate(); });
     updateThickness();
 }
 
