@@ -78,18 +78,6 @@ ManagedObject* DesignBuilder::duplicateDesign()
     return copy;
 }
 
-QString DesignBuilder::templateText(EditorCommands::Editor editor) const
-{
-    const ManagedObject* design = m_state.designsController().selectedObject();
-    return design ? design->stringValue(attributeFor(editor)) : QString();
-}
-
-void DesignBuilder::setTemplateText(EditorCommands::Editor editor, const QString& text)
-{
-    if (ManagedObject* design = m_state.designsController().selectedObject())
-        setTemplateText(*design, editor, text);
-}
-
 void DesignBuilder::setTemplateText(ManagedObject& design, EditorCommands::Editor editor, const QString& text)
 {
     ObjectContext* context = m_state.context();

@@ -348,20 +348,20 @@ TEST_F(DesignTest, DuplicatingGivesAnEditableCopyThatIsNotTheDefault)
     EXPECT_EQ(settings.intValue("selectedDesign"), list.arrangedObjects().indexOf(copy));
 }
 
-TEST_F(DesignTest, EditsGoIntoTheSelectedDesignAndSignalOnlyForTheDefault)
+TEST_F(DesignTest, EditsGoIntoTheShownDesignAndSignalOnlyForTheDefault)
 {
     seed();
     int changes = 0;
     QObject::connect(&builder, &DesignBuilder::designChanged, [&] { ++changes; });
-    list.setSelectionIndexes({1});
-    builder.setTemplateText(EditorCommands::StyleSheetEditor, "body {}");
-    EXPECT_EQ(list.selectedObject()->stringValue("css"), "body {}");
-    EXPECT_EQ(builder.templateText(EditorCommands::StyleSheetEditor), "body {}");
+    ManagedObject* other = list.arrangedObjects()[1];
+    builder.setTemplateText(*other, EditorCommands::StyleSheetEditor, "body {}");
+    EXPECT_EQ(other->stringValue("css"), "body {}");
+    EXPECT_EQ(other->stringValue(DesignBuilder::attributeFor(EditorCommands::StyleSheetEditor)), "body {}");
     EXPECT_EQ(changes, 0);
-    list.setSelectionIndexes({0});
-    builder.setTemplateText(EditorCommands::ItemEditor, "<tr></tr>");
-    builder.setTemplateText(EditorCommands::ItemEditor, "<tr></tr>");
-    EXPECT_EQ(list.selectedObject()->stringValue("item"), "<tr></tr>");
+    ManagedObject* current = designs.currentDesign();
+    builder.setTemplateText(*current, EditorCommands::ItemEditor, "<tr></tr>");
+    builder.setTemplateText(*current, EditorCommands::ItemEditor, "<tr></tr>");
+    EXPECT_EQ(current->stringValue("item"), "<tr></tr>");
     EXPECT_EQ(changes, 1);
 }
 
