@@ -20,6 +20,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QScopedValueRollback>
 
 Q_LOGGING_CATEGORY(lcApp, "vorn.app", QtInfoMsg)
 
@@ -189,6 +190,12 @@ void AppDelegate::saveFailed(const Error& error)
     ui().presentError(error);
 }
 
+Status AppDelegate::saveReportingFailure()
+{
+    const QScopedValueRollback quiet(m_presentsOwnSaveFailure, true);
+    return m_context->save();
+}
+
 void AppDelegate::adoptStore(std::unique_ptr<SqliteStore> store)
 {
     m_coordinatorBuilt = m_contextBuilt = true;
@@ -303,10 +310,7 @@ void AppDelegate::saveAction()
         qCWarning(lcApp).noquote() << QStringLiteral("%1:%2 unable to commit editing before saving")
                                           .arg(QLatin1String(metaObject()->className()),
                                                QLatin1String("saveAction:"));
-    m_presentsOwnSaveFailure = true;
-    const Status saved = m_context->save();
-    m_presentsOwnSaveFailure = false;
-    if (!saved)
+    if (const Status saved = saveReportingFailure(); !saved)
         ui().presentError(saved.error());
 }
 
@@ -337,9 +341,7 @@ AppDelegate::TerminateReply AppDelegate::applicationShouldTerminate()
     }
     if (!m_context->hasChanges())
         return finish(true);
-    m_presentsOwnSaveFailure = true;
-    const Status saved = m_context->save();
-    m_presentsOwnSaveFailure = false;
+    const Status saved = saveReportingFailure();
     if (saved)
         return finish(true);
     if (ui().presentError(saved.error())) {

@@ -116,6 +116,8 @@ private:
     // Quit) are not told twice.
     void watchSaves();
     void saveFailed(const Error& error);
+    // Saves for a command that presents its own failure.
+    Status saveReportingFailure();
     bool m_saveFailureShown = false;
     bool m_presentsOwnSaveFailure = false;
 

@@ -95,11 +95,10 @@ bool AssiController::checkForUpdates() const
 
 void AssiController::setCheckForUpdates(bool enabled)
 {
-    settings().setValue(ZRUpdateChecker::checkAtStartupKey, enabled);
+    // Answered here, the launch does not ask again; the first check comes a
+    // day later, not while the assistant is open.
+    ZRUpdateChecker::storeCheckAtStartup(settings(), m_app.state().clock().now(), enabled);
     settings().setValue(ZRUpdateChecker::firstUpdateCheckKey, true);
-    // The first check comes a day later, not while the assistant is open.
-    settings().setValue(ZRUpdateChecker::lastCheckSecondsKey,
-                        ZRUpdateChecker::referenceSeconds(m_app.state().clock().now()));
 }
 
 void AssiController::setSubscriptionEmail(const QString& email)

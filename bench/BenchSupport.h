@@ -33,4 +33,8 @@ public:
 // user's own data.
 void useHome(const QString& home);
 
+// The processor time of the whole process (every thread, user and system)
+// in milliseconds: on a busy machine it shows the work itself.
+double processorMs();
+
 } // namespace vorn::bench

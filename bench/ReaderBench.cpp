@@ -34,8 +34,6 @@
 #include <cstdio>
 #include <functional>
 
-#include <sys/resource.h>
-
 namespace vorn::bench {
 namespace {
 
@@ -48,14 +46,6 @@ public:
     QString file;
     std::optional<QString> runOpenPanel(const FilePanel&) override { return file; }
 };
-
-double processorMs()
-{
-    rusage usage{};
-    getrusage(RUSAGE_SELF, &usage);
-    return double(usage.ru_utime.tv_sec + usage.ru_stime.tv_sec) * 1e3 +
-           double(usage.ru_utime.tv_usec + usage.ru_stime.tv_usec) / 1e3;
-}
 
 double milliseconds(const std::function<void()>& work)
 {

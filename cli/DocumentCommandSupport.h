@@ -11,8 +11,9 @@ namespace vorn {
 
 class InvoicingControllers;
 class ManagedObject;
+class PreviewController;
 
-// Helpers shared by the document, item and address commands.
+// Helpers shared by the commands that work on documents.
 namespace DocumentCli {
 
 InvoicingControllers& controllers(CommandContext& c);
@@ -26,6 +27,9 @@ std::optional<QString> takeOption(QStringList& args, const QString& name, bool& 
 bool takeFlag(QStringList& args, const QString& name);
 // A 0-based row in [0, count).
 std::optional<int> parseIndex(const QString& text, int count);
+// Whether the preview has a design to render with; without one the
+// command's error line says why.
+bool hasDesign(CommandContext& c, PreviewController& preview);
 
 } // namespace DocumentCli
 

@@ -57,9 +57,8 @@ int einvoiceCommand(CommandContext& c)
     if (!file)
         return c.fail(file.error().fullText(), ExitCode::Refused);
     if (suffix == QLatin1String("pdf")) {
-        if (!preview.currentDesign())
-            return c.fail(
-                tr("There is no default design: make one of the designs the default design first."));
+        if (!DocumentCli::hasDesign(c, preview))
+            return ExitCode::Failure;
         state.isReminderAction = false;
         std::optional<Result<QByteArray>> made;
         QEventLoop loop;

@@ -96,15 +96,6 @@ void present(PreviewController& preview, const ReminderOptions& options)
     }
 }
 
-bool hasDesign(CommandContext& c, PreviewController& preview)
-{
-    if (preview.currentDesign())
-        return true;
-    if (c.ui.errors().isEmpty())
-        c.message = tr("There is no default design: make one of the designs the default design first.");
-    return false;
-}
-
 int htmlCommand(CommandContext& c)
 {
     QStringList args = c.args;
@@ -117,7 +108,7 @@ int htmlCommand(CommandContext& c)
         return ExitCode::Usage;
     PdfRenderer renderer;
     PreviewController preview(c.app.state(), renderer);
-    if (!hasDesign(c, preview))
+    if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     present(preview, *options);
     c.out = preview.invoiceHTMLString();
@@ -162,7 +153,7 @@ int pdfAll(CommandContext& c, QStringList args)
     // are cores keeps them busy while this process writes the files.
     renderer.setParallelPages(QThread::idealThreadCount() + 1);
     PreviewController preview(state, renderer);
-    if (!hasDesign(c, preview))
+    if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     state.isReminderAction = false;
 
@@ -249,7 +240,7 @@ int pdfCommand(CommandContext& c)
     AppState& state = c.app.state();
     PdfRenderer renderer;
     PreviewController preview(state, renderer);
-    if (!hasDesign(c, preview))
+    if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     present(preview, *options);
 
@@ -287,7 +278,7 @@ int designPreviewHtml(CommandContext& c)
         return c.usage(tr("usage: design preview-html"));
     PdfRenderer renderer;
     PreviewController preview(c.app.state(), renderer);
-    if (!hasDesign(c, preview))
+    if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     DesignPreview sample(preview);
     c.out = sample.invoiceHTMLString();
@@ -295,6 +286,17 @@ int designPreviewHtml(CommandContext& c)
 }
 
 } // namespace
+
+bool DocumentCli::hasDesign(CommandContext& c, PreviewController& preview)
+{
+    if (preview.currentDesign())
+        return true;
+    // Loading the designs may have said what is wrong with them.
+    c.message = c.ui.errors().isEmpty()
+                    ? tr("There is no default design: make one of the designs the default design first.")
+                    : c.ui.errors().first().fullText();
+    return false;
+}
 
 void registerOutputCommands(CommandRegistry& registry)
 {

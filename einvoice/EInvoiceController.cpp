@@ -4,6 +4,7 @@
 #include "einvoice/EInvoiceLog.h"
 #include "einvoice/EInvoiceValidator.h"
 #include "einvoice/FacturX.h"
+#include "output/ExportController.h"
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
 #include "store/AppState.h"
@@ -21,8 +22,6 @@ namespace vorn {
 
 namespace {
 
-// The platform's "file exists" error code, as the PDF export uses it.
-constexpr int fileExistsCode = 516;
 // Refused by the rules of e-invoices: the user can put the data right.
 constexpr int incompleteCode = 134200;
 
@@ -38,24 +37,33 @@ EInvoiceData EInvoiceController::data(const ManagedObject& document, EInvoicePro
     return EInvoiceData::fromDocument(document, m_state.settings(), profile);
 }
 
-Result<QByteArray> EInvoiceController::xml(const ManagedObject& document, EInvoiceProfile profile) const
+namespace {
+
+Result<QByteArray> checkedXml(const EInvoiceData& invoice)
 {
-    const EInvoiceData invoice = data(document, profile);
     const QStringList problems = EInvoiceValidator::problems(invoice);
     if (!problems.isEmpty())
         return Error::make(incompleteCode, problems.join(QLatin1Char(' ')));
     return CiiWriter::write(invoice);
 }
 
+} // namespace
+
+Result<QByteArray> EInvoiceController::xml(const ManagedObject& document, EInvoiceProfile profile) const
+{
+    return checkedXml(data(document, profile));
+}
+
 Result<QByteArray> EInvoiceController::facturX(const ManagedObject& document, const QByteArray& pdf,
                                                EInvoiceProfile profile) const
 {
-    Result<QByteArray> invoiceXml = xml(document, profile);
+    const EInvoiceData invoice = data(document, profile);
+    Result<QByteArray> invoiceXml = checkedXml(invoice);
     if (!invoiceXml)
         return invoiceXml.error();
     FacturX::Metadata metadata;
-    metadata.title = jobTitle(document);
-    metadata.author = data(document, profile).seller.name;
+    metadata.title = ExportController::jobTitle(m_state.settings(), &document);
+    metadata.author = invoice.seller.name;
     if (profile == EInvoiceProfile::XRechnung)
         metadata.conformanceLevel = QStringLiteral("XRECHNUNG");
     metadata.created = m_state.clock().now();
@@ -108,7 +116,7 @@ Status EInvoiceController::writeNew(const QString& path, const QByteArray& bytes
 {
     const QFileInfo target(path);
     if (target.exists())
-        return Error::make(fileExistsCode,
+        return Error::make(ExportController::fileExistsCode,
                            tr("“%1” could not be written because a file of that name already exists.")
                                .arg(target.fileName()),
                            tr("Choose another name, or move the existing file aside, and try again."));
@@ -128,13 +136,6 @@ bool EInvoiceController::refuseIfIncomplete(const Result<QByteArray>& checked)
     return true;
 }
 
-QString EInvoiceController::jobTitle(const ManagedObject& document) const
-{
-    return QStringLiteral("%1 | %2 | %3")
-        .arg(m_state.settings().stringValue(QStringLiteral("prefsName")), document.stringValue(key::title),
-             document.stringValue(key::number));
-}
-
 void EInvoiceController::exportXRechnung()
 {
     const ManagedObject* document = m_state.currentInvoice();
@@ -146,7 +147,7 @@ void EInvoiceController::exportXRechnung()
     UserInterface::FilePanel panel;
     panel.title = tr("Export As XRechnung XML");
     panel.fileTypes = {QStringLiteral("xml")};
-    panel.proposedName = jobTitle(*document);
+    panel.proposedName = ExportController::jobTitle(m_state.settings(), document);
     const std::optional<QString> target = m_state.ui().runSavePanel(panel);
     if (!target) {
         Q_EMIT exportFinished(false);
@@ -168,7 +169,7 @@ void EInvoiceController::exportFacturX()
     UserInterface::FilePanel panel;
     panel.title = tr("Export As E-Invoice (Factur-X PDF)");
     panel.fileTypes = {QStringLiteral("pdf")};
-    panel.proposedName = jobTitle(*document);
+    panel.proposedName = ExportController::jobTitle(m_state.settings(), document);
     const std::optional<QString> target = m_state.ui().runSavePanel(panel);
     if (!target) {
         Q_EMIT exportFinished(false);

@@ -51,7 +51,6 @@ Q_SIGNALS:
 
 private:
     bool refuseIfIncomplete(const Result<QByteArray>& xml);
-    QString jobTitle(const ManagedObject& document) const;
 
     AppState& m_state;
     PreviewController& m_preview;

@@ -96,10 +96,7 @@ QDate localDate(const QDateTime& time)
 // after it, such as the country's name, is left out).
 void readAddressBlock(const QString& block, EInvoiceData::Party& party)
 {
-    QStringList lines;
-    for (const QString& line : plainText(block).split(QLatin1Char('\n')))
-        if (!line.isEmpty())
-            lines << line;
+    QStringList lines = plainText(block).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     if (lines.isEmpty())
         return;
     party.name = lines.takeFirst();

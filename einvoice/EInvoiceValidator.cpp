@@ -19,6 +19,7 @@ QString tr(const char* text)
     return Texts::tr(text);
 }
 
+// ISO 3166-1 alpha-2, and XI (Northern Ireland), which EN 16931 accepts.
 const QSet<QString>& countryCodes()
 {
     static const QSet<QString> codes = [] {
@@ -39,17 +40,18 @@ const QSet<QString>& countryCodes()
     return codes;
 }
 
+bool isCountryCode(const QString& code)
+{
+    return countryCodes().contains(code);
+}
+
+// VAT identifiers begin with the country code, "EL" for Greece.
 bool hasVatPrefix(const QString& vatID)
 {
     return vatID.size() > 2 && (isCountryCode(vatID.left(2)) || vatID.startsWith(QLatin1String("EL")));
 }
 
 } // namespace
-
-bool isCountryCode(const QString& code)
-{
-    return countryCodes().contains(code);
-}
 
 QStringList problems(const EInvoiceData& e)
 {

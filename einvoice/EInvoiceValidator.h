@@ -13,8 +13,6 @@ namespace vorn {
 namespace EInvoiceValidator {
 
 QStringList problems(const EInvoiceData& invoice);
-// ISO 3166-1 alpha-2 (and "EL", which VAT identifiers use for Greece).
-bool isCountryCode(const QString& code);
 
 } // namespace EInvoiceValidator
 } // namespace vorn

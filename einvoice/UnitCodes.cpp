@@ -28,7 +28,7 @@ const QHash<QString, QString>& table()
             {"KGM", "kg|kilogram|kilograms|kilogramm|kilogramme|kilogrammes|kilogramo|kilogramos"},
             {"GRM", "g|gram|grams|gramm|gramme|grammes|gramo|gramos"},
             {"TNE", "t|tonne|tonnes|ton|tons|tonnen|tonelada|toneladas"},
-            {"MTR", "m|metre|metres|meter|meters|mètre|mètres|metro|metros"},
+            {"MTR", "m|metre|metres|meter|meters|mètre|mètres|metro|metros|lfm|laufmeter|laufende meter"},
             {"CMT", "cm|centimetre|centimetres|zentimeter|centimètre|centimètres|centímetro|centímetros"},
             {"MMT", "mm|millimetre|millimetres|millimeter|millimètre|millimètres|milímetro|milímetros"},
             {"KMT", "km|kilometre|kilometres|kilometer|kilomètre|kilomètres|kilómetro|kilómetros"},
@@ -45,7 +45,6 @@ const QHash<QString, QString>& table()
             {"D64", "block|blocks"},
             {"XBX", "box|boxes|karton|schachtel|boîte|caja|cajas"},
             {"E49", "working day|working days|arbeitstag|arbeitstage|jour ouvré|jours ouvrés|día laborable"},
-            {"MTR", "lfm|laufmeter|laufende meter"},
         };
         QHash<QString, QString> m;
         for (const auto& group : groups) {

@@ -73,9 +73,9 @@ bool DocumentEditor::isRelevant(const QString& key) const
         return false;
     const qint64 status = doc->intValue(key::status);
     if (key == key::paid)
-        return doc->intValue(key::kind) != 0 && !ValueTransformers::intToDateBool(status);
+        return doc->isInvoice() && !ValueTransformers::intToDateBool(status);
     if (key == key::paidAmount)
-        return doc->intValue(key::kind) != 0 && !ValueTransformers::intToAmountBool(status);
+        return doc->isInvoice() && !ValueTransformers::intToAmountBool(status);
     return true;
 }
 
@@ -93,7 +93,7 @@ bool DocumentEditor::setDocumentValue(const QString& key, const QVariant& value)
     if (affectsAmounts(key)) {
         // A status set by hand starts the payment bookkeeping afresh: the
         // totals stamp the payment date once the invoice reads as paid.
-        if (key == key::status && v.toLongLong() < 3)
+        if (key == key::status && DocumentStatus(v.toLongLong()) < DocumentStatus::Paid)
             doc->setValue(key::isPaid, false);
         Calculator::TotalsBatch batch(m_calculator);
         m_state.invoicesController().rearrangeObjects();

@@ -1,8 +1,7 @@
 #include "output/DesignPreview.h"
 
-#include "documents/PaymentQrCode.h"
-
 #include "documents/KeyedArchive.h"
+#include "documents/PaymentQrCode.h"
 #include "documents/Template.h"
 #include "documents/TemplateValues.h"
 #include "output/Logo.h"

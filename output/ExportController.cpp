@@ -24,13 +24,6 @@
 
 namespace vorn {
 
-namespace {
-
-// The platform's "file exists" error code.
-constexpr int fileExistsCode = 516;
-
-} // namespace
-
 ExportController::ExportController(AppState& state, PreviewController& preview, Calculator& calculator,
                                    QObject* parent)
     : QObject(parent), m_state(state), m_preview(preview), m_mailer(&ExportController::sendWithXdgEmail),
@@ -40,9 +33,13 @@ ExportController::ExportController(AppState& state, PreviewController& preview, 
 
 QString ExportController::jobTitle() const
 {
-    const ManagedObject* document = m_state.currentInvoice();
+    return jobTitle(m_state.settings(), m_state.currentInvoice());
+}
+
+QString ExportController::jobTitle(const Settings& settings, const ManagedObject* document)
+{
     return QStringLiteral("%1 | %2 | %3")
-        .arg(m_state.settings().stringValue(QStringLiteral("prefsName")),
+        .arg(settings.stringValue(QStringLiteral("prefsName")),
              document ? document->stringValue(key::title) : QString(),
              document ? document->stringValue(key::number) : QString());
 }

@@ -12,6 +12,7 @@ class AppState;
 class Calculator;
 class ManagedObject;
 class PreviewController;
+class Settings;
 
 // The four output actions of the main and preview windows (print, save as
 // PDF, send by e-mail, export as a file) and the export sheet they share:
@@ -71,8 +72,13 @@ public:
     void cancelExport();
     void sendEmail();
 
+    // The platform's "file exists" error: the exports never write over a file.
+    static constexpr int fileExistsCode = 516;
+
     // "name | title | number" of the current document.
     QString jobTitle() const;
+    // The same of any document: the name of its print job and its files.
+    static QString jobTitle(const Settings& settings, const ManagedObject* document);
     static QString emailBody();
 
 Q_SIGNALS:

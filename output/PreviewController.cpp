@@ -1,6 +1,6 @@
 #include "output/PreviewController.h"
-#include "output/Logo.h"
 
+#include "output/Logo.h"
 #include "output/OutputLog.h"
 #include "store/AppState.h"
 #include "store/Keys.h"

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
-"""Turns an ISO Schematron schema (query binding xslt2, includes already
-resolved, as rule sets are published "preprocessed") into an XSLT 2.0
-stylesheet that writes an SVRL report, so Saxon-HE can run the rules.
+"""Turns an ISO Schematron schema (query binding xslt2; its <include>s are
+read from the files they name) into an XSLT 2.0 stylesheet that writes an
+SVRL report, so Saxon-HE can run the rules.
 
     schematron.py RULES.sch OUT.xsl
 

@@ -62,12 +62,12 @@ rule_sets=("$(rule_set "$artefacts/xslt/EN16931-CII-validation.xslt" "$artefacts
 if grep -q 'kosit:xrechnung' "$xml"; then
   rule_sets+=("$(rule_set "$artefacts/xrechnung/XRechnung-CII-validation.xsl" "$artefacts/xrechnung/cii/XRechnung-CII-validation.sch")")
 fi
+# Fatal assertions are errors; warnings are shown but pass.
+count() { xmllint --xpath "count(//*[local-name()='failed-assert'][@flag='$1'])" "$work/report.svrl"; }
 for rules in "${rule_sets[@]}"; do
   [ -n "$rules" ] || continue
   checked=$((checked + 1))
   java -jar "$saxon" -s:"$xml" -xsl:"$rules" -o:"$work/report.svrl"
-  # Fatal assertions are errors; warnings are shown but pass.
-  count() { xmllint --xpath "count(//*[local-name()='failed-assert'][@flag='$1'])" "$work/report.svrl"; }
   errors=$(count fatal)
   warnings=$(count warning)
   xmllint --xpath "//*[local-name()='failed-assert']/*[local-name()='text']/text()" "$work/report.svrl" 2>/dev/null || true

@@ -48,11 +48,15 @@ bool ZRUpdateChecker::checkAtStartup() const
     return m_settings.boolValue(checkAtStartupKey);
 }
 
+void ZRUpdateChecker::storeCheckAtStartup(Settings& settings, const QDateTime& now, bool enabled)
+{
+    settings.setValue(checkAtStartupKey, enabled);
+    settings.setValue(lastCheckSecondsKey, referenceSeconds(now));
+}
+
 void ZRUpdateChecker::setCheckAtStartup(bool enabled)
 {
-    m_settings.setValue(checkAtStartupKey, enabled);
-    // Counting from now: switching the check on does not start one at once.
-    m_settings.setValue(lastCheckSecondsKey, referenceSeconds(m_clock.now()));
+    storeCheckAtStartup(m_settings, m_clock.now(), enabled);
     if (Status s = m_settings.synchronize(); !s)
         qCWarning(lcServices).noquote() << s.error().fullText();
     Q_EMIT checkAtStartupChanged(enabled);

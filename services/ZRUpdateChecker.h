@@ -65,6 +65,9 @@ public:
     // The preference (a checkbox bound to it).
     bool checkAtStartup() const;
     void setCheckAtStartup(bool enabled);
+    // Stores the preference, counting the next check from now: switching
+    // the check on does not start one at once.
+    static void storeCheckAtStartup(Settings& settings, const QDateTime& now, bool enabled);
     void takeBoolFromObject(bool checked) { setCheckAtStartup(checked); }
 
     // The version list's entry for this application, judged against version.

@@ -365,6 +365,22 @@ private:
     quint64 m_values = 0;
 };
 
+// Walks an array with an iterator: libplist finds the n-th element by
+// counting from the first, so indexing would make a walk quadratic.
+template <typename F> void forEachElement(plist_t array, F&& f)
+{
+    plist_array_iter it = nullptr;
+    plist_array_new_iter(array, &it);
+    for (;;) {
+        plist_t item = nullptr;
+        plist_array_next_item(array, it, &item);
+        if (!item)
+            break;
+        f(item);
+    }
+    free(it);
+}
+
 QVariant toVariant(plist_t node, int depth)
 {
     if (!node || depth > PropertyList::maximumDepth)
@@ -413,20 +429,9 @@ QVariant toVariant(plist_t node, int depth)
         return QVariant::fromValue(PlistUid{v});
     }
     case PLIST_ARRAY: {
-        // Walked with an iterator: libplist finds the n-th element of an
-        // array by counting from the first, so indexing would be quadratic.
         QVariantList list;
         list.reserve(plist_array_get_size(node));
-        plist_array_iter it = nullptr;
-        plist_array_new_iter(node, &it);
-        for (;;) {
-            plist_t item = nullptr;
-            plist_array_next_item(node, it, &item);
-            if (!item)
-                break;
-            list.append(toVariant(item, depth + 1));
-        }
-        free(it);
+        forEachElement(node, [&list, depth](plist_t item) { list.append(toVariant(item, depth + 1)); });
         return list;
     }
     case PLIST_DICT: {
@@ -540,16 +545,7 @@ struct PropertyList::Tree::Nodes
             return nullptr;
         std::vector<plist_t> elements;
         elements.reserve(plist_array_get_size(node));
-        plist_array_iter it = nullptr;
-        plist_array_new_iter(node, &it);
-        for (;;) {
-            plist_t item = nullptr;
-            plist_array_next_item(node, it, &item);
-            if (!item)
-                break;
-            elements.push_back(item);
-        }
-        free(it);
+        forEachElement(node, [&elements](plist_t item) { elements.push_back(item); });
         return &*arrays.insert(key, std::move(elements));
     }
 };

@@ -193,6 +193,16 @@ std::optional<QString> asString(const QVariant& v)
     }
 }
 
+std::optional<QByteArray> asData(const QVariant& v)
+{
+    return v.typeId() == QMetaType::QByteArray ? std::optional<QByteArray>(v.toByteArray()) : std::nullopt;
+}
+
+std::optional<QDateTime> asDate(const QVariant& v)
+{
+    return v.typeId() == QMetaType::QDateTime ? std::optional<QDateTime>(v.toDateTime()) : std::nullopt;
+}
+
 } // namespace
 
 void Settings::reportWrongType(const QString& key, const QVariant& value, const char* expected) const
@@ -205,26 +215,26 @@ void Settings::reportWrongType(const QString& key, const QVariant& value, const 
                .arg(key, QLatin1String(value.typeName()), value.toString().left(40), QLatin1String(expected));
 }
 
-bool Settings::boolValue(const QString& key) const
+template <typename T, typename Convert>
+T Settings::typedValue(const QString& key, Convert convert, const char* expected) const
 {
     const QVariant v = value(key);
     if (!v.isValid())
-        return false;
-    if (const auto b = asBool(v))
-        return *b;
-    reportWrongType(key, v, "a yes/no value");
-    return asBool(m_declared.value(key)).value_or(false);
+        return T();
+    if (const std::optional<T> typed = convert(v))
+        return *typed;
+    reportWrongType(key, v, expected);
+    return convert(m_declared.value(key)).value_or(T());
+}
+
+bool Settings::boolValue(const QString& key) const
+{
+    return typedValue<bool>(key, asBool, "a yes/no value");
 }
 
 qint64 Settings::intValue(const QString& key) const
 {
-    const QVariant v = value(key);
-    if (!v.isValid())
-        return 0;
-    if (const auto n = asInteger(v))
-        return *n;
-    reportWrongType(key, v, "a whole number");
-    return asInteger(m_declared.value(key)).value_or(0);
+    return typedValue<qint64>(key, asInteger, "a whole number");
 }
 
 float Settings::floatValue(const QString& key) const
@@ -240,44 +250,22 @@ float Settings::floatValue(const QString& key) const
 
 double Settings::doubleValue(const QString& key) const
 {
-    const QVariant v = value(key);
-    if (!v.isValid())
-        return 0;
-    if (const auto d = asDouble(v))
-        return *d;
-    reportWrongType(key, v, "a number");
-    return asDouble(m_declared.value(key)).value_or(0);
+    return typedValue<double>(key, asDouble, "a number");
 }
 
 QString Settings::stringValue(const QString& key) const
 {
-    const QVariant v = value(key);
-    if (!v.isValid())
-        return {};
-    if (const auto s = asString(v))
-        return *s;
-    reportWrongType(key, v, "text");
-    return asString(m_declared.value(key)).value_or(QString());
+    return typedValue<QString>(key, asString, "text");
 }
 
 QByteArray Settings::dataValue(const QString& key) const
 {
-    const QVariant v = value(key);
-    if (!v.isValid() || v.typeId() == QMetaType::QByteArray)
-        return v.toByteArray();
-    reportWrongType(key, v, "data");
-    const QVariant declared = m_declared.value(key);
-    return declared.typeId() == QMetaType::QByteArray ? declared.toByteArray() : QByteArray();
+    return typedValue<QByteArray>(key, asData, "data");
 }
 
 QDateTime Settings::dateValue(const QString& key) const
 {
-    const QVariant v = value(key);
-    if (!v.isValid() || v.typeId() == QMetaType::QDateTime)
-        return v.toDateTime();
-    reportWrongType(key, v, "a date");
-    const QVariant declared = m_declared.value(key);
-    return declared.typeId() == QMetaType::QDateTime ? declared.toDateTime() : QDateTime();
+    return typedValue<QDateTime>(key, asDate, "a date");
 }
 
 Status Settings::synchronize()

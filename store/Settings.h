@@ -71,6 +71,10 @@ private:
     void changed(const QString& key);
     // Logs once per key that its value is not of the type it is read as.
     void reportWrongType(const QString& key, const QVariant& value, const char* expected) const;
+    // A typed read: the value as convert reads it, else (logged) the declared
+    // default as convert reads it, else T's empty value.
+    template <typename T, typename Convert>
+    T typedValue(const QString& key, Convert convert, const char* expected) const;
 
     QString m_filePath;
     QVariantMap m_values;

@@ -1,5 +1,6 @@
 #include "store/SqliteStore.h"
 
+#include "store/Keys.h"
 #include "store/StoreLog.h"
 
 #include <QFile>
@@ -45,18 +46,22 @@ const char* columnType(AttributeType type)
 // the columns they know and leave the others alone.
 bool isLaterColumn(const QString& entity, const QString& column)
 {
-    static const QSet<QString> invoice{QStringLiteral("buyerCountryCode"), QStringLiteral("buyerVatID"),
-                                       QStringLiteral("buyerReference"), QStringLiteral("orderReference")};
-    return entity == QLatin1String("Invoice") && invoice.contains(column);
+    static const QSet<QString> invoice{key::buyerCountryCode, key::buyerVatID, key::buyerReference,
+                                       key::orderReference};
+    return entity == Entity::Invoice && invoice.contains(column);
 }
 
-QString columnList(const EntityDescription& entity)
+// The columns read and written; without the later ones, those a file only
+// read may lack are left out.
+QString columnList(const EntityDescription& entity, bool withLater = true)
 {
     QStringList columns{QStringLiteral("\"_id\"")};
     if (entity.ownerRelationship())
         columns << QStringLiteral("\"_owner\"") << QStringLiteral("\"_position\"");
-    for (const auto& a : entity.attributes())
-        columns << quoted(a.name);
+    for (const auto& a : entity.attributes()) {
+        if (withLater || !isLaterColumn(entity.name(), a.name))
+            columns << quoted(a.name);
+    }
     return columns.join(QLatin1Char(','));
 }
 
@@ -268,17 +273,10 @@ Status SqliteStore::prepareSchema(bool& created)
 
     // Every table must have every column we read and write.
     for (const auto& entity : m_model.entities()) {
-        QStringList columns;
-        for (const auto& a : entity->attributes()) {
-            if (writable || !isLaterColumn(entity->name(), a.name))
-                columns << quoted(a.name);
-        }
         sqlite3_stmt* stmt = nullptr;
-        const QByteArray sql =
-            QStringLiteral("SELECT \"_id\"%1 FROM %2 LIMIT 0")
-                .arg(columns.isEmpty() ? QString() : QLatin1Char(',') + columns.join(QLatin1Char(',')),
-                     quoted(entity->name()))
-                .toUtf8();
+        const QByteArray sql = QStringLiteral("SELECT %1 FROM %2 LIMIT 0")
+                                   .arg(columnList(*entity, writable), quoted(entity->name()))
+                                   .toUtf8();
         const int rc = sqlite3_prepare_v2(m_db, sql.constData(), -1, &stmt, nullptr);
         sqlite3_finalize(stmt);
         if (rc != SQLITE_OK) {

@@ -54,7 +54,7 @@ AboutDialog::AboutDialog(KelvoGeneralController& links, QWidget* parent) : QVBot
     auto* ok = new QPushButton(tr("OK"), this);
     ok->setDefault(true);
     ok->setAccessibleName(tr("OK"));
-    auto* bar = static_cast<QHBoxLayout*>(barLayout());
+    QHBoxLayout* bar = barLayout();
     bar->addStretch();
     bar->addWidget(ok);
     connect(ok, &QPushButton::clicked, this, &QDialog::accept);

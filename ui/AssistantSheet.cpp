@@ -171,7 +171,7 @@ void AssistantSheet::buildPages()
     m_continue = new QPushButton(this);
     m_continue->setObjectName(QStringLiteral("assiContinueButton"));
     m_continue->setDefault(true);
-    auto* bar = static_cast<QHBoxLayout*>(barLayout());
+    QHBoxLayout* bar = barLayout();
     bar->addWidget(m_quit);
     bar->addStretch();
     bar->addWidget(m_step);

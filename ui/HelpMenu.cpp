@@ -89,9 +89,9 @@ HelpMenu::HelpMenu(QMainWindow& window, AppDelegate& app)
              UserInterface::AlertStyle::Informational,
              false});
         if (answer == 0) {
-            g_restart = true;
             m_window.close();
-            g_restart = m_window.isVisible() ? false : g_restart;
+            // The window may refuse to close; then Vorn goes on running.
+            g_restart = !m_window.isVisible();
         }
     });
 

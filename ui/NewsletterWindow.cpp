@@ -46,7 +46,7 @@ NewsletterWindow::NewsletterWindow(NewsletterSubscription& newsletter, QWidget* 
     m_subscribe = new QPushButton(tr("&Subscribe"), this);
     m_subscribe->setAccessibleName(tr("Subscribe"));
     m_subscribe->setDefault(true);
-    auto* bar = static_cast<QHBoxLayout*>(barLayout());
+    QHBoxLayout* bar = barLayout();
     bar->addWidget(m_busy);
     bar->addStretch();
     bar->addWidget(cancel);

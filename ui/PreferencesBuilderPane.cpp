@@ -81,7 +81,7 @@ PreferencesBuilderPane::PreferencesBuilderPane(AppDelegate& app, DesignControlle
 
     m_pause->setSingleShot(true);
     m_pause->setInterval(PreferencesLivePreview::pauseMs);
-    connect(m_pause, &QTimer::timeout, this, &PreferencesBuilderPane::typingPaused);
+    connect(m_pause, &QTimer::timeout, this, &PreferencesBuilderPane::storeEdits);
 
     ArrayController& list = app.state().designsController();
     connect(&list, &ArrayController::selectionChanged, this, [this] {
@@ -100,11 +100,6 @@ PreferencesBuilderPane::PreferencesBuilderPane(AppDelegate& app, DesignControlle
     });
     connect(&builder, &DesignBuilder::designChanged, m_preview, &PreferencesLivePreview::schedule);
     showSelectedDesign();
-}
-
-void PreferencesBuilderPane::typingPaused()
-{
-    storeEdits();
 }
 
 void PreferencesBuilderPane::storeEdits()

@@ -43,8 +43,6 @@ public:
     void showSelectedDesign();
 
 private:
-    void typingPaused();
-
     AppDelegate& m_app;
     DesignBuilder& m_builder;
     PreferencesDesignList* m_list;

@@ -54,6 +54,16 @@ QStringList termChoices()
             QCoreApplication::translate("PreferencesWindow", "28 days")};
 }
 
+// In the order of the stored index; the class's own translations.
+QStringList paperChoices()
+{
+    return {QCoreApplication::translate("vorn::PreferencesWindow", "US Letter"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "US Legal"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "A4"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "JIS B4"),
+            QCoreApplication::translate("vorn::PreferencesWindow", "JIS B5")};
+}
+
 } // namespace
 
 QStringList PreferencesWindow::toolbarDefaultItemIdentifiers()
@@ -183,19 +193,26 @@ QWidget* PreferencesWindow::padded(QWidget* form)
     return form;
 }
 
-QWidget* PreferencesWindow::paneView(int tag) const
+const PreferencesWindow::Pane* PreferencesWindow::findPane(int tag) const
 {
     for (const Pane& pane : m_panes)
         if (pane.tag == tag)
-            return pane.view;
+            return &pane;
     return nullptr;
+}
+
+QWidget* PreferencesWindow::paneView(int tag) const
+{
+    const Pane* found = findPane(tag);
+    return found ? found->view : nullptr;
 }
 
 void PreferencesWindow::changePanes(int tag)
 {
-    QWidget* view = paneView(tag);
-    if (!view || tag == m_current)
+    const Pane* next = findPane(tag);
+    if (!next || tag == m_current)
         return;
+    QWidget* view = next->view;
     if (m_current == builderTag)
         m_builderSize = size();
     if (QWidget* old = paneView(m_current)) {
@@ -205,10 +222,7 @@ void PreferencesWindow::changePanes(int tag)
     m_current = tag;
     m_container->layout()->addWidget(view);
     view->show();
-    for (const Pane& pane : std::as_const(m_panes))
-        if (pane.tag == tag)
-            pane.action->setChecked(true);
-    setWindowTitle(QStringLiteral("Orvandel"));
+    next->action->setChecked(true);
     fitToPane(view);
     // The first field of the pane, so the keyboard can start at once.
     view->setFocus();
@@ -477,8 +491,7 @@ QWidget* PreferencesWindow::designPane()
     layout->addWidget(list, 1);
     auto* paper = new PreferencesForm(m_app.settings(), pane);
     paper->layout()->setContentsMargins(0, 0, 0, 0);
-    paper->addChoice(QStringLiteral("tempPaperSize"), tr("Paper:"),
-                     {tr("US Letter"), tr("US Legal"), tr("A4"), tr("JIS B4"), tr("JIS B5")});
+    paper->addChoice(QStringLiteral("tempPaperSize"), tr("Paper:"), paperChoices());
     layout->addWidget(paper);
     pane->setMinimumSize(620, 420);
     return pane;
@@ -490,8 +503,7 @@ PreferencesForm* PreferencesWindow::regionPane()
     f->addSection(tr("Money and dates"));
     f->addLine(key::prefsCurrency, tr("&Currency:"));
     f->addLine(QStringLiteral("prefsDatePattern"), tr("&Date pattern:"));
-    f->addChoice(QStringLiteral("tempPaperSize"), tr("&Paper:"),
-                 {tr("US Letter"), tr("US Legal"), tr("A4"), tr("JIS B4"), tr("JIS B5")});
+    f->addChoice(QStringLiteral("tempPaperSize"), tr("&Paper:"), paperChoices());
     f->addSection(tr("Payments"));
     f->addLine(key::prefsIBAN, tr("&IBAN:"));
     f->addLine(key::prefsBIC, tr("&BIC:"));

@@ -68,6 +68,7 @@ protected:
     void showEvent(QShowEvent* event) override;
 
 private:
+    const Pane* findPane(int tag) const;
     void addPane(const QString& identifier, int tag, const QString& label, const char* theme, QWidget* view);
     QWidget* padded(QWidget* form);
     PreferencesForm* companyPane();

@@ -19,14 +19,9 @@ QVBottomBarWindow::QVBottomBarWindow(BarSize size, QWidget* parent) : QDialog(pa
     m_bar = new QVBox(QVBox::Gray, this);
     m_bar->setObjectName(QStringLiteral("bottomBar"));
     m_bar->setFixedHeight(int(size));
-    auto* bar = new QHBoxLayout(m_bar);
-    bar->setContentsMargins(12, 2, 12, 2);
+    m_barLayout = new QHBoxLayout(m_bar);
+    m_barLayout->setContentsMargins(12, 2, 12, 2);
     outer->addWidget(m_bar);
-}
-
-QLayout* QVBottomBarWindow::barLayout() const
-{
-    return m_bar->layout();
 }
 
 void QVBottomBarWindow::resizeToSize(const QSize& contentSize, bool animate)

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+class QHBoxLayout;
 class QVBoxLayout;
 
 namespace vorn {
@@ -26,7 +27,7 @@ public:
 
     BarSize barSize() const { return m_size; }
     QVBoxLayout* contentLayout() const { return m_content; }
-    QLayout* barLayout() const;
+    QHBoxLayout* barLayout() const { return m_barLayout; }
     QVBox* bar() const { return m_bar; }
     // Resizes the window to a content size (the bar added), animated on request.
     void resizeToSize(const QSize& contentSize, bool animate);
@@ -35,6 +36,7 @@ private:
     BarSize m_size;
     QVBoxLayout* m_content = nullptr;
     QVBox* m_bar = nullptr;
+    QHBoxLayout* m_barLayout = nullptr;
 };
 
 } // namespace vorn

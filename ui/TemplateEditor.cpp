@@ -13,16 +13,6 @@
 
 namespace vorn {
 
-namespace {
-
-// The editor's text as the commands see it: line feeds between lines.
-QString editorText(const QPlainTextEdit& editor)
-{
-    return editor.toPlainText();
-}
-
-} // namespace
-
 TemplateEditor::TemplateEditor(EditorCommands::Editor kind, SyntaxDefinition definition, QWidget* parent)
     : QPlainTextEdit(parent), m_kind(kind)
 {
@@ -93,22 +83,19 @@ void TemplateEditor::apply(const EditorCommands::Outcome& outcome)
 void TemplateEditor::indentSelection()
 {
     const QTextCursor c = textCursor();
-    apply(
-        EditorCommands::indent(editorText(*this), c.selectionStart(), c.selectionEnd() - c.selectionStart()));
+    apply(EditorCommands::indent(toPlainText(), c.selectionStart(), c.selectionEnd() - c.selectionStart()));
 }
 
 void TemplateEditor::unindentSelection()
 {
     const QTextCursor c = textCursor();
-    apply(EditorCommands::unindent(editorText(*this), c.selectionStart(),
-                                   c.selectionEnd() - c.selectionStart()));
+    apply(EditorCommands::unindent(toPlainText(), c.selectionStart(), c.selectionEnd() - c.selectionStart()));
 }
 
 void TemplateEditor::commentAction()
 {
     const QTextCursor c = textCursor();
-    apply(EditorCommands::comment(editorText(*this), c.selectionStart(),
-                                  c.selectionEnd() - c.selectionStart(),
+    apply(EditorCommands::comment(toPlainText(), c.selectionStart(), c.selectionEnd() - c.selectionStart(),
                                   EditorCommands::commentMarker(m_kind)));
 }
 

@@ -48,8 +48,7 @@ void TemplateHighlighter::contentsChange(int position, int removed, int added)
     // and one character more than it holds at its end.
     const int engineSize = int(m_colorizer.text().size());
     if (position == 0 && removed >= engineSize) {
-        m_colorizer.setText(plainText(doc->toPlainText()));
-        m_lastRecolored = {0, int(m_colorizer.text().size())};
+        takeWholeText();
         m_forceUntil = -1;
         return;
     }
@@ -63,10 +62,16 @@ void TemplateHighlighter::contentsChange(int position, int removed, int added)
     // Should the reports ever disagree with the document, the engine takes
     // the document's text whole rather than colour a wrong one.
     if (m_colorizer.text().size() != doc->characterCount() - 1) {
-        m_colorizer.setText(plainText(doc->toPlainText()));
-        m_lastRecolored = {0, int(m_colorizer.text().size())};
+        takeWholeText();
         m_forceUntil = m_lastRecolored.end();
     }
+}
+
+void TemplateHighlighter::takeWholeText()
+{
+    // toPlainText already puts line feeds between the paragraphs.
+    m_colorizer.setText(document()->toPlainText());
+    m_lastRecolored = {0, int(m_colorizer.text().size())};
 }
 
 void TemplateHighlighter::highlightBlock(const QString& text)

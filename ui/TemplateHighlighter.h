@@ -31,6 +31,8 @@ protected:
 
 private:
     void contentsChange(int position, int removed, int added);
+    // The engine takes the document's text whole and recolours all of it.
+    void takeWholeText();
     void buildFormats();
 
     SyntaxColorizer m_colorizer;

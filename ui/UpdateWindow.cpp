@@ -54,7 +54,7 @@ UpdateWindow::UpdateWindow(ZRUpdateChecker& checker, QWidget* parent)
     m_download = new QPushButton(this);
     m_download->setObjectName(QStringLiteral("updateDownload"));
     m_download->setDefault(true);
-    auto* bar = static_cast<QHBoxLayout*>(barLayout());
+    QHBoxLayout* bar = barLayout();
     bar->addStretch();
     bar->addWidget(m_later);
     bar->addWidget(m_download);

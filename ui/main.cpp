@@ -84,9 +84,9 @@ int main(int argc, char** argv)
     const QString channelName = InstanceChannel::nameFor(locations.lockFile());
     InstanceLock lock(locations.lockFile());
     if (Status locked = lock.tryLock(); !locked) {
-        if (locked.error().code == ErrorCode::StoreLocked && InstanceChannel::send(channelName, files))
-            return 0;
         if (locked.error().code == ErrorCode::StoreLocked) {
+            if (InstanceChannel::send(channelName, files))
+                return 0;
             QMessageBox box(QMessageBox::Critical, QApplication::applicationDisplayName(),
                             QApplication::translate("main", "Vorn is already running."), QMessageBox::Ok);
             box.setInformativeText(locked.error().reason);
