@@ -7,7 +7,6 @@
 #include "store/ManagedObject.h"
 #include "store/ObjectContext.h"
 #include "store/Settings.h"
-#include "store/UniqueId.h"
 #include "store/UserInterface.h"
 
 #include <QFile>
@@ -64,38 +63,19 @@ QString DesignBuilder::attributeFor(EditorCommands::Editor editor)
 
 ManagedObject* DesignBuilder::duplicateDesign()
 {
-    ObjectContext* context = m_state.context();
     ArrayController& list = m_state.designsController();
     const ManagedObject* original = list.selectedObject();
-    if (!context || !original)
+    if (!original)
         return nullptr;
-    ManagedObject* copy = nullptr;
-    {
-        UndoGroup group(context->undoManager(), tr("Duplicate Design"));
-        copy = context->insertNewObject(Entity::Design);
-        copy->setValue(key::uniqueID, globallyUniqueString());
-        copy->setValue(key::title, tr("%1 copy").arg(original->stringValue(key::title)));
-        for (const char* key : {"invoice", "item", "css"})
-            copy->setValue(QLatin1String(key), original->stringValue(QLatin1String(key)));
-        copy->setValue(key::isDefault, false);
-    }
-    list.addObject(copy);
-    list.rearrangeObjects();
+    ManagedObject* copy =
+        m_designs.insertDesign(tr("Duplicate Design"), tr("%1 copy").arg(original->stringValue(key::title)),
+                               original->stringValue(key::invoice), original->stringValue(key::item),
+                               original->stringValue(key::css));
+    if (!copy)
+        return nullptr;
     list.setSelectedObjects({copy});
     m_designs.save();
     return copy;
-}
-
-QString DesignBuilder::templateText(EditorCommands::Editor editor) const
-{
-    const ManagedObject* design = m_state.designsController().selectedObject();
-    return design ? design->stringValue(attributeFor(editor)) : QString();
-}
-
-void DesignBuilder::setTemplateText(EditorCommands::Editor editor, const QString& text)
-{
-    if (ManagedObject* design = m_state.designsController().selectedObject())
-        setTemplateText(*design, editor, text);
 }
 
 void DesignBuilder::setTemplateText(ManagedObject& design, EditorCommands::Editor editor, const QString& text)

@@ -27,10 +27,8 @@ public:
     // own identity, not the default, selected in the list; saved.
     ManagedObject* duplicateDesign();
 
-    // The selected design's text for an editor, and storing an edit into it
-    // (one undoable change per editing pause is the editor's business).
-    QString templateText(EditorCommands::Editor editor) const;
-    void setTemplateText(EditorCommands::Editor editor, const QString& text);
+    // Stores an editor's text into the design it shows (one undoable change
+    // per editing pause is the editor's business).
     void setTemplateText(ManagedObject& design, EditorCommands::Editor editor, const QString& text);
 
     // Asks for an image file and keeps its data under "prefsLogo". A file

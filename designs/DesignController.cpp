@@ -102,8 +102,7 @@ Status DesignController::loadTemplates()
 
 ManagedObject* DesignController::addDesign()
 {
-    ObjectContext* context = m_state.context();
-    if (!context)
+    if (!m_state.context())
         return nullptr;
     const auto invoice = resourceText(QStringLiteral("Invoice.htm"));
     const auto item = resourceText(QStringLiteral("Item.htm"));
@@ -113,23 +112,34 @@ ManagedObject* DesignController::addDesign()
             Error::make(ErrorCode::FileNotFound, tr("The texts of a new design are missing.")));
         return nullptr;
     }
+    ManagedObject* design = insertDesign(tr("New Design"), tr("New Design"), *invoice, *item, *css);
+    ArrayController& list = m_state.designsController();
+    // The row of this very object: designs may be equal in every value.
+    Q_EMIT editTitleRequested(int(list.arrangedObjects().indexOf(design)));
+    save();
+    return design;
+}
+
+ManagedObject* DesignController::insertDesign(const QString& actionName, const QString& title,
+                                              const QString& invoice, const QString& item, const QString& css)
+{
+    ObjectContext* context = m_state.context();
+    if (!context)
+        return nullptr;
     ManagedObject* design = nullptr;
     {
-        UndoGroup group(context->undoManager(), tr("New Design"));
+        UndoGroup group(context->undoManager(), actionName);
         design = context->insertNewObject(Entity::Design);
         design->setValue(key::uniqueID, globallyUniqueString());
-        design->setValue(key::title, tr("New Design"));
-        design->setValue(key::invoice, *invoice);
-        design->setValue(key::item, *item);
-        design->setValue(key::css, *css);
+        design->setValue(key::title, title);
+        design->setValue(key::invoice, invoice);
+        design->setValue(key::item, item);
+        design->setValue(key::css, css);
         design->setValue(isDefaultKey, false);
     }
     ArrayController& list = m_state.designsController();
     list.addObject(design);
     list.rearrangeObjects();
-    // The row of this very object: designs may be equal in every value.
-    Q_EMIT editTitleRequested(int(list.arrangedObjects().indexOf(design)));
-    save();
     return design;
 }
 

@@ -44,6 +44,10 @@ public:
     // "New Design", added to the list, whose title the window then edits
     // (editTitleRequested); saves.
     ManagedObject* addDesign();
+    // Inserts a design with its own identity that is not the default, as
+    // one undoable action, and adds it to the list. Not saved here.
+    ManagedObject* insertDesign(const QString& actionName, const QString& title, const QString& invoice,
+                                const QString& item, const QString& css);
     // Asks, then deletes the selected design; refuses the default design.
     void deleteDesign();
     // The end of the delete confirmation: 1 is "Delete".

@@ -1,7 +1,5 @@
 #include "designs/EditorCommands.h"
 
-#include "designs/DesignsLog.h"
-
 #include <algorithm>
 
 namespace vorn {
@@ -119,7 +117,6 @@ EditorCommands::Outcome EditorCommands::unindent(const QString& text, int start,
 EditorCommands::Outcome EditorCommands::comment(const QString& text, int start, int length,
                                                 const QString& marker)
 {
-    qCDebug(lcDesigns) << "commentString:" << marker;
     clampSelection(text, start, length);
     Outcome out;
     out.selectionStart = start;

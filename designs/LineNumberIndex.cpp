@@ -2,50 +2,10 @@
 
 #include <QSizeF>
 
+#include <algorithm>
 #include <cmath>
 
 namespace vorn {
-
-QList<int> LineNumberIndex::calculateLines(const QString& text)
-{
-    QList<int> starts{0};
-    const int n = int(text.size());
-    for (int i = 0; i < n; ++i) {
-        const QChar c = text[i];
-        if (c == QLatin1Char('\r') && i + 1 < n && text[i + 1] == QLatin1Char('\n'))
-            continue;
-        if (c == QLatin1Char('\n') || c == QLatin1Char('\r') || c == QChar::ParagraphSeparator ||
-            c == QChar::LineSeparator)
-            starts.append(i + 1);
-    }
-    return starts;
-}
-
-const QList<int>& LineNumberIndex::lineIndices(const QString& text)
-{
-    if (!m_built) {
-        m_lineIndices = calculateLines(text);
-        m_built = true;
-    }
-    return m_lineIndices;
-}
-
-int LineNumberIndex::lineNumberForCharacterIndex(const QList<int>& lineIndices, int index)
-{
-    int left = 0;
-    int right = int(lineIndices.size());
-    while (right - left >= 2) {
-        const int mid = (left + right) / 2;
-        const int start = lineIndices[mid];
-        if (index < start)
-            right = mid;
-        else if (index > start)
-            left = mid;
-        else
-            return mid;
-    }
-    return left;
-}
 
 int LineNumberIndex::requiredThickness(int lineCount, const std::function<qreal(const QString&)>& textWidth)
 {
@@ -58,13 +18,6 @@ QRectF LineNumberIndex::labelRect(qreal rulerWidth, const QSizeF& labelSize, qre
 {
     return {rulerWidth - labelSize.width() - 5, lineTop + (lineHeight - labelSize.height()) / 2,
             labelSize.width(), labelSize.height()};
-}
-
-void LineNumberIndex::setMarkers(const QList<LineMarker>& markers)
-{
-    m_markers.clear();
-    for (const LineMarker& marker : markers)
-        m_markers.insert(marker.lineNumber, marker);
 }
 
 std::optional<LineMarker> LineNumberIndex::markerAtLine(int line) const

@@ -42,7 +42,6 @@ LineNumberRuler::LineNumberRuler(TemplateEditor* editor)
     setAttribute(Qt::WA_OpaquePaintEvent, false);
     connect(editor, &QPlainTextEdit::blockCountChanged, this, &LineNumberRuler::updateThickness);
     connect(editor, &QPlainTextEdit::updateRequest, this, &LineNumberRuler::editorUpdated);
-    connect(editor->document(), &QTextDocument::contentsChanged, this, [this] { m_index.invalidate(); });
     updateThickness();
 }
 

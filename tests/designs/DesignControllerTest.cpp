@@ -1,4 +1,5 @@
 #include "designs/DesignController.h"
+#include "designs/DesignBuilder.h"
 
 #include "documents/InterchangeFile.h"
 #include "documents/KeyedArchive.h"
@@ -39,9 +40,18 @@ protected:
     AppState state{settings, ui, clock, FileLocations{}};
     ObjectContext context{nullptr, clock};
     DesignController designs{state};
+    DesignBuilder builder{state, designs};
     ArrayController& list = state.designsController();
 
     void SetUp() override { state.setContext(&context); }
+
+    QString write(const char* name, const QByteArray& data)
+    {
+        QFile file(dir.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        EXPECT_EQ(file.write(data), data.size());
+        return file.fileName();
+    }
 
     QStringList listedTitles()
     {
@@ -280,11 +290,7 @@ class DesignImportRefused : public DesignTest, public ::testing::WithParamInterf
 TEST_P(DesignImportRefused, NothingChangesAndTheErrorIsShown)
 {
     seed();
-    const QString path = dir.filePath("bad.design");
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly) && f.write(GetParam().data) == GetParam().data.size());
-    f.close();
-    ui.answerPanel(path);
+    ui.answerPanel(write("bad.design", GetParam().data));
     EXPECT_EQ(designs.importDesign(), nullptr);
     ASSERT_EQ(ui.calls("error").size(), 1);
     EXPECT_FALSE(ui.calls("error")[0].title.isEmpty());
@@ -323,6 +329,59 @@ TEST_F(DesignTest, SelectionIsRestoredFromTheSettings)
         designs.restoreSelection();
         EXPECT_EQ(list.selectionIndex(), restored) << stored;
     }
+}
+
+TEST_F(DesignTest, DuplicatingGivesAnEditableCopyThatIsNotTheDefault)
+{
+    seed();
+    list.setSelectionIndexes({0});
+    const ManagedObject* original = list.selectedObject();
+    ManagedObject* copy = builder.duplicateDesign();
+    ASSERT_TRUE(copy);
+    EXPECT_EQ(list.selectedObject(), copy);
+    EXPECT_EQ(copy->stringValue("title"), original->stringValue("title") + " copy");
+    EXPECT_NE(copy->stringValue("uniqueID"), original->stringValue("uniqueID"));
+    EXPECT_FALSE(copy->boolValue("isDefault"));
+    for (const char* key : {"invoice", "item", "css"})
+        EXPECT_EQ(copy->stringValue(key), original->stringValue(key));
+    EXPECT_FALSE(context.hasChanges());
+    EXPECT_EQ(settings.intValue("selectedDesign"), list.arrangedObjects().indexOf(copy));
+}
+
+TEST_F(DesignTest, EditsGoIntoTheShownDesignAndSignalOnlyForTheDefault)
+{
+    seed();
+    int changes = 0;
+    QObject::connect(&builder, &DesignBuilder::designChanged, [&] { ++changes; });
+    ManagedObject* other = list.arrangedObjects()[1];
+    builder.setTemplateText(*other, EditorCommands::StyleSheetEditor, "body {}");
+    EXPECT_EQ(other->stringValue("css"), "body {}");
+    EXPECT_EQ(other->stringValue(DesignBuilder::attributeFor(EditorCommands::StyleSheetEditor)), "body {}");
+    EXPECT_EQ(changes, 0);
+    ManagedObject* current = designs.currentDesign();
+    builder.setTemplateText(*current, EditorCommands::ItemEditor, "<tr></tr>");
+    builder.setTemplateText(*current, EditorCommands::ItemEditor, "<tr></tr>");
+    EXPECT_EQ(current->stringValue("item"), "<tr></tr>");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(DesignTest, ALogoMustBeAnImage)
+{
+    seed();
+    const QByteArray png = QByteArray("\x89PNG\r\n\x1a\n", 8) + QByteArray(20, 'x');
+    const QString text = write("notes.png", "just some words");
+    ui.answerPanel(text);
+    EXPECT_FALSE(builder.chooseLogo());
+    ASSERT_FALSE(ui.calls().isEmpty());
+    EXPECT_EQ(ui.calls().last().title, "The logo was not changed.");
+    EXPECT_EQ(ui.calls().last().text, "“notes.png” is not an image.");
+    EXPECT_FALSE(settings.hasValue("prefsLogo"));
+
+    ui.answerPanel(write("logo.png", png));
+    EXPECT_TRUE(builder.chooseLogo());
+    EXPECT_EQ(settings.dataValue("prefsLogo"), png);
+    EXPECT_FALSE(builder.setLogoFromFile(dir.filePath("missing.png")));
+    EXPECT_EQ(settings.dataValue("prefsLogo"), png);
 }
 
 } // namespace

@@ -8,25 +8,6 @@ using namespace vorn;
 
 namespace {
 
-TEST(LineNumberIndexTest, LineStarts)
-{
-    EXPECT_EQ(LineNumberIndex::calculateLines(""), (QList<int>{0}));
-    EXPECT_EQ(LineNumberIndex::calculateLines("ab"), (QList<int>{0}));
-    // A text ending in a line break has one more, empty, line.
-    EXPECT_EQ(LineNumberIndex::calculateLines("ab\n"), (QList<int>{0, 3}));
-    EXPECT_EQ(LineNumberIndex::calculateLines("a\r\nb\rc\n\n"), (QList<int>{0, 3, 5, 7, 8}));
-}
-
-TEST(LineNumberIndexTest, LineOfACharacter)
-{
-    const QList<int> starts{0, 4, 9, 10, 20};
-    const std::pair<int, int> cases[] = {{0, 0},  {3, 0},  {4, 1},  {8, 1}, {9, 2},
-                                         {10, 3}, {19, 3}, {20, 4}, {99, 4}};
-    for (auto [index, line] : cases)
-        EXPECT_EQ(LineNumberIndex::lineNumberForCharacterIndex(starts, index), line) << index;
-    EXPECT_EQ(LineNumberIndex::lineNumberForCharacterIndex({0}, 5), 0);
-}
-
 TEST(LineNumberIndexTest, ThicknessFitsTheDigitsAndNeverGoesBelow22)
 {
     auto width = [](const QString& digits) { return 6.5 * digits.size(); };

@@ -247,7 +247,8 @@ TEST(SyntaxColorizerTest, ReturnRepeatsTheLeadingTabsAndSpaces)
 
 // Golden files: the colour runs of the built-in templates and style sheets,
 // one line per text line that has runs ("12: 0+4 Tag, 5+3 String").
-// Set VORN_UPDATE_GOLDEN=1 to write them anew after a deliberate change.
+// Set VORN_UPDATE_GOLDEN=1 to write them anew after a deliberate change (the
+// run then fails, so that the difference is reviewed).
 QString runsByLine(const SyntaxColorizer& c)
 {
     QString out;
@@ -293,7 +294,8 @@ TEST_P(GoldenTest, ColourRunsMatchTheGoldenFile)
         QFile out(golden);
         ASSERT_TRUE(out.open(QIODevice::WriteOnly));
         out.write(actual.toUtf8());
-        return;
+        FAIL() << "wrote " << golden.toStdString()
+               << "; review the difference, then run without VORN_UPDATE_GOLDEN";
     }
     QFile expected(golden);
     ASSERT_TRUE(expected.open(QIODevice::ReadOnly)) << golden.toStdString();

@@ -1,6 +1,7 @@
 #include "documents/PaymentQrCode.h"
 #include "einvoice/CiiReader.h"
 #include "tests/einvoice/EInvoiceFixture.h"
+#include "tests/support/TestFiles.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -14,12 +15,6 @@
 
 namespace vorn::test {
 namespace {
-
-QString readText(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 // Runs a program; its standard output, or nothing when it is not installed
 // or failed.

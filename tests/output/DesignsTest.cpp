@@ -2,6 +2,7 @@
 #include "store/PropertyList.h"
 #include "tests/output/OutputFixture.h"
 #include "tests/output/PdfSupport.h"
+#include "tests/support/TestFiles.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -17,12 +18,6 @@
 // PDFs are kept there to be looked at.
 namespace vorn::test {
 namespace {
-
-QString readText(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 struct Design
 {
