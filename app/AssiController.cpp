@@ -5,6 +5,7 @@
 #include "services/NewsletterSubscription.h"
 #include "services/ZRUpdateChecker.h"
 #include "store/Clock.h"
+#include "store/Keys.h"
 #include "store/Settings.h"
 #include "store/UserInterface.h"
 
@@ -18,8 +19,6 @@ const QString isAssiDone = QStringLiteral("isAssiDone");
 const QString assiIndex = QStringLiteral("assiIndex");
 const QString languageDefaults = QStringLiteral("languageDefaults");
 const QString isFirstStoreLoadEverDone = QStringLiteral("isFirstStoreLoadEverDone");
-const QString prefsName = QStringLiteral("prefsName");
-const QString prefsContact = QStringLiteral("prefsContact");
 
 } // namespace
 
@@ -70,22 +69,22 @@ void AssiController::setLanguage(int language)
 
 QString AssiController::companyName() const
 {
-    return settings().stringValue(prefsName);
+    return settings().stringValue(key::prefsName);
 }
 
 void AssiController::setCompanyName(const QString& name)
 {
-    settings().setValue(prefsName, name);
+    settings().setValue(key::prefsName, name);
 }
 
 QString AssiController::contact() const
 {
-    return settings().stringValue(prefsContact);
+    return settings().stringValue(key::prefsContact);
 }
 
 void AssiController::setContact(const QString& contact)
 {
-    settings().setValue(prefsContact, contact);
+    settings().setValue(key::prefsContact, contact);
 }
 
 bool AssiController::checkForUpdates() const

@@ -157,7 +157,7 @@ int pdfAll(CommandContext& c, QStringList args)
         return ExitCode::Failure;
     state.isReminderAction = false;
 
-    const QString company = state.settings().stringValue(QStringLiteral("prefsName"));
+    const QString company = state.settings().stringValue(key::prefsName);
     QSet<QString> used;
     QStringList paths;
     for (ManagedObject* document : std::as_const(documents)) {

@@ -16,7 +16,6 @@ namespace vorn {
 
 namespace {
 
-const QString logoKey = QStringLiteral("prefsLogo");
 // A logo is a picture of a few hundred kilobytes; anything far larger is
 // refused before it is decoded.
 constexpr qint64 maximumLogoSize = 16 * 1024 * 1024;
@@ -122,14 +121,14 @@ Status DesignBuilder::setLogoFromFile(const QString& path)
     const QByteArray data = file.readAll();
     if (!looksLikeImage(data))
         return Error::make(ErrorCode::FileReadCorrupt, tr("“%1” is not an image.").arg(name));
-    m_state.settings().setValue(logoKey, data);
+    m_state.settings().setValue(key::prefsLogo, data);
     Q_EMIT designChanged();
     return {};
 }
 
 void DesignBuilder::removeLogo()
 {
-    m_state.settings().removeValue(logoKey);
+    m_state.settings().removeValue(key::prefsLogo);
     Q_EMIT designChanged();
 }
 

@@ -48,7 +48,7 @@ std::optional<Payment> paymentForDocument(const ManagedObject& document, const S
     payment.cents = qint64(total);
     const QString bic = Iban::normalized(settings.stringValue(key::prefsBIC));
     payment.bic = Iban::isValidBic(bic) ? bic : QString();
-    for (const QString& key : {key::prefsAccountHolder, key::prefsLegalName, QStringLiteral("prefsName")}) {
+    for (const QString& key : {key::prefsAccountHolder, key::prefsLegalName, key::prefsName}) {
         payment.name = limited(settings.stringValue(key), nameLimit);
         if (!payment.name.isEmpty())
             break;

@@ -168,8 +168,8 @@ EInvoiceData EInvoiceData::fromDocument(const ManagedObject& d, const Settings& 
     Party& seller = e.seller;
     seller.name = s.stringValue(key::prefsLegalName).trimmed();
     if (seller.name.isEmpty())
-        seller.name = s.stringValue(QStringLiteral("prefsName")).trimmed();
-    seller.contactName = s.stringValue(QStringLiteral("prefsName")).trimmed();
+        seller.name = s.stringValue(key::prefsName).trimmed();
+    seller.contactName = s.stringValue(key::prefsName).trimmed();
     if (seller.contactName.isEmpty())
         seller.contactName = seller.name;
     seller.street = s.stringValue(key::prefsStreet).trimmed();

@@ -186,6 +186,13 @@ QStringList GUIController::hiddenListColumns() const
     return hidden;
 }
 
+bool GUIController::canHideListColumn(const QString& columnKey) const
+{
+    const QStringList hidden = hiddenListColumns();
+    return listColumnKeys().contains(columnKey) && !hidden.contains(columnKey) &&
+           hidden.size() + 1 < listColumnKeys().size();
+}
+
 void GUIController::setListColumnShown(const QString& columnKey, bool shown)
 {
     if (!listColumnKeys().contains(columnKey))
@@ -193,7 +200,7 @@ void GUIController::setListColumnShown(const QString& columnKey, bool shown)
     QStringList hidden = hiddenListColumns();
     if (shown)
         hidden.removeAll(columnKey);
-    else if (!hidden.contains(columnKey) && hidden.size() + 1 < listColumnKeys().size())
+    else if (canHideListColumn(columnKey))
         hidden << columnKey;
     m_state.settings().setValue(key::listHiddenColumns, hidden.join(QLatin1Char(',')));
 }

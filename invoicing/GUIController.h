@@ -86,6 +86,7 @@ public:
     // (listHiddenColumns, the keys joined by commas).
     static QStringList listColumnKeys();
     QStringList hiddenListColumns() const;
+    bool canHideListColumn(const QString& key) const;
     void setListColumnShown(const QString& key, bool shown);
 
     void showPreferences();

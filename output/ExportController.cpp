@@ -39,8 +39,7 @@ QString ExportController::jobTitle() const
 QString ExportController::jobTitle(const Settings& settings, const ManagedObject* document)
 {
     return QStringLiteral("%1 | %2 | %3")
-        .arg(settings.stringValue(QStringLiteral("prefsName")),
-             document ? document->stringValue(key::title) : QString(),
+        .arg(settings.stringValue(key::prefsName), document ? document->stringValue(key::title) : QString(),
              document ? document->stringValue(key::number) : QString());
 }
 

@@ -2,6 +2,7 @@
 
 #include "output/OutputLog.h"
 #include "store/AtomicFile.h"
+#include "store/Keys.h"
 #include "store/Result.h"
 #include "store/Settings.h"
 
@@ -22,7 +23,7 @@ QString Logo::notice()
 
 QString Logo::element(const Settings& settings, const QString& logoPath)
 {
-    const QByteArray data = settings.dataValue(QStringLiteral("prefsLogo"));
+    const QByteArray data = settings.dataValue(key::prefsLogo);
     if (data.isEmpty())
         return notice();
     // Decoding and encoding is done once per logo, not once per document.

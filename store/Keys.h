@@ -145,6 +145,9 @@ inline const QString alwaysShowRecentItems = QStringLiteral("alwaysShowRecentIte
 inline const QString alwaysShowRecentShipping = QStringLiteral("alwaysShowRecentShipping");
 
 // Settings of e-invoices and payments: the seller's data, empty until filled in
+inline const QString prefsName = QStringLiteral("prefsName");
+inline const QString prefsContact = QStringLiteral("prefsContact");
+inline const QString prefsLogo = QStringLiteral("prefsLogo");
 inline const QString prefsLegalName = QStringLiteral("prefsLegalName");
 inline const QString prefsStreet = QStringLiteral("prefsStreet");
 inline const QString prefsPostcode = QStringLiteral("prefsPostcode");

@@ -104,7 +104,6 @@ void DocumentListView::setModel(QAbstractItemModel* model)
         return metrics.horizontalAdvance(sample) + 2 * (kCellPadding - 3) + 8;
     };
     header->setSectionResizeMode(QHeaderView::Interactive);
-    header->setSectionResizeMode(DocumentListModel::ClientColumn, QHeaderView::Stretch);
     header->resizeSection(DocumentListModel::NumberColumn, tight(QStringLiteral("INV-2026")));
     header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Consulting, November 2026")));
     header->resizeSection(DocumentListModel::DateColumn, tight(QStringLiteral("00/00/00")));

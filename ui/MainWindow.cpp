@@ -583,7 +583,7 @@ void MainWindow::fillColumnsMenu(QMenu* menu)
         action->setCheckable(true);
         action->setChecked(!hidden.contains(k));
         // The last column shown stays.
-        action->setEnabled(hidden.contains(k) || hidden.size() + 1 < keys.size());
+        action->setEnabled(hidden.contains(k) || m_app.invoicing().gui().canHideListColumn(k));
         connect(action, &QAction::toggled, this, [this, k](bool shown) {
             m_app.invoicing().gui().setListColumnShown(k, shown);
             applyListColumns();

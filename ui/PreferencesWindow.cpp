@@ -293,8 +293,8 @@ PreferencesForm* PreferencesWindow::companyPane()
 {
     auto* f = new PreferencesForm(m_app.settings());
     f->addSection(tr("Your company"));
-    f->addLine(QStringLiteral("prefsName"), tr("&Name:"));
-    f->addText(QStringLiteral("prefsContact"), tr("&Contact:"), 5);
+    f->addLine(key::prefsName, tr("&Name:"));
+    f->addText(key::prefsContact, tr("&Contact:"), 5);
     f->addLine(QStringLiteral("prefsLetterbox"), tr("&Letterbox line:"));
     f->addLine(QStringLiteral("prefsSlogan"), tr("&Slogan:"));
     auto* logoRow = new QWidget(f);
@@ -340,7 +340,7 @@ void PreferencesWindow::updateLogo()
     if (!m_logo)
         return;
     QPixmap logo;
-    if (logo.loadFromData(m_app.settings().dataValue(QStringLiteral("prefsLogo"))))
+    if (logo.loadFromData(m_app.settings().dataValue(key::prefsLogo)))
         m_logo->setPixmap(
             logo.scaled(m_logo->size() - QSize(6, 6), Qt::KeepAspectRatio, Qt::SmoothTransformation));
     else

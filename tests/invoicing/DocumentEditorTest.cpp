@@ -154,6 +154,7 @@ TEST_F(DocumentEditorTest, HiddenListColumnsAreRememberedAndOneAlwaysStays)
         gui.setListColumnShown(step.key, step.shown);
         EXPECT_EQ(gui.hiddenListColumns(), step.hidden) << step.key.toStdString();
     }
+    EXPECT_FALSE(gui.canHideListColumn(key::amount));
     settings.setValue(key::listHiddenColumns, QStringLiteral("number,title,address,date,amount,misc3"));
     EXPECT_EQ(gui.hiddenListColumns(), (QStringList{key::number, key::title, key::address, key::date}));
 }

@@ -1,6 +1,7 @@
 #include "invoicing/Calculator.h"
 #include "output/DesignPreview.h"
 #include "tests/output/OutputFixture.h"
+#include "tests/support/TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -13,12 +14,6 @@
 // change, then review the difference.
 namespace vorn::test {
 namespace {
-
-QString readFile(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
-}
 
 QString golden(const QString& name)
 {
@@ -37,9 +32,9 @@ class Golden : public OutputFixture, public ::testing::WithParamInterface<Golden
 
 TEST_P(Golden, HtmlMatchesThePinnedFile)
 {
-    addDesign(readFile(golden(QStringLiteral("design/page.html"))),
-              readFile(golden(QStringLiteral("design/item.html"))),
-              readFile(golden(QStringLiteral("design/style.css"))));
+    addDesign(readText(golden(QStringLiteral("design/page.html"))),
+              readText(golden(QStringLiteral("design/item.html"))),
+              readText(golden(QStringLiteral("design/style.css"))));
     QString html = GetParam().produce(*this);
     html.replace(environment.home(), QStringLiteral("$HOME"));
     const QString path = golden(QString::fromLatin1(GetParam().file));
@@ -50,7 +45,7 @@ TEST_P(Golden, HtmlMatchesThePinnedFile)
         FAIL() << "wrote " << path.toStdString()
                << "; review the difference, then run without VORN_UPDATE_GOLDEN";
     }
-    EXPECT_EQ(html, readFile(path)) << "differs from " << path.toStdString();
+    EXPECT_EQ(html, readText(path)) << "differs from " << path.toStdString();
 }
 
 void items(OutputFixture& f, ManagedObject* d)
