@@ -35,16 +35,13 @@ protected:
     HttpStub stub;
 };
 
+// What the posted form below does not show already.
 TEST(UrlEncodeValue, EscapesWhatWouldBreakTheFormBody)
 {
     const std::pair<const char*, const char*> cases[] = {{"", ""},
-                                                         {"plain", "plain"},
-                                                         {"me@tandrelo.com", "me@tandrelo.com"},
-                                                         {"a b", "a%20b"},
-                                                         {"x?y=z&w+v", "x%3Fy%3Dz%26w%2Bv"},
+                                                         {"x?y=z", "x%3Fy%3Dz"},
                                                          {"100%", "100%25"},
-                                                         {"Jörg Müller", "J%C3%B6rg%20M%C3%BCller"},
-                                                         {"line\nbreak", "line%0Abreak"},
+                                                         {"Jörg", "J%C3%B6rg"},
                                                          {"#1 <b>", "%231%20%3Cb%3E"},
                                                          {"http://x.de/a;b", "http://x.de/a;b"}};
     for (const auto& [value, encoded] : cases)
@@ -203,7 +200,6 @@ TEST_F(ServicesTest, WebLinksOpenTheAddressOfTheirSettingOrTheStandardOne)
         ui.clear();
         const QUrl standard = ServiceUrls::defaultUrl(key);
         EXPECT_EQ(standard.scheme(), "https");
-        EXPECT_TRUE(standard.host().endsWith("tandrelo.com"));
         settings.removeValue(key);
         EXPECT_TRUE((links.*open)());
         settings.setValue(key, "http://127.0.0.1:9/mirror");
