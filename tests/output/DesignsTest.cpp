@@ -31,9 +31,8 @@ struct Design
 Design builtIn(int n)
 {
     const QString folder = QStringLiteral(VORN_DESIGNS_DIR "/Temp00%1").arg(n);
-    return {folder, readText(folder + QStringLiteral("/title.txt")).trimmed(),
-            readText(folder + QStringLiteral("/invoice.html")),
-            readText(folder + QStringLiteral("/item.html")), readText(folder + QStringLiteral("/style.css"))};
+    return {folder, readText(folder + "/title.txt").trimmed(), readText(folder + "/invoice.html"),
+            readText(folder + "/item.html"), readText(folder + "/style.css")};
 }
 
 struct Variant
@@ -82,7 +81,7 @@ public:
     void use(const Design& design)
     {
         for (ManagedObject* d : context.fetch(Entity::Design))
-            d->setValue(QStringLiteral("isDefault"), false);
+            d->setValue("isDefault", false);
         addDesign(design.page, design.item, design.css);
     }
 
@@ -103,20 +102,19 @@ public:
                   "International Ltd.\n7 Quarry Lane, Suite 400\nFernwood CA 93024\nUnited States"
                 : "Erin Holloway\nQuarry & Sons Ltd.\n7 Quarry Lane\nFernwood CA 93024",
             "clientNumber", "C-1047", "dispatchNumber", v.shipping ? "UPS 1Z 999 AA1" : "", "subject",
-            v.longTexts ? longText : QStringLiteral("Spring campaign"), "conditions",
-            settings.stringValue(QStringLiteral("tempInvConditions")), "footer",
+            v.longTexts ? longText : "Spring campaign", "conditions",
+            settings.stringValue("tempInvConditions"), "footer",
             "Harbour Bank · IBAN GB00 HARB 1234 5678 9012 34 · BIC HARBGB2L\nThank you for your business!");
         const float rates[3] = {0.07f, 0.02f, 0.01f};
         for (int i = 1; i <= v.items; ++i) {
-            ManagedObject* item =
-                addItem(d, "title",
-                        QStringLiteral("Item-%1 %2")
-                            .arg(i, 2, 10, QLatin1Char('0'))
-                            .arg(v.longTexts && i == 2 ? longText : QStringLiteral("Design work")),
-                        "unitCount", float(i % 4 + 1), "unit", "h", "baseAmount", 45.0f + float(i * 7 % 90),
-                        "sku", QStringLiteral("DW-%1").arg(100 + i));
+            ManagedObject* item = addItem(d, "title",
+                                          QString("Item-%1 %2")
+                                              .arg(i, 2, 10, QLatin1Char('0'))
+                                              .arg(v.longTexts && i == 2 ? longText : "Design work"),
+                                          "unitCount", float(i % 4 + 1), "unit", "h", "baseAmount",
+                                          45.0f + float(i * 7 % 90), "sku", QString("DW-%1").arg(100 + i));
             if (v.subtitles || v.longTexts)
-                assign(*item, "subtitle", QStringLiteral("Concepts and layout, %1 pages").arg(i + 2));
+                assign(*item, "subtitle", QString("Concepts and layout, %1 pages").arg(i + 2));
             for (int t = 0; t < 3; ++t) {
                 const QString n = QString::number(t + 1);
                 assign(*item, "isTax" + n + "Applied", t == 0 ? !v.noTaxes : v.allTaxes, "tax" + n + "Title",
@@ -145,7 +143,7 @@ public:
     // Renders the pages in parallel; the results in the order of the pages.
     QList<Result<QByteArray>> renderAll(const QStringList& pages, int paper)
     {
-        settings.setValue(QStringLiteral("tempPaperSize"), paper);
+        settings.setValue("tempPaperSize", paper);
         renderer.setParallelPages(3);
         QList<std::optional<Result<QByteArray>>> results(pages.size());
         int done = 0;
@@ -170,10 +168,10 @@ public:
         if (folder.isEmpty())
             return;
         QDir().mkpath(folder);
-        QFile file(QDir(folder).filePath(name + QStringLiteral(".pdf")));
+        QFile file(QDir(folder).filePath(name + ".pdf"));
         if (file.open(QIODevice::WriteOnly))
             file.write(pdf);
-        QFile page(QDir(folder).filePath(name + QStringLiteral(".html")));
+        QFile page(QDir(folder).filePath(name + ".html"));
         if (page.open(QIODevice::WriteOnly))
             page.write(html.toUtf8());
     }
@@ -187,14 +185,14 @@ public:
         EXPECT_NEAR(pdf.pageSize().width(), paper.width(), 1.0) << name.toStdString();
         EXPECT_NEAR(pdf.pageSize().height(), paper.height(), 1.0) << name.toStdString();
         // Text extraction may space letters apart: compare without spaces.
-        static const QRegularExpression space(QStringLiteral("\\s+"));
-        const QString header = settings.stringValue(QStringLiteral("locDescription")).remove(space);
-        const QString totalLabel = settings.stringValue(QStringLiteral("locTotal")).remove(space);
+        static const QRegularExpression space("\\s+");
+        const QString header = settings.stringValue("locDescription").remove(space);
+        const QString totalLabel = settings.stringValue("locTotal").remove(space);
         int lastRowPage = -1;
         int totalPage = -1;
         for (int page = 0; page < pdf.pageCount(); ++page) {
             const QString text = pdf.text(page).remove(space);
-            static const QRegularExpression row(QStringLiteral("Item-(\\d\\d)"));
+            static const QRegularExpression row("Item-(\\d\\d)");
             bool rows = false;
             for (auto it = row.globalMatch(text); it.hasNext();) {
                 const int n = it.next().captured(1).toInt();
@@ -211,7 +209,7 @@ public:
         }
         const QString all = pdf.allText().remove(space);
         for (int i = 1; i <= items; ++i)
-            EXPECT_EQ(all.count(QStringLiteral("Item-%1").arg(i, 2, 10, QLatin1Char('0'))), 1)
+            EXPECT_EQ(all.count(QString("Item-%1").arg(i, 2, 10, QLatin1Char('0'))), 1)
                 << name.toStdString() << " row " << i;
         ASSERT_GE(totalPage, 0) << name.toStdString() << " has no total";
         if (items > 0) {
@@ -236,15 +234,14 @@ TEST_P(BuiltInDesigns, PrintEveryDocumentCompletely)
         for (const Variant& v : variants) {
             make(v);
             const QString html = preview.invoiceHTMLString();
-            static const QRegularExpression token(QStringLiteral("%[A-Z][A-Z0-9]*%"));
+            static const QRegularExpression token("%[A-Z][A-Z0-9]*%");
             EXPECT_FALSE(token.match(html).hasMatch())
                 << design.title.toStdString() << " " << v.name << " leaves "
                 << token.match(html).captured().toStdString();
             pages << html;
-            names << QStringLiteral("Temp00%1-%2-%3")
+            names << QString("Temp00%1-%2-%3")
                          .arg(GetParam())
-                         .arg(QLatin1String(v.name),
-                              paper == 2 ? QStringLiteral("a4") : QStringLiteral("letter"));
+                         .arg(QLatin1String(v.name), paper == 2 ? "a4" : "letter");
             counts << v.items;
         }
         // Documents whose totals fall around a page break.
@@ -252,10 +249,7 @@ TEST_P(BuiltInDesigns, PrintEveryDocumentCompletely)
             Variant v{"sweep", 1, n, false, false, false, true, 0};
             make(v);
             pages << preview.invoiceHTMLString();
-            names << QStringLiteral("Temp00%1-sweep%2-%3")
-                         .arg(GetParam())
-                         .arg(n)
-                         .arg(paper == 2 ? "a4" : "letter");
+            names << QString("Temp00%1-sweep%2-%3").arg(GetParam()).arg(n).arg(paper == 2 ? "a4" : "letter");
             counts << n;
         }
         const QList<Result<QByteArray>> pdfs = renderAll(pages, paper);

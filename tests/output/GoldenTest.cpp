@@ -32,11 +32,10 @@ class Golden : public OutputFixture, public ::testing::WithParamInterface<Golden
 
 TEST_P(Golden, HtmlMatchesThePinnedFile)
 {
-    addDesign(readText(golden(QStringLiteral("design/page.html"))),
-              readText(golden(QStringLiteral("design/item.html"))),
-              readText(golden(QStringLiteral("design/style.css"))));
+    addDesign(readText(golden("design/page.html")), readText(golden("design/item.html")),
+              readText(golden("design/style.css")));
     QString html = GetParam().produce(*this);
-    html.replace(environment.home(), QStringLiteral("$HOME"));
+    html.replace(environment.home(), "$HOME");
     const QString path = golden(QString::fromLatin1(GetParam().file));
     if (qEnvironmentVariableIntValue("VORN_UPDATE_GOLDEN")) {
         QFile file(path);
@@ -70,11 +69,10 @@ QString computed(OutputFixture& f)
 ManagedObject* invoice(OutputFixture& f, int kind)
 {
     ManagedObject* d = f.addDocument(
-        kind,
-        values({"address", "Erin Holloway\nQuarry & Sons\n7 Quarry Lane", "clientNumber", "C-42",
-                "dispatchNumber", "DHL 123", "subject", "Re: %TOTAL% for %COMPANY%, %LOCDUE%", "conditions",
-                "Within 14 days.\nLate: %LOCOVERDUE%", "footer", "Bank: Harbour Bank\nIBAN: XX00 1234",
-                "tax1Percent", 0.07f, "tax2Percent", 0.05f, "tax3Percent", 0.01f}));
+        kind, "address", "Erin Holloway\nQuarry & Sons\n7 Quarry Lane", "clientNumber", "C-42",
+        "dispatchNumber", "DHL 123", "subject", "Re: %TOTAL% for %COMPANY%, %LOCDUE%", "conditions",
+        "Within 14 days.\nLate: %LOCOVERDUE%", "footer", "Bank: Harbour Bank\nIBAN: XX00 1234", "tax1Percent",
+        0.07f, "tax2Percent", 0.05f, "tax3Percent", 0.01f);
     items(f, d);
     f.select(d);
     return d;
@@ -83,7 +81,7 @@ ManagedObject* invoice(OutputFixture& f, int kind)
 const GoldenCase cases[] = {
     {"invoice.html",
      [](OutputFixture& f) {
-         f.settings.setValue(QStringLiteral("prefsLogo"), OutputFixture::pngData());
+         f.settings.setValue("prefsLogo", OutputFixture::pngData());
          assign(*invoice(f, 1), "isDiscountEnabled", true, "discountKind", 1, "discountPercent", 0.1f,
                 "hasDiscountSubtitle", true, "discountTitle", "Loyalty", "discountSubtitle", "ten years",
                 "isShippingEnabled", true, "shippingTitle", "Courier", "hasShippingSubtitle", true,
@@ -102,9 +100,8 @@ const GoldenCase cases[] = {
     {"reminder.html",
      [](OutputFixture& f) {
          invoice(f, 1);
-         f.preview.setReminderTexts({QStringLiteral("Payment Reminder"),
-                                     QStringLiteral("Still open.\nPlease pay within 7 days."),
-                                     QStringLiteral("Thank you.")});
+         f.preview.setReminderTexts(
+             {"Payment Reminder", "Still open.\nPlease pay within 7 days.", "Thank you."});
          f.state.isReminderAction = true;
          return computed(f);
      }},
@@ -119,7 +116,7 @@ const GoldenCase cases[] = {
 
 INSTANTIATE_TEST_SUITE_P(Documents, Golden, ::testing::ValuesIn(cases), [](const auto& info) {
     QString name = QString::fromLatin1(info.param.file);
-    return name.remove(QLatin1Char('-')).remove(QStringLiteral(".html")).toStdString();
+    return name.remove(QLatin1Char('-')).remove(".html").toStdString();
 });
 
 } // namespace

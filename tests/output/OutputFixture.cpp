@@ -26,7 +26,7 @@ OutputFixture::OutputFixture()
     state.setContext(&context);
     state.pdfPath = locations.scratchPdf();
     for (const char* key : labels)
-        settings.setValue(QLatin1String(key), QStringLiteral("{%1}").arg(QLatin1String(key)));
+        settings.setValue(QLatin1String(key), QString("{%1}").arg(QLatin1String(key)));
     assign(settings, "locPageOf", "Page %ld of %ld", "prefsName", "Tandrelo Studio", "prefsSlogan",
            "Type & Layout", "prefsContact", "12 Harbour Road\nPortsmouth\nhello@tandrelo.test",
            "prefsLetterbox", "Tandrelo Studio · 12 Harbour Road · Portsmouth", "prefsDatePattern",
@@ -40,12 +40,6 @@ OutputFixture::~OutputFixture()
     state.setContext(nullptr);
 }
 
-void OutputFixture::setValues(ManagedObject* object, const QVariantMap& values)
-{
-    for (auto it = values.cbegin(); it != values.cend(); ++it)
-        object->setValue(it.key(), it.value());
-}
-
 ManagedObject* OutputFixture::addDesign(const QString& page, const QString& item, const QString& css,
                                         bool isDefault)
 {
@@ -54,20 +48,18 @@ ManagedObject* OutputFixture::addDesign(const QString& page, const QString& item
     return design;
 }
 
-ManagedObject* OutputFixture::addDocument(int kind, const QVariantMap& values)
+ManagedObject* OutputFixture::newDocument(int kind)
 {
     ManagedObject* document = context.insertNewObject(Entity::Invoice);
     assign(*document, "kind", kind, "status", 0, "title", kind ? "Invoice" : "Quote", "number", "INV-2025-17",
            "currency", "EUR", "date", utc(2025, 3, 5, 10), "due", utc(2025, 3, 19, 10));
-    setValues(document, values);
     return document;
 }
 
-ManagedObject* OutputFixture::addItem(ManagedObject* document, const QVariantMap& values)
+ManagedObject* OutputFixture::newItem(ManagedObject* document)
 {
     ManagedObject* item = context.insertNewObject(Entity::Item);
-    setValues(item, values);
-    document->insertObject(QStringLiteral("items"), item);
+    document->insertObject("items", item);
     return item;
 }
 
@@ -81,7 +73,7 @@ void OutputFixture::select(ManagedObject* document)
 QString OutputFixture::html()
 {
     QString text = preview.invoiceHTMLString();
-    text.replace(environment.home(), QStringLiteral("$HOME"));
+    text.replace(environment.home(), "$HOME");
     return text;
 }
 

@@ -28,22 +28,21 @@ public:
 
     ManagedObject* addDesign(const QString& page, const QString& item, const QString& css = {},
                              bool isDefault = true);
-    ManagedObject* addDocument(int kind, const QVariantMap& values = {});
-    // addDocument(kind, key, value, key, value ...)
-    template <class... Values>
-    ManagedObject* addDocument(int kind, const QString& key, const Values&... values)
+    // addDocument(kind, key, value, key, value ...): an invoice (kind 1) or
+    // quote (0) numbered INV-2025-17 with the given values.
+    template <class... Values> ManagedObject* addDocument(int kind, const Values&... values)
     {
-        ManagedObject* document = addDocument(kind);
-        assign(*document, key, values...);
+        ManagedObject* document = newDocument(kind);
+        if constexpr (sizeof...(values) > 0)
+            assign(*document, values...);
         return document;
     }
-    ManagedObject* addItem(ManagedObject* document, const QVariantMap& values);
     // addItem(document, key, value, key, value ...)
-    template <class... Values>
-    ManagedObject* addItem(ManagedObject* document, const QString& key, const Values&... values)
+    template <class... Values> ManagedObject* addItem(ManagedObject* document, const Values&... values)
     {
-        ManagedObject* item = addItem(document, QVariantMap());
-        assign(*item, key, values...);
+        ManagedObject* item = newItem(document);
+        if constexpr (sizeof...(values) > 0)
+            assign(*item, values...);
         return item;
     }
     void select(ManagedObject* document);
@@ -51,7 +50,8 @@ public:
     QString html();
     // A small PNG of one colour, as for the logo setting.
     static QByteArray pngData(int width = 8, int height = 4, QColor colour = QColor(200, 40, 40));
-    void setValues(ManagedObject* object, const QVariantMap& values);
+    ManagedObject* newDocument(int kind);
+    ManagedObject* newItem(ManagedObject* document);
 
     TestEnvironment environment;
     FileLocations locations;

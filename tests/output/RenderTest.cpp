@@ -2,23 +2,15 @@
 #include "tests/output/PdfSupport.h"
 
 #include <QDir>
-#include <QEventLoop>
 #include <QFile>
 #include <QRegularExpression>
 #include <QSignalSpy>
 #include <QTcpServer>
 #include <QTcpSocket>
-#include <QTimer>
+#include <QTest>
 
 namespace vorn::test {
 namespace {
-
-void wait(int ms)
-{
-    QEventLoop loop;
-    QTimer::singleShot(ms, &loop, &QEventLoop::quit);
-    loop.exec();
-}
 
 const char* const tablePage = R"(<!DOCTYPE html>
 <html><head><meta charset="utf-8"><style>%CSS%</style></head><body>
@@ -33,10 +25,10 @@ public:
     ManagedObject* documentWithItems(int count)
     {
         addDesign(QString::fromLatin1(tablePage), QString::fromLatin1(tableRow),
-                  QStringLiteral("body{font-family:sans-serif} td{padding:4pt}"));
+                  "body{font-family:sans-serif} td{padding:4pt}");
         ManagedObject* d = addDocument(1, "address", "Erin Holloway\n7 Quarry Lane", "amount", 1234.5f);
         for (int i = 1; i <= count; ++i)
-            addItem(d, "title", QStringLiteral("Item-%1-end").arg(i), "amount", float(i));
+            addItem(d, "title", QString("Item-%1-end").arg(i), "amount", float(i));
         select(d);
         return d;
     }
@@ -65,16 +57,16 @@ class Papers : public Rendering, public ::testing::WithParamInterface<PaperCase>
 TEST_P(Papers, PrintOnThePaperOfTheSettings)
 {
     documentWithItems(3);
-    settings.setValue(QStringLiteral("tempPaperSize"), GetParam().setting);
+    settings.setValue("tempPaperSize", GetParam().setting);
     PdfInspector pdf(render(preview.invoiceHTMLString()));
     ASSERT_TRUE(pdf.isValid());
     EXPECT_EQ(pdf.pageCount(), 1);
     EXPECT_NEAR(pdf.pageSize().width(), GetParam().width, 1.0);
     EXPECT_NEAR(pdf.pageSize().height(), GetParam().height, 1.0);
     const QString text = pdf.allText();
-    EXPECT_TRUE(text.contains(QStringLiteral("Invoice INV-2025-17"))) << text.toStdString();
-    EXPECT_TRUE(text.contains(QStringLiteral("Item-3-end")));
-    EXPECT_TRUE(text.contains(QStringLiteral("{locTotal} 1,234.50 EUR")));
+    EXPECT_TRUE(text.contains("Invoice INV-2025-17")) << text.toStdString();
+    EXPECT_TRUE(text.contains("Item-3-end"));
+    EXPECT_TRUE(text.contains("{locTotal} 1,234.50 EUR"));
 }
 
 INSTANTIATE_TEST_SUITE_P(TempPaperSize, Papers,
@@ -89,11 +81,11 @@ TEST_F(Rendering, AFiveThousandItemDocumentPrintsWhole)
     PdfInspector pdf(render(preview.invoiceHTMLString()));
     ASSERT_TRUE(pdf.isValid());
     EXPECT_GT(pdf.pageCount(), 50);
-    static const QRegularExpression space(QStringLiteral("\\s+"));
+    static const QRegularExpression space("\\s+");
     const QString text = pdf.allText().remove(space);
-    EXPECT_EQ(text.count(QStringLiteral("-end")), 5000);
-    EXPECT_TRUE(text.contains(QStringLiteral("Item-5000-end")));
-    EXPECT_TRUE(pdf.text(pdf.pageCount() - 1).contains(QStringLiteral("1,234.50")));
+    EXPECT_EQ(text.count("-end"), 5000);
+    EXPECT_TRUE(text.contains("Item-5000-end"));
+    EXPECT_TRUE(pdf.text(pdf.pageCount() - 1).contains("1,234.50"));
 }
 
 TEST_F(Rendering, TheMarginsAreFortyPointsAndSixtyAtTheBottom)
@@ -132,7 +124,7 @@ TEST_F(Rendering, NothingOfADocumentReachesTheNetwork)
             socket->close();
         }
     });
-    const QString u = QStringLiteral("http://127.0.0.1:%1").arg(server.serverPort());
+    const QString u = QString("http://127.0.0.1:%1").arg(server.serverPort());
     QString html = QStringLiteral(
         "<html><head><link rel=preconnect href='U/pc'><link rel=dns-prefetch href='U/'>"
         "<link rel=prefetch href='U/pf'><link rel=preload as=image href='U/pl.png'><link rel=stylesheet "
@@ -148,13 +140,12 @@ TEST_F(Rendering, NothingOfADocumentReachesTheNetwork)
         "<svg><image href='U/svg.png' width=10 height=10 /></svg><a ping='U/ping' href='U/link'>link</a>"
         "<form action='U/form'><input type=image src='U/input.png'></form></body></html>");
     html.replace(QLatin1Char('U'), u);
-    QSignalSpy blocked(&renderer, &PdfRenderer::requestBlocked);
     PdfInspector pdf(render(html));
-    wait(800);
+    QTest::qWait(800);
     EXPECT_EQ(connections, 0);
     ASSERT_TRUE(pdf.isValid());
-    EXPECT_TRUE(pdf.allText().contains(QStringLiteral("LOCKED-DOWN")));
-    EXPECT_FALSE(pdf.allText().contains(QStringLiteral("SCRIPT-RAN")));
+    EXPECT_TRUE(pdf.allText().contains("LOCKED-DOWN"));
+    EXPECT_FALSE(pdf.allText().contains("SCRIPT-RAN"));
 }
 
 int countPixels(const QImage& image, QRgb colour)
@@ -181,14 +172,14 @@ TEST_F(Rendering, ImagesOfStylesArePrinted)
 
 TEST_F(Rendering, OnlyTheLogoFileLoads)
 {
-    addDesign(QStringLiteral("<html><body>%LOGO% <img src=\"file://%1\" width=80 height=80></body></html>")
-                  .arg(QDir(environment.home()).filePath(QStringLiteral("other.png"))),
+    addDesign(QString("<html><body>%LOGO% <img src=\"file://%1\" width=80 height=80></body></html>")
+                  .arg(QDir(environment.home()).filePath("other.png")),
               {});
-    QFile other(QDir(environment.home()).filePath(QStringLiteral("other.png")));
+    QFile other(QDir(environment.home()).filePath("other.png"));
     ASSERT_TRUE(other.open(QIODevice::WriteOnly));
     other.write(pngData(20, 20, QColor(30, 60, 220)));
     other.close();
-    settings.setValue(QStringLiteral("prefsLogo"), pngData(80, 80, QColor(220, 30, 30)));
+    settings.setValue("prefsLogo", pngData(80, 80, QColor(220, 30, 30)));
     select(addDocument(1));
 
     PdfInspector pdf(render(preview.invoiceHTMLString()));
@@ -199,21 +190,21 @@ TEST_F(Rendering, OnlyTheLogoFileLoads)
 
 TEST_F(Rendering, HugeDocumentsLoadFromATemporaryFile)
 {
-    QString html = QStringLiteral("<html><body><div style=\"display:none\">");
-    const QString filler = QStringLiteral("<p>filler text of a very long document</p>");
+    QString html = "<html><body><div style=\"display:none\">";
+    const QString filler = "<p>filler text of a very long document</p>";
     while (html.size() < PdfRenderer::inlineHtmlLimit + 200 * 1000)
         html += filler;
-    html += QStringLiteral("</div><h1>HUGE-END</h1></body></html>");
+    html += "</div><h1>HUGE-END</h1></body></html>";
     PdfInspector pdf(render(html));
     ASSERT_TRUE(pdf.isValid());
-    EXPECT_TRUE(pdf.allText().contains(QStringLiteral("HUGE-END")));
-    EXPECT_TRUE(QDir(QDir::tempPath()).entryList({QStringLiteral("vorn-render-*")}, QDir::Dirs).size() >= 1);
+    EXPECT_TRUE(pdf.allText().contains("HUGE-END"));
+    EXPECT_TRUE(QDir(QDir::tempPath()).entryList({"vorn-render-*"}, QDir::Dirs).size() >= 1);
 }
 
 TEST_F(Rendering, GarbageStylesStillGiveAPage)
 {
-    addDesign(QStringLiteral("<style>%CSS%</style><p>STYLED-%NUMBER%</p>"), {},
-              QStringLiteral("}}}{{{ body { color: ;;; font: 9999px/-3 \"\\\"; @media { { { </style><b>"));
+    addDesign("<style>%CSS%</style><p>STYLED-%NUMBER%</p>", {},
+              "}}}{{{ body { color: ;;; font: 9999px/-3 \"\\\"; @media { { { </style><b>");
     select(addDocument(1));
     PdfInspector pdf(render(preview.invoiceHTMLString()));
     ASSERT_TRUE(pdf.isValid());
@@ -234,31 +225,31 @@ TEST_F(Rendering, ThePreviewWritesThePdfAndReportsIt)
     EXPECT_EQ(ready.first().first().toString(), state.pdfPath);
     EXPECT_FALSE(preview.isGenerating());
     EXPECT_EQ(generating.count(), 2);
-    EXPECT_TRUE(settings.boolValue(QStringLiteral("isMainPreviewAction")));
+    EXPECT_TRUE(settings.boolValue("isMainPreviewAction"));
     QFile file(state.pdfPath);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     PdfInspector pdf(file.readAll());
-    EXPECT_TRUE(pdf.allText().contains(QStringLiteral("Item-2-end")));
+    EXPECT_TRUE(pdf.allText().contains("Item-2-end"));
 
-    preview.generateReminder({QStringLiteral("Second Notice"), {}, {}});
+    preview.generateReminder({"Second Notice", {}, {}});
     EXPECT_TRUE(state.isReminderAction);
     ASSERT_TRUE(ready.wait(30000));
     file.close();
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     PdfInspector reminder(file.readAll());
-    EXPECT_TRUE(reminder.allText().contains(QStringLiteral("Second Notice INV-2025-17")));
-    EXPECT_TRUE(ui.calls(QStringLiteral("alert")).isEmpty());
+    EXPECT_TRUE(reminder.allText().contains("Second Notice INV-2025-17"));
+    EXPECT_TRUE(ui.calls("alert").isEmpty());
 }
 
 TEST_F(Rendering, AFileThatCannotBeWrittenIsNotLeftHalfDone)
 {
     // A file where a folder should be: no permission can make that writable.
-    const QString blocker = QDir(environment.home()).filePath(QStringLiteral("not-a-folder"));
+    const QString blocker = QDir(environment.home()).filePath("not-a-folder");
     QFile file(blocker);
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
     file.close();
-    const QString target = blocker + QStringLiteral("/out.pdf");
-    Status s = renderer.renderToFile(preview.renderJob(QStringLiteral("<p>x</p>")), target);
+    const QString target = blocker + "/out.pdf";
+    Status s = renderer.renderToFile(preview.renderJob("<p>x</p>"), target);
     EXPECT_FALSE(s.ok());
     EXPECT_FALSE(QFile::exists(target));
 }

@@ -37,7 +37,7 @@ class PageTemplates : public OutputFixture, public ::testing::WithParamInterface
 TEST_P(PageTemplates, FillTheTokensInTheOrderOfTheLanguage)
 {
     const PageCase& c = GetParam();
-    addDesign(QString::fromUtf8(c.page), QString::fromUtf8(c.item), QStringLiteral("/* css */"));
+    addDesign(QString::fromUtf8(c.page), QString::fromUtf8(c.item), "/* css */");
     ManagedObject* document = addDocument(1);
     if (c.setup)
         c.setup(*this, document);
@@ -69,18 +69,16 @@ const PageCase pageCases[] = {
     {"line breaks in contact and address, not in name and subject",
      "%COMPANYCONTACT%#%CLIENTADDRESS%#%COMPANY%#%SUBJECT%", "",
      [](OutputFixture& f, ManagedObject* d) {
-         f.settings.setValue(QStringLiteral("prefsName"), QStringLiteral("A\nB"));
-         d->setValue(QStringLiteral("address"), QStringLiteral("Erin Holloway\r\n7 Quarry Lane"));
-         d->setValue(QStringLiteral("subject"), QStringLiteral("S\nT"));
+         f.settings.setValue("prefsName", "A\nB");
+         d->setValue("address", "Erin Holloway\r\n7 Quarry Lane");
+         d->setValue("subject", "S\nT");
      },
      "12 Harbour Road<br />Portsmouth<br />hello@tandrelo.test#Erin Holloway\r<br />7 Quarry Lane#A\nB#S\nT"},
     {"a value holding its own token ends", "%SUBJECT%|%CONDITIONS%", "",
      with("subject", "a %SUBJECT% b", "conditions", "%CONDITIONS%%CONDITIONS%"),
      "a %SUBJECT% b|%CONDITIONS%%CONDITIONS%"},
     {"a logo that is no image: the notice", "[%LOGO%]", "",
-     [](OutputFixture& f, ManagedObject*) {
-         f.settings.setValue(QStringLiteral("prefsLogo"), QByteArray("GIF89a-garbage"));
-     },
+     [](OutputFixture& f, ManagedObject*) { f.settings.setValue("prefsLogo", QByteArray("GIF89a-garbage")); },
      "[<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the 'LOGO' substitute "
      "from the "
      "design/template.</small></small>]"},
@@ -88,7 +86,7 @@ const PageCase pageCases[] = {
     {"rows follow the item list's sort order", "[%ITEMSLIST%]", "%ITEMNUMBER%:%ITEMSTITLE%;",
      [](OutputFixture& f, ManagedObject* d) {
          threeItems(f, d);
-         f.state.itemsController().setSortDescriptors({{QStringLiteral("title"), false}});
+         f.state.itemsController().setSortDescriptors({{"title", false}});
      },
      "[1:Charlie;2:Bravo;3:Alpha;]"},
 };
@@ -104,17 +102,17 @@ class TemplateEdges : public OutputFixture
 TEST_F(TemplateEdges, AnEmptyItemFillsEveryRowTokenWithNothing)
 {
     addDesign(
-        QStringLiteral("%ITEMSLIST%"),
+        "%ITEMSLIST%",
         QStringLiteral(
             "%ITEMNUMBER%|%ITEMSQUANTITY% %ITEMSUNIT%|%ITEMSBASEAMOUNT%|%ITEMSSKU%|%ITEMSSUBAMOUNT%|"
             "%ITEMSTITLE%/%ITEMSSUBTITLE%|%ITEMSAMOUNT%|1[%ITEMSTAX1TITLE% %ITEMSTAX1PERCENT% "
             "%ITEMSTAX1AMOUNT%]2[%ITEMSTAX2TITLE% %ITEMSTAX2PERCENT% %ITEMSTAX2AMOUNT%]3[%ITEMSTAX3TITLE% "
             "%ITEMSTAX3PERCENT% %ITEMSTAX3AMOUNT%]|%LOCSHORTNUMBER% %LOCUNIT%|%CURRENCY%"));
     ManagedObject* document = addDocument(1);
-    addItem(document, QVariantMap());
-    settings.removeValue(QStringLiteral("locNo"));
+    addItem(document);
+    settings.removeValue("locNo");
     select(document);
-    EXPECT_EQ(html(), QStringLiteral("1|0 |0.00||0.00|/|0.00|1[  ]2[  ]3[  ]| {locUnit}|EUR"));
+    EXPECT_EQ(html(), "1|0 |0.00||0.00|/|0.00|1[  ]2[  ]3[  ]| {locUnit}|EUR");
 }
 
 TEST(TemplateReplace, RepeatsUntilTheTokenIsGoneAndEndsOnSelfReference)
@@ -142,10 +140,10 @@ TEST(TemplateReplace, RepeatsUntilTheTokenIsGoneAndEndsOnSelfReference)
 
 TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
 {
-    addDesign(QStringLiteral("<p>no logo token</p>"), {});
-    settings.setValue(QStringLiteral("prefsLogo"), pngData(12, 6));
+    addDesign("<p>no logo token</p>", {});
+    settings.setValue("prefsLogo", pngData(12, 6));
     select(addDocument(1));
-    EXPECT_EQ(html(), QStringLiteral("<p>no logo token</p>"));
+    EXPECT_EQ(html(), "<p>no logo token</p>");
     QFile file(locations.logoCache());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     const QByteArray png = file.readAll();
@@ -155,38 +153,37 @@ TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
 
 TEST_F(TemplateEdges, ReminderTakesTheSheetsTextsAndTheOverdueLabel)
 {
-    addDesign(QStringLiteral("%LETTERTITLE%|%LOCDUE%|%CONDITIONS%|%FOOTER%|%LOCREMINDER%"), {});
+    addDesign("%LETTERTITLE%|%LOCDUE%|%CONDITIONS%|%FOOTER%|%LOCREMINDER%", {});
     select(addDocument(0, "conditions", "doc", "footer", "doc"));
-    preview.setReminderTexts(
-        {QStringLiteral("Reminder"), QStringLiteral("Please pay\nnow"), QStringLiteral("Thanks")});
+    preview.setReminderTexts({"Reminder", "Please pay\nnow", "Thanks"});
     state.isReminderAction = true;
-    EXPECT_EQ(html(), QStringLiteral("Reminder|{locOverdue}|Please pay<br />now|Thanks|{locReminder}"));
+    EXPECT_EQ(html(), "Reminder|{locOverdue}|Please pay<br />now|Thanks|{locReminder}");
     state.isReminderAction = false;
-    EXPECT_EQ(html(), QStringLiteral("Quote|{locExpiration}|doc|doc|{locReminder}"));
+    EXPECT_EQ(html(), "Quote|{locExpiration}|doc|doc|{locReminder}");
 }
 
 TEST_F(TemplateEdges, MissingDesignOrPageTemplateGivesAClearPage)
 {
     select(addDocument(1));
     EXPECT_EQ(html(), PreviewController::missingDesignPage());
-    ManagedObject* design = addDesign({}, QStringLiteral("<tr></tr>"));
+    ManagedObject* design = addDesign({}, "<tr></tr>");
     EXPECT_EQ(html(), PreviewController::missingTemplatePage());
-    design->setValue(QStringLiteral("isDefault"), false);
-    addDesign(QStringLiteral("second %NUMBER%"), {});
-    EXPECT_EQ(html(), QStringLiteral("second INV-2025-17"));
+    design->setValue("isDefault", false);
+    addDesign("second %NUMBER%", {});
+    EXPECT_EQ(html(), "second INV-2025-17");
 }
 
 TEST_F(TemplateEdges, RowsOfADocumentThatIsNotShownKeepTheirStoredOrder)
 {
-    addDesign(QStringLiteral("%ITEMSLIST%"), QStringLiteral("%ITEMNUMBER%%ITEMSTITLE% "));
+    addDesign("%ITEMSLIST%", "%ITEMNUMBER%%ITEMSTITLE% ");
     ManagedObject* shown = addDocument(1);
     addItem(shown, "title", "shown");
     ManagedObject* other = addDocument(1);
     addItem(other, "title", "b");
     addItem(other, "title", "a");
     select(shown);
-    EXPECT_EQ(preview.documentHTMLString(*other, preview.displayedItems(*other)), QStringLiteral("1b 2a "));
-    EXPECT_EQ(html(), QStringLiteral("1shown "));
+    EXPECT_EQ(preview.documentHTMLString(*other, preview.displayedItems(*other)), "1b 2a ");
+    EXPECT_EQ(html(), "1shown ");
 }
 
 TEST(StringFormatTest, FillsPrintfStyleDirectives)
@@ -216,8 +213,8 @@ TEST(SecurityPolicy, GoesIntoTheHeadWithoutLeavingStandardsMode)
     // What goes in front of a page that loads nothing from its styles, and
     // the policy alone, for one that does.
     const QString both = PdfRenderer::withSecurityPolicy(QString());
-    const QString policy = PdfRenderer::withSecurityPolicy(QStringLiteral("url(")).chopped(4);
-    ASSERT_TRUE(policy.startsWith(QStringLiteral("<meta http-equiv=\"Content-Security-Policy\"")));
+    const QString policy = PdfRenderer::withSecurityPolicy("url(").chopped(4);
+    ASSERT_TRUE(policy.startsWith("<meta http-equiv=\"Content-Security-Policy\""));
     ASSERT_TRUE(both.startsWith(policy) && both.size() > policy.size());
     struct Case
     {
