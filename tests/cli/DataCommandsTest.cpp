@@ -26,7 +26,7 @@ protected:
     QString path(const char* name) const { return h.env.home() + QLatin1Char('/') + QLatin1String(name); }
     QStringList replaced() const
     {
-        return filesIn(QFileInfo(h.storePath()).absolutePath()).filter(QStringLiteral("replaced"));
+        return filesIn(QFileInfo(h.storePath()).absolutePath()).filter("replaced");
     }
 
     AppHarness h;
@@ -34,21 +34,21 @@ protected:
 
 TEST_F(DataCommandsTest, BackupThenRestoreThenCheck)
 {
-    seed(2, QStringLiteral("S"));
+    seed(2, "S");
     CliRun r = ok({"backup", path("saved.vndb")});
     EXPECT_TRUE(r.out.isEmpty() && r.err.isEmpty()) << qPrintable(r.err);
-    EXPECT_EQ(numbersIn(path("saved.vndb")), sequence(QStringLiteral("S"), 2));
+    EXPECT_EQ(numbersIn(path("saved.vndb")), sequence("S", 2));
     EXPECT_TRUE(StoreSnapshot::checkIntegrity(path("saved.vndb")).ok());
 
-    seed(3, QStringLiteral("A"));
+    seed(3, "A");
     r = ok({"restore", path("saved.vndb")});
     EXPECT_TRUE(r.err.isEmpty()) << qPrintable(r.err);
-    EXPECT_EQ(numbersIn(h.storePath()), sequence(QStringLiteral("S"), 2));
+    EXPECT_EQ(numbersIn(h.storePath()), sequence("S", 2));
     EXPECT_EQ(replaced().size(), 1);
 
     // The run recorded the restored count, so the check finds nothing amiss.
-    EXPECT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
-    EXPECT_EQ(numbersIn(h.backupPath()), sequence(QStringLiteral("S"), 2));
+    EXPECT_EQ(ok({"check"}).out, "copied\n");
+    EXPECT_EQ(numbersIn(h.backupPath()), sequence("S", 2));
 
     // A store that cannot be opened stops every run but the restore.
     QFile store(h.storePath());
@@ -57,31 +57,31 @@ TEST_F(DataCommandsTest, BackupThenRestoreThenCheck)
     store.close();
     ASSERT_EQ(runCli({"check"}).code, 3);
     ok({"restore", path("saved.vndb")});
-    EXPECT_EQ(numbersIn(h.storePath()), sequence(QStringLiteral("S"), 2));
-    EXPECT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
+    EXPECT_EQ(numbersIn(h.storePath()), sequence("S", 2));
+    EXPECT_EQ(ok({"check"}).out, "copied\n");
 }
 
 TEST_F(DataCommandsTest, CheckAsksTheRepairQuestionAndRepairsFromTheSafetyCopyOnly)
 {
-    seed(3, QStringLiteral("A"));
+    seed(3, "A");
     ASSERT_TRUE(execOn(h.storePath(), "DELETE FROM Invoice WHERE number = 'A2'"));
     // Without a safety copy there is nothing to repair from: the question
     // comes first, then the missing copy is told, and nothing changes.
     ASSERT_FALSE(QFileInfo::exists(h.backupPath()));
     const CliRun refused = runCli({"check"});
     EXPECT_EQ(refused.code, 1);
-    EXPECT_EQ(refused.out, BackupController::repairQuestionText() + QStringLiteral("\n"));
+    EXPECT_EQ(refused.out, BackupController::repairQuestionText() + "\n");
     EXPECT_EQ(refused.err,
               QStringLiteral("vorn-cli: No valid backup file available. Please restore your Vorn "
                              "database from your own (Time Machine) backups.\n"));
-    EXPECT_EQ(numbersIn(h.storePath()), (QStringList{QStringLiteral("A1"), QStringLiteral("A3")}));
+    EXPECT_EQ(numbersIn(h.storePath()), (QStringList{"A1", "A3"}));
 
-    seed(3, QStringLiteral("B"));
-    ASSERT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
+    seed(3, "B");
+    ASSERT_EQ(ok({"check"}).out, "copied\n");
     ASSERT_TRUE(execOn(h.storePath(), "DELETE FROM Invoice WHERE number = 'B2'"));
-    EXPECT_EQ(ok({"check"}).out, BackupController::repairQuestionText() + QStringLiteral("\nrepaired\n"));
-    EXPECT_EQ(numbersIn(h.storePath()).filter(QStringLiteral("B")), sequence(QStringLiteral("B"), 3));
-    EXPECT_EQ(ok({"check"}).out, QStringLiteral("copied\n"));
+    EXPECT_EQ(ok({"check"}).out, BackupController::repairQuestionText() + "\nrepaired\n");
+    EXPECT_EQ(numbersIn(h.storePath()).filter("B"), sequence("B", 3));
+    EXPECT_EQ(ok({"check"}).out, "copied\n");
 }
 
 struct Refusal
@@ -98,7 +98,7 @@ class DataCommandRefusal : public DataCommandsTest, public ::testing::WithParamI
 
 TEST_P(DataCommandRefusal, EndsWithOneClearLineAndAnIntactStore)
 {
-    seed(3, QStringLiteral("A"));
+    seed(3, "A");
     QFile garbage(path("garbage.vndb"));
     ASSERT_TRUE(garbage.open(QIODevice::WriteOnly));
     garbage.write(QByteArray(5000, 'g'));
@@ -108,7 +108,7 @@ TEST_P(DataCommandRefusal, EndsWithOneClearLineAndAnIntactStore)
         arg.replace(QLatin1Char('@'), h.env.home());
 
     expectRefusal(runCli(args), GetParam().exitCode, QString::fromUtf8(GetParam().says));
-    EXPECT_EQ(numbersIn(h.storePath()), sequence(QStringLiteral("A"), 3));
+    EXPECT_EQ(numbersIn(h.storePath()), sequence("A", 3));
     EXPECT_TRUE(replaced().isEmpty());
 }
 
@@ -128,17 +128,17 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST_F(DataCommandsTest, WhileTheApplicationRunsOnlyTheBackupWorks)
 {
-    seed(2, QStringLiteral("S"));
+    seed(2, "S");
     ok({"backup", path("good.vndb")});
     InstanceLock lock(h.env.locations().lockFile());
     ASSERT_TRUE(lock.tryLock().ok());
 
     ok({"backup", path("while.vndb")});
-    EXPECT_EQ(numbersIn(path("while.vndb")), sequence(QStringLiteral("S"), 2));
+    EXPECT_EQ(numbersIn(path("while.vndb")), sequence("S", 2));
     for (const QStringList& args : {QStringList{"restore", path("good.vndb")}, QStringList{"check"}}) {
         const CliRun r = runCli(args);
         EXPECT_NE(r.code, 0) << qPrintable(args.join(QLatin1Char(' ')));
-        EXPECT_TRUE(r.err.contains(QStringLiteral("in use"))) << qPrintable(r.err);
+        EXPECT_TRUE(r.err.contains("in use")) << qPrintable(r.err);
     }
     EXPECT_FALSE(QFileInfo::exists(h.backupPath()));
 }

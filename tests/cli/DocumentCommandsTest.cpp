@@ -19,8 +19,7 @@ protected:
             list << v.toObject().value("title").toString();
         return list;
     }
-    static void setting(const QString& key, const QString& value,
-                        const QString& type = QStringLiteral("string"))
+    static void setting(const QString& key, const QString& value, const QString& type = "string")
     {
         ok({"defaults", "write", key, value, "--type", type});
     }

@@ -38,9 +38,9 @@ TEST(JsonTest, FloatsAreTheShortestTextOfTheSingle)
         }
     }
     // Doubles that are not singles keep their precision.
-    EXPECT_EQ(Json::write(QVariant(0.07)), QStringLiteral("0.07"));
-    EXPECT_EQ(Json::write(QVariant(0.1 + 0.2)), QStringLiteral("0.30000000000000004"));
-    EXPECT_EQ(Json::write(QVariant(16777217.0)), QStringLiteral("16777217"));
+    EXPECT_EQ(Json::write(QVariant(0.07)), "0.07");
+    EXPECT_EQ(Json::write(QVariant(0.1 + 0.2)), "0.30000000000000004");
+    EXPECT_EQ(Json::write(QVariant(16777217.0)), "16777217");
 }
 
 const std::pair<QDateTime, const char*> dateCases[] = {
@@ -57,7 +57,7 @@ TEST(JsonTest, DatesAreRfc3339InUtcWithMilliseconds)
 {
     for (const auto& [date, text] : dateCases) {
         EXPECT_EQ(Json::dateText(date), QLatin1String(text));
-        EXPECT_EQ(Json::write(date), QStringLiteral("\"%1\"").arg(QLatin1String(text)));
+        EXPECT_EQ(Json::write(date), QString("\"%1\"").arg(QLatin1String(text)));
         EXPECT_EQ(QDateTime::fromString(QLatin1String(text), Qt::ISODateWithMs).toMSecsSinceEpoch(),
                   date.toMSecsSinceEpoch());
     }
@@ -65,13 +65,13 @@ TEST(JsonTest, DatesAreRfc3339InUtcWithMilliseconds)
 
 const std::pair<QString, const char*> quoteCases[] = {
     {QString(), "\"\""},
-    {QStringLiteral("plain"), "\"plain\""},
-    {QStringLiteral("say \"hi\""), "\"say \\\"hi\\\"\""},
-    {QStringLiteral("C:\\path"), "\"C:\\\\path\""},
-    {QStringLiteral("a\nb\r\tc"), "\"a\\nb\\r\\tc\""},
-    {QStringLiteral("\b\f"), "\"\\b\\f\""},
+    {"plain", "\"plain\""},
+    {"say \"hi\"", "\"say \\\"hi\\\"\""},
+    {"C:\\path", "\"C:\\\\path\""},
+    {"a\nb\r\tc", "\"a\\nb\\r\\tc\""},
+    {"\b\f", "\"\\b\\f\""},
     {QString(QChar(1)) + QChar(0x1f) + QChar(0), "\"\\u0001\\u001f\\u0000\""},
-    {QStringLiteral("€ 𝄞 ü </script>"), "\"€ 𝄞 ü </script>\""},
+    {"€ 𝄞 ü </script>", "\"€ 𝄞 ü </script>\""},
     {QString(QChar(0x7f)), "\"\x7f\""},
 };
 
@@ -88,13 +88,12 @@ TEST(JsonTest, StringsEscapeWhatJsonRequires)
 
 TEST(JsonTest, NestedValuesWithSortedKeys)
 {
-    const QVariantMap map{
-        {QStringLiteral("b"), QVariantList{qint64(1), true, QVariant(), QStringLiteral("x")}},
-        {QStringLiteral("a"), QByteArray("\x00\xff", 2)},
-        {QStringLiteral("c"), QVariantMap{}},
-        {QStringLiteral("d"), qint64(-9007199254740993)}};
+    const QVariantMap map{{"b", QVariantList{qint64(1), true, QVariant(), "x"}},
+                          {"a", QByteArray("\x00\xff", 2)},
+                          {"c", QVariantMap{}},
+                          {"d", qint64(-9007199254740993)}};
     EXPECT_EQ(Json::write(map),
-              QStringLiteral("{\"a\":\"AP8=\",\"b\":[1,true,null,\"x\"],\"c\":{},\"d\":-9007199254740993}"));
+              "{\"a\":\"AP8=\",\"b\":[1,true,null,\"x\"],\"c\":{},\"d\":-9007199254740993}");
 }
 
 TEST(JsonTest, ObjectDictionaryHasClassAndOnlyPresentValues)
@@ -102,23 +101,23 @@ TEST(JsonTest, ObjectDictionaryHasClassAndOnlyPresentValues)
     FixedClock clock(utc(2026, 11, 21, 9, 52));
     ObjectContext ctx(nullptr, clock);
     ManagedObject* doc = ctx.insertNewObject(Entity::Invoice);
-    doc->setValue(QStringLiteral("uniqueID"), QStringLiteral("ID-1"));
-    doc->setValue(QStringLiteral("amount"), 34.65f);
-    doc->setValue(QStringLiteral("title"), QString(""));
+    doc->setValue("uniqueID", "ID-1");
+    doc->setValue("amount", 34.65f);
+    doc->setValue("title", QString(""));
     ManagedObject* item = ctx.insertNewObject(Entity::Item);
-    item->setValue(QStringLiteral("uniqueID"), QStringLiteral("ID-2"));
-    doc->insertObject(QStringLiteral("items"), item);
+    item->setValue("uniqueID", "ID-2");
+    doc->insertObject("items", item);
 
     const QString text = Json::objectDictionary(*doc, true);
     const QJsonObject withItems = QJsonDocument::fromJson(text.toUtf8()).object();
-    EXPECT_EQ(withItems.value("class").toString(), QStringLiteral("NSManagedObject"));
-    EXPECT_EQ(withItems.value("title").toString(QStringLiteral("absent")), QString());
+    EXPECT_EQ(withItems.value("class").toString(), "NSManagedObject");
+    EXPECT_EQ(withItems.value("title").toString("absent"), QString());
     EXPECT_FALSE(withItems.contains("number"));
-    EXPECT_EQ(withItems.value("misc5").toString(), QStringLiteral("2026-11-21T09:52:00.000Z"));
+    EXPECT_EQ(withItems.value("misc5").toString(), "2026-11-21T09:52:00.000Z");
     EXPECT_TRUE(text.contains(QLatin1String("\"amount\":34.65,")));
     const QJsonArray items = withItems.value("items").toArray();
     ASSERT_EQ(items.size(), 1);
-    EXPECT_EQ(items[0].toObject().value("uniqueID").toString(), QStringLiteral("ID-2"));
+    EXPECT_EQ(items[0].toObject().value("uniqueID").toString(), "ID-2");
     EXPECT_FALSE(items[0].toObject().contains("items"));
     EXPECT_FALSE(
         QJsonDocument::fromJson(Json::objectDictionary(*doc, false).toUtf8()).object().contains("items"));
@@ -126,7 +125,7 @@ TEST(JsonTest, ObjectDictionaryHasClassAndOnlyPresentValues)
 
 const std::tuple<const char*, const char*, QVariant> typedCases[] = {
     // invalid: refused
-    {"title", "Web design", QStringLiteral("Web design")},
+    {"title", "Web design", "Web design"},
     {"status", "3", qint64(3)},
     {"status", "three", {}},
     {"amount", "34.65", 34.65f},

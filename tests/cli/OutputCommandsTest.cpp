@@ -16,7 +16,7 @@ protected:
     static QString make(const char* kind, const char* number)
     {
         const QString id = ok({"new", kind}).object().value("uniqueID").toString();
-        ok({"set", id, QStringLiteral("number=%1").arg(QLatin1String(number))});
+        ok({"set", id, QString("number=%1").arg(QLatin1String(number))});
         ok({"item", "add", id, "title=Brand workshop", "baseAmount=1200", "unitCount=1"});
         ok({"item", "add", id, "title=Logo design", "baseAmount=95", "unitCount=12"});
         return id;
@@ -24,7 +24,7 @@ protected:
     // No placeholder of the design is left in the page.
     static void expectFinished(const QString& html)
     {
-        static const QRegularExpression leftover(QStringLiteral("%[A-Z][A-Z0-9]*%"));
+        static const QRegularExpression leftover("%[A-Z][A-Z0-9]*%");
         EXPECT_FALSE(leftover.match(html).hasMatch()) << leftover.match(html).captured().toStdString();
     }
 };
@@ -72,11 +72,10 @@ TEST_F(OutputCommandsTest, PdfFollowsTheSettingsAndNeverReplacesAFile)
     EXPECT_EQ(ok({"pdf", id, path("out.pdf")}).out.trimmed(), path("out.pdf"));
     const QString pdf = QString::fromLatin1(readFile(path("out.pdf")));
     EXPECT_TRUE(pdf.startsWith("%PDF-"));
-    static const QRegularExpression box(QStringLiteral("/MediaBox\\s*\\[\\s*0 0 ([0-9.]+) ([0-9.]+)"));
+    static const QRegularExpression box("/MediaBox\\s*\\[\\s*0 0 ([0-9.]+) ([0-9.]+)");
     const auto m = box.match(pdf);
-    EXPECT_EQ(
-        QStringLiteral("%1x%2").arg(qRound(m.captured(1).toDouble())).arg(qRound(m.captured(2).toDouble())),
-        QStringLiteral("612x1008"));
+    EXPECT_EQ(QString("%1x%2").arg(qRound(m.captured(1).toDouble())).arg(qRound(m.captured(2).toDouble())),
+              "612x1008");
     EXPECT_EQ(status(id), 1);
 }
 
