@@ -87,7 +87,7 @@ TEST_F(DesktopWindowsTest, FirstRunInGermanThroughTheAssistant)
         preferences.show();
         for (const PreferencesWindow::Pane& pane : preferences.panes()) {
             preferences.changePanes(pane.tag);
-            shoot(&preferences, QStringLiteral("preferences-%1-de").arg(pane.tag));
+            shoot(&preferences, QString("preferences-%1-de").arg(pane.tag));
         }
     }
 }
@@ -174,7 +174,7 @@ TEST(CustomElementsTest, DrawInBothSchemes)
     link->click();
     EXPECT_EQ(opened, QUrl("https://vorn.tandrelo.com/"));
     EXPECT_EQ(link->cursor().shape(), Qt::PointingHandCursor);
-    AppFixture::shoot(&sheet, QStringLiteral("boxes-%1").arg(sheet.devicePixelRatioF()));
+    AppFixture::shoot(&sheet, QString("boxes-%1").arg(sheet.devicePixelRatioF()));
 }
 
 } // namespace

@@ -18,14 +18,10 @@ struct ChangeLog
 {
     explicit ChangeLog(QAbstractItemModel& model)
     {
-        QObject::connect(&model, &QAbstractItemModel::rowsInserted,
-                         [this] { kinds << QStringLiteral("insert"); });
-        QObject::connect(&model, &QAbstractItemModel::rowsRemoved,
-                         [this] { kinds << QStringLiteral("remove"); });
-        QObject::connect(&model, &QAbstractItemModel::layoutChanged,
-                         [this] { kinds << QStringLiteral("layout"); });
-        QObject::connect(&model, &QAbstractItemModel::modelReset,
-                         [this] { kinds << QStringLiteral("reset"); });
+        QObject::connect(&model, &QAbstractItemModel::rowsInserted, [this] { kinds << "insert"; });
+        QObject::connect(&model, &QAbstractItemModel::rowsRemoved, [this] { kinds << "remove"; });
+        QObject::connect(&model, &QAbstractItemModel::layoutChanged, [this] { kinds << "layout"; });
+        QObject::connect(&model, &QAbstractItemModel::modelReset, [this] { kinds << "reset"; });
     }
     QStringList take() { return std::exchange(kinds, {}); }
     QStringList kinds;
@@ -54,13 +50,13 @@ public:
     {
         const QModelIndexList rows = view.selectionModel()->selectedRows();
         if (rows.size() > 1)
-            return QStringLiteral("several");
+            return "several";
         return rows.isEmpty() ? QString() : model.index(rows.first().row(), 0).data().toString();
     }
     QString listSelection()
     {
         const QStringList selected = numbers(list().selectedObjects());
-        return selected.size() > 1 ? QStringLiteral("several") : selected.value(0);
+        return selected.size() > 1 ? "several" : selected.value(0);
     }
     void undo() { context.undoManager()->undo(); }
     void clickRow(int row)
@@ -102,14 +98,13 @@ TEST_F(DocumentListTest, RowsAndSelectionFollowTheListThroughEditsSortingFilteri
         {"undo brings it back in place", [](T& t) { t.undo(); }, "B C A", "insert", "B"},
         {"re-sorting keeps the selected document, not the row",
          [](T& t) {
-             t.doc("A")->setValue(QStringLiteral("date"), t.clock.now().addDays(1));
+             t.doc("A")->setValue("date", t.clock.now().addDays(1));
              t.list().rearrangeObjects();
          },
          "A B C", "layout", "B"},
         {"filtering out the selected document leaves nothing selected",
          [](T& t) {
-             t.list().setFilterPredicate(
-                 [](const ManagedObject& o) { return o.intValue(QStringLiteral("kind")) == 0; });
+             t.list().setFilterPredicate([](const ManagedObject& o) { return o.intValue("kind") == 0; });
          },
          "C", "remove", ""},
         {"show everything again", [](T& t) { t.list().setFilterPredicate({}); }, "A B C", "insert", ""},
@@ -131,8 +126,8 @@ TEST_F(DocumentListTest, RowsAndSelectionFollowTheListThroughEditsSortingFilteri
         {"a whole new content around the selected document keeps it selected",
          [](T& t) {
              ManagedObject* e = t.context.insertNewObject(Entity::Invoice);
-             e->setValue(QStringLiteral("number"), QStringLiteral("E"));
-             e->setValue(QStringLiteral("date"), t.clock.now().addDays(-20));
+             e->setValue("number", "E");
+             e->setValue("date", t.clock.now().addDays(-20));
              t.list().setContent({t.doc("D"), e});
          },
          "D E", "reset", "D"},
@@ -206,11 +201,11 @@ TEST_F(DocumentListTest, RepaintsARowOnlyWhenWhatItShowsChanges)
     QObject::connect(
         &model, &QAbstractItemModel::dataChanged,
         [&changedRows](const QModelIndex& from, const QModelIndex&) { changedRows << from.row(); });
-    doc("B")->setValue(QStringLiteral("amount"), 10.0f);
-    doc("A")->setValue(QStringLiteral("status"), 3);
-    doc("A")->setValue(QStringLiteral("notes"), QStringLiteral("private"));
+    doc("B")->setValue("amount", 10.0f);
+    doc("A")->setValue("status", 3);
+    doc("A")->setValue("notes", "private");
     ManagedObject* unlisted = context.insertNewObject(Entity::Invoice);
-    unlisted->setValue(QStringLiteral("amount"), 5.0f);
+    unlisted->setValue("amount", 5.0f);
     EXPECT_EQ(changedRows, (QList<int>{1, 0}));
 }
 

@@ -12,7 +12,7 @@ namespace {
 TEST(IconThemeTest, VornThemeDrawsEveryNameTheWindowsUse)
 {
     const QString desktopTheme = QIcon::themeName();
-    QIcon::setThemeName(QStringLiteral("hicolor"));
+    QIcon::setThemeName("hicolor");
     const QStringList names =
         QStringLiteral(
             "accessories-calculator accessories-text-editor application-exit application-pdf "

@@ -81,9 +81,9 @@ public:
     // A new invoice with one line, its status set on the info page.
     ManagedObject* addInvoice(const QString& item, const QString& price, int status)
     {
-        window->command(QStringLiteral("addInvoice"))->trigger();
+        window->command("addInvoice")->trigger();
         window->showPage(1);
-        addItem(item, price, QStringLiteral("1"));
+        addItem(item, price, "1");
         window->showPage(2);
         choose(window->infoPage()->statusField(), status);
         return app->state().currentInvoice();
@@ -94,21 +94,20 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
 {
     // An empty database opens on the address page with nothing to edit.
     EXPECT_EQ(window->currentPageIndex(), 0);
-    shoot(window.get(), QStringLiteral("01-empty"));
+    shoot(window.get(), "01-empty");
 
-    const QString contacts = env.locations().filesDirectory + QStringLiteral("/contacts");
+    const QString contacts = env.locations().filesDirectory + "/contacts";
     QDir().mkpath(contacts);
-    QFile card(contacts + QStringLiteral("/ada.vcf"));
+    QFile card(contacts + "/ada.vcf");
     ASSERT_TRUE(card.open(QIODevice::WriteOnly));
     card.write(
         "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Lovelace;Ada;;;\r\nFN:Ada Lovelace\r\nORG:Engines Ltd\r\n"
         "ADR;TYPE=work:;;12 Analytical Row;London;;N1 9GU;UK\r\nEMAIL:ada@example.org\r\nEND:VCARD\r\n");
     card.close();
     settings.setValue(key::prefsContactsFolders, contacts);
-    settings.setValue(key::prefsAddressPattern,
-                      QStringLiteral("%FIRSTNAME% %LASTNAME%\n%STREET%\n%ZIP% %CITY%"));
+    settings.setValue(key::prefsAddressPattern, "%FIRSTNAME% %LASTNAME%\n%STREET%\n%ZIP% %CITY%");
 
-    window->command(QStringLiteral("addInvoice"))->trigger();
+    window->command("addInvoice")->trigger();
     ManagedObject* invoice = app->state().currentInvoice();
     ASSERT_TRUE(invoice);
     AddressPage* addressPage = window->addressPage();
@@ -121,43 +120,42 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     ASSERT_EQ(addressPopover->contactList()->count(), 1);
     addressPopover->contactList()->setCurrentRow(0);
     EXPECT_EQ(addressPopover->addressField()->toPlainText(),
-              QStringLiteral("Ada Lovelace\n12 Analytical Row\nN1 9GU London"));
-    shoot(addressPopover, QStringLiteral("02-address-popover"));
+              "Ada Lovelace\n12 Analytical Row\nN1 9GU London");
+    shoot(addressPopover, "02-address-popover");
     QTest::mouseClick(button(addressPopover, "&Use Address"), Qt::LeftButton);
     EXPECT_FALSE(addressPopover->isVisible());
-    EXPECT_EQ(invoice->stringValue(key::address),
-              QStringLiteral("Ada Lovelace\n12 Analytical Row\nN1 9GU London"));
-    EXPECT_EQ(invoice->stringValue(key::emailAddress), QStringLiteral("ada@example.org"));
+    EXPECT_EQ(invoice->stringValue(key::address), "Ada Lovelace\n12 Analytical Row\nN1 9GU London");
+    EXPECT_EQ(invoice->stringValue(key::emailAddress), "ada@example.org");
     // The core asks for the subject; the window's target of that name takes the keyboard.
-    ASSERT_FALSE(ui.calls(QStringLiteral("focus")).isEmpty());
-    const QString target = ui.calls(QStringLiteral("focus")).last().title;
-    EXPECT_EQ(target, QStringLiteral("subjectView"));
+    ASSERT_FALSE(ui.calls("focus").isEmpty());
+    const QString target = ui.calls("focus").last().title;
+    EXPECT_EQ(target, "subjectView");
     window->focusTarget(target);
     QTest::qWait(20);
     EXPECT_EQ(window->focusWidget(), addressPage->subjectField());
-    type(addressPage->subjectField(), QStringLiteral("Engine design"));
-    EXPECT_EQ(invoice->stringValue(key::subject), QStringLiteral("Engine design"));
-    shoot(window.get(), QStringLiteral("03-address-page"));
+    type(addressPage->subjectField(), "Engine design");
+    EXPECT_EQ(invoice->stringValue(key::subject), "Engine design");
+    shoot(window.get(), "03-address-page");
 
     // Five items: four typed, one picked from the recent items.
     window->showPage(1);
     EXPECT_EQ(window->pages()->currentWidget(), window->itemsPage());
-    addItem(QStringLiteral("Design"), QStringLiteral("100"), QStringLiteral("2"));
-    addItem(QStringLiteral("Review"), QStringLiteral("50"), QStringLiteral("1"));
-    addItem(QStringLiteral("Travel"), QStringLiteral("30"), QStringLiteral("1"));
-    addItem(QStringLiteral("Printing"), QStringLiteral("5"), QStringLiteral("4"));
+    addItem("Design", "100", "2");
+    addItem("Review", "50", "1");
+    addItem("Travel", "30", "1");
+    addItem("Printing", "5", "4");
     ItemsPage* itemsPage = window->itemsPage();
     QTest::mouseClick(itemsPage->addButton(), Qt::LeftButton);
     ItemPopover* itemPopover = itemsPage->itemPopover();
     itemPopover->tabs()->setCurrentIndex(1);
     ASSERT_EQ(itemPopover->recentList()->count(), 4);
     itemPopover->recentList()->setCurrentRow(1);
-    shoot(itemPopover, QStringLiteral("04-item-popover-recent"));
+    shoot(itemPopover, "04-item-popover-recent");
     QTest::mouseClick(itemPopover->addButton(), Qt::LeftButton); // "Use Item"
     EXPECT_EQ(itemPopover->tabs()->currentIndex(), 0);
     EXPECT_TRUE(itemPopover->quantityField()->hasFocus());
-    type(itemPopover->quantityField(), QStringLiteral("3"));
-    shoot(itemPopover, QStringLiteral("05-item-popover-entry"));
+    type(itemPopover->quantityField(), "3");
+    shoot(itemPopover, "05-item-popover-entry");
     QTest::mouseClick(itemPopover->addButton(), Qt::LeftButton);
     ASSERT_EQ(invoice->items().size(), 5);
     const QString picked = invoice->items().last()->stringValue(key::title);
@@ -174,24 +172,24 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     // the toolbar keeps its label.
     QToolBar* toolBar = window->mainToolBar();
     const QRect undoButton = toolBar->widgetForAction(window->undoAction())->geometry();
-    ASSERT_TRUE(model->setData(model->index(1, ItemTableModel::PriceColumn), QStringLiteral("120")));
+    ASSERT_TRUE(model->setData(model->index(1, ItemTableModel::PriceColumn), "120"));
     EXPECT_FLOAT_EQ(invoice->items().at(1)->floatValue(key::subAmount), 240.0f);
     window->updateUndoActions();
-    EXPECT_TRUE(window->undoAction()->text().contains(QStringLiteral("Change Price")));
-    EXPECT_EQ(window->undoAction()->iconText(), QStringLiteral("Undo"));
+    EXPECT_TRUE(window->undoAction()->text().contains("Change Price"));
+    EXPECT_EQ(window->undoAction()->iconText(), "Undo");
     EXPECT_EQ(toolBar->widgetForAction(window->undoAction())->geometry(), undoButton);
     window->undoAction()->trigger();
     EXPECT_FLOAT_EQ(invoice->items().at(1)->floatValue(key::subAmount), 200.0f);
-    shoot(window.get(), QStringLiteral("06-items-page"));
+    shoot(window.get(), "06-items-page");
 
     // Shipping with tax.
     QTest::mouseClick(itemsPage->shippingButton(), Qt::LeftButton);
     ShippingPopover* shipping = itemsPage->shippingPopover();
     ASSERT_TRUE(shipping->isVisible());
-    EXPECT_EQ(invoice->stringValue(key::shippingTitle), QStringLiteral("Shipping"));
-    type(shipping->amountField(), QStringLiteral("10"));
-    shipping->findChild<QCheckBox*>(QStringLiteral("shippingPopoverTax1Button"))->click();
-    shoot(shipping, QStringLiteral("07-shipping-popover"));
+    EXPECT_EQ(invoice->stringValue(key::shippingTitle), "Shipping");
+    type(shipping->amountField(), "10");
+    shipping->findChild<QCheckBox*>("shippingPopoverTax1Button")->click();
+    shoot(shipping, "07-shipping-popover");
     QTest::mouseClick(button(shipping, "&Charge Shipping"), Qt::LeftButton);
     EXPECT_FALSE(shipping->isVisible());
     EXPECT_TRUE(invoice->boolValue(key::isShippingEnabled));
@@ -205,15 +203,15 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     ASSERT_TRUE(discount->isVisible());
     choose(discount->kindField(), 1);
     EXPECT_TRUE(discount->percentField()->isEnabled());
-    type(discount->percentField(), QStringLiteral("10"));
-    shoot(discount, QStringLiteral("08-discount-popover"));
+    type(discount->percentField(), "10");
+    shoot(discount, "08-discount-popover");
     QTest::mouseClick(button(discount, "&Give Discount"), Qt::LeftButton);
     EXPECT_FLOAT_EQ(invoice->floatValue(key::discountPercent), 0.1f);
     EXPECT_NEAR(invoice->floatValue(key::amount), beforeDiscount * 0.9f, 0.01f);
-    shoot(window.get(), QStringLiteral("09-items-totals"));
+    shoot(window.get(), "09-items-totals");
 
     // A second invoice, sent and not yet paid, for the totals to tell apart.
-    addInvoice(QStringLiteral("Other work"), QStringLiteral("40"), 1);
+    addInvoice("Other work", "40", 1);
     window->documentList()->selectRow(window->documentListModel()->rowOf(invoice));
     ASSERT_EQ(app->state().currentInvoice(), invoice);
 
@@ -222,15 +220,15 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     InfoPage* info = window->infoPage();
     EXPECT_EQ(window->pages()->currentWidget(), info);
     // The e-invoice fields start empty; each edit is one named step.
-    auto* leitweg = info->findChild<QLineEdit*>(QStringLiteral("buyerReferenceView"));
+    auto* leitweg = info->findChild<QLineEdit*>("buyerReferenceView");
     EXPECT_TRUE(leitweg->text().isEmpty());
-    type(leitweg, QStringLiteral("04011000-12345-67"));
-    EXPECT_EQ(invoice->stringValue(key::buyerReference), QStringLiteral("04011000-12345-67"));
-    EXPECT_TRUE(window->undoAction()->text().contains(QStringLiteral("Change Buyer Reference")));
+    type(leitweg, "04011000-12345-67");
+    EXPECT_EQ(invoice->stringValue(key::buyerReference), "04011000-12345-67");
+    EXPECT_TRUE(window->undoAction()->text().contains("Change Buyer Reference"));
     choose(info->statusField(), 3);
     EXPECT_EQ(invoice->intValue(key::status), 3);
     EXPECT_TRUE(invoice->boolValue(key::isPaid));
-    shoot(window.get(), QStringLiteral("10-info-page-paid"));
+    shoot(window.get(), "10-info-page-paid");
 
     // Filtered to paid invoices, the totals describe only those.
     const QString allTotals = window->totalsLabel()->text();
@@ -238,7 +236,7 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     QTest::mouseClick(window->filterButton(), Qt::LeftButton);
     FilterPopover* filter = window->filterPopover();
     ASSERT_TRUE(filter->isVisible());
-    shoot(filter, QStringLiteral("11-filter-popover"));
+    shoot(filter, "11-filter-popover");
     QTest::mouseClick(filter->buttons()->button(3), Qt::LeftButton);
     EXPECT_FALSE(filter->isVisible());
     EXPECT_EQ(app->state().filterTag, 3u);
@@ -247,52 +245,52 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     EXPECT_FLOAT_EQ(app->state().paidAmount, invoice->floatValue(key::amount));
     EXPECT_NE(window->totalsLabel()->text(), allTotals);
     EXPECT_TRUE(window->filterButton()->property("filterActive").toBool());
-    shoot(window.get(), QStringLiteral("12-filtered"));
+    shoot(window.get(), "12-filtered");
 
     // View ▸ Columns hides the date; the client takes its room.
-    QMenu* columns = window->viewMenu()->findChild<QMenu*>(QStringLiteral("columnsMenu"));
+    QMenu* columns = window->viewMenu()->findChild<QMenu*>("columnsMenu");
     ASSERT_NE(columns, nullptr);
     Q_EMIT columns->aboutToShow();
     const int clientWidth = window->documentList()->columnWidth(DocumentListModel::ClientColumn);
     columns->actions().at(3)->trigger();
     EXPECT_TRUE(window->documentList()->isColumnHidden(DocumentListModel::DateColumn));
     EXPECT_GT(window->documentList()->columnWidth(DocumentListModel::ClientColumn), clientWidth);
-    shoot(window.get(), QStringLiteral("12b-without-date"));
+    shoot(window.get(), "12b-without-date");
     window->resize(1920, 1080);
     window->showPage(1);
-    shoot(window.get(), QStringLiteral("15-items-1920"));
+    shoot(window.get(), "15-items-1920");
 }
 
 // A sent invoice: its fields are read-only and say why, its lines cannot be
 // edited, and the shipping button answers with the sent-lock alert.
 TEST_F(MainWindowStoryTest, ASentInvoiceIsReadOnlyAndSaysWhy)
 {
-    ManagedObject* invoice = addInvoice(QStringLiteral("Design"), QStringLiteral("100"), 1);
+    ManagedObject* invoice = addInvoice("Design", "100", 1);
     InfoPage* info = window->infoPage();
     ASSERT_EQ(invoice->intValue(key::status), 1);
 
-    auto* title = info->findChild<QLineEdit*>(QStringLiteral("titleView"));
+    auto* title = info->findChild<QLineEdit*>("titleView");
     EXPECT_TRUE(title->isReadOnly());
-    EXPECT_TRUE(info->findChild<QLineEdit*>(QStringLiteral("orderReferenceView"))->isReadOnly());
+    EXPECT_TRUE(info->findChild<QLineEdit*>("orderReferenceView")->isReadOnly());
     EXPECT_FALSE(title->toolTip().isEmpty());
-    EXPECT_TRUE(info->findChild<QLabel*>(QStringLiteral("lockBanner"))->isVisible());
+    EXPECT_TRUE(info->findChild<QLabel*>("lockBanner")->isVisible());
     EXPECT_TRUE(info->statusField()->isEnabled());
-    shoot(window.get(), QStringLiteral("13-sent-info"));
+    shoot(window.get(), "13-sent-info");
 
     window->showPage(1);
     ItemTableModel* model = window->itemsPage()->model();
     EXPECT_FALSE(model->flags(model->index(0, ItemTableModel::PriceColumn)) & Qt::ItemIsEditable);
-    shoot(window.get(), QStringLiteral("14-sent-items"));
+    shoot(window.get(), "14-sent-items");
     ui.clear();
     QTest::mouseClick(window->itemsPage()->shippingButton(), Qt::LeftButton);
     EXPECT_FALSE(window->itemsPage()->shippingPopover()->isVisible());
-    EXPECT_EQ(ui.alertTitles(), QStringList{QStringLiteral("Error!")});
+    EXPECT_EQ(ui.alertTitles(), QStringList{"Error!"});
 }
 
 // Every control of the window has a name for screen readers.
 TEST_F(MainWindowStoryTest, EveryControlHasAnAccessibleName)
 {
-    window->command(QStringLiteral("addInvoice"))->trigger();
+    window->command("addInvoice")->trigger();
     for (int page = 0; page < 3; ++page) {
         window->showPage(page);
         EXPECT_EQ(unnamedControls(*window), QStringList()) << page;
@@ -303,7 +301,7 @@ TEST_F(MainWindowStoryTest, EveryControlHasAnAccessibleName)
     ObjectContext* context = app->state().context();
     for (int i = 0; i < 1000; ++i) {
         ManagedObject* item = context->insertNewObject(Entity::Item);
-        item->setValue(key::title, QStringLiteral("Line %1").arg(i + 1));
+        item->setValue(key::title, QString("Line %1").arg(i + 1));
         item->setValue(key::unitCount, 1.0f + float(i % 3));
         item->setValue(key::baseAmount, 9.5f);
         item->setValue(key::isTax1Applied, true);
@@ -314,8 +312,8 @@ TEST_F(MainWindowStoryTest, EveryControlHasAnAccessibleName)
     app->invoicing().calculator().calculateInvoice(invoice);
     window->showPage(1);
     EXPECT_EQ(window->itemsPage()->model()->rowCount(), 1000);
-    EXPECT_TRUE(window->itemsPage()->totalsLabel()->text().contains(QStringLiteral("Subtotal 18,990.50")));
-    shoot(window.get(), QStringLiteral("16-thousand-items"));
+    EXPECT_TRUE(window->itemsPage()->totalsLabel()->text().contains("Subtotal 18,990.50"));
+    shoot(window.get(), "16-thousand-items");
 }
 
 } // namespace

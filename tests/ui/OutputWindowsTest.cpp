@@ -42,7 +42,7 @@ TEST_F(OutputWindowsTest, PreviewCommandOpensTheWindowWithThePagesAndClosesItAga
     EXPECT_EQ(preview().pageCount(), 1);
     EXPECT_EQ(preview().thumbnailView()->count(), 1);
     EXPECT_EQ(unnamedControls(preview()), QStringList());
-    shoot(&preview(), QStringLiteral("preview-window"));
+    shoot(&preview(), "preview-window");
 
     trigger("showPreview");
     EXPECT_FALSE(preview().isVisible());
@@ -65,25 +65,25 @@ TEST_F(OutputWindowsTest, PreviewCommandOpensTheWindowWithThePagesAndClosesItAga
 
 TEST_F(OutputWindowsTest, ReminderSheetFollowsTheInvoiceAndShowsItsTextsInThePreview)
 {
-    QAction* reminder = window->command(QStringLiteral("openReminderSheet"));
+    QAction* reminder = window->command("openReminderSheet");
     EXPECT_FALSE(reminder->isEnabled()) << "a new invoice is not overdue";
-    invoice->setValue(QStringLiteral("status"), 2);
+    invoice->setValue("status", 2);
     app->invoicing().gui().delayedToolbarLabel();
     ASSERT_TRUE(reminder->isEnabled());
 
     reminder->trigger();
-    auto* sheet = window->findChild<QDialog*>(QStringLiteral("reminderSheet"));
+    auto* sheet = window->findChild<QDialog*>("reminderSheet");
     ASSERT_TRUE(sheet && sheet->isVisible());
-    auto* title = sheet->findChild<QLineEdit*>(QStringLiteral("reminderTitleField"));
-    EXPECT_EQ(title->text(), settings.stringValue(QStringLiteral("locReminder")));
+    auto* title = sheet->findChild<QLineEdit*>("reminderTitleField");
+    EXPECT_EQ(title->text(), settings.stringValue("locReminder"));
     EXPECT_EQ(unnamedControls(*sheet), QStringList());
-    shoot(sheet, QStringLiteral("reminder-sheet"));
-    title->setText(QStringLiteral("Second Notice"));
+    shoot(sheet, "reminder-sheet");
+    title->setText("Second Notice");
     sheet->accept();
 
     EXPECT_FALSE(sheet->isVisible());
     EXPECT_TRUE(app->state().isReminderAction);
-    EXPECT_EQ(app->preview().reminderTexts().title, QStringLiteral("Second Notice"));
+    EXPECT_EQ(app->preview().reminderTexts().title, "Second Notice");
     EXPECT_TRUE(preview().isVisible());
     ASSERT_TRUE(waitForPreview());
 }
@@ -93,7 +93,7 @@ TEST_F(OutputWindowsTest, ReminderSheetFollowsTheInvoiceAndShowsItsTextsInThePre
 // the file where the user chose and marks the invoice sent.
 TEST_F(OutputWindowsTest, ThePdfSheetOpensOnItsWindowAndSavesTheFile)
 {
-    settings.setValue(QStringLiteral("markInvoiceAsSent"), true);
+    settings.setValue("markInvoiceAsSent", true);
     QSignalSpy ready(&app->exporter(), &ExportController::okEnabledChanged);
     trigger("showPreview");
     ASSERT_TRUE(waitForPreview());
@@ -101,18 +101,18 @@ TEST_F(OutputWindowsTest, ThePdfSheetOpensOnItsWindowAndSavesTheFile)
     ExportSheet& sheet = *window->exportSheet();
     ASSERT_TRUE(sheet.isVisible());
     EXPECT_EQ(sheet.parentWidget(), &preview());
-    EXPECT_EQ(sheet.windowTitle(), QStringLiteral("Export Invoice As PDF File"));
+    EXPECT_EQ(sheet.windowTitle(), "Export Invoice As PDF File");
     EXPECT_FALSE(sheet.okButton()->isEnabled());
     ASSERT_TRUE(ready.wait(60000));
     EXPECT_TRUE(sheet.okButton()->isEnabled());
     EXPECT_EQ(unnamedControls(sheet), QStringList());
-    shoot(&sheet, QStringLiteral("export-sheet"));
+    shoot(&sheet, "export-sheet");
     sheet.reject();
     EXPECT_FALSE(sheet.isVisible());
-    EXPECT_EQ(invoice->intValue(QStringLiteral("status")), 0);
+    EXPECT_EQ(invoice->intValue("status"), 0);
 
     trigger("showPreview");
-    const QString target = env.home() + QStringLiteral("/Invoice for Acme.pdf");
+    const QString target = env.home() + "/Invoice for Acme.pdf";
     ui.answerPanel(target);
     trigger("pdfInvoice");
     ASSERT_TRUE(sheet.isVisible());
@@ -123,7 +123,7 @@ TEST_F(OutputWindowsTest, ThePdfSheetOpensOnItsWindowAndSavesTheFile)
     QFile file(target);
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_TRUE(file.read(5) == "%PDF-");
-    EXPECT_EQ(invoice->intValue(QStringLiteral("status")), 1);
+    EXPECT_EQ(invoice->intValue("status"), 1);
 }
 
 // The File menu's e-invoice commands are there for invoices only; with the
@@ -131,18 +131,18 @@ TEST_F(OutputWindowsTest, ThePdfSheetOpensOnItsWindowAndSavesTheFile)
 TEST_F(OutputWindowsTest, EInvoiceCommandsSayWhatIsMissing)
 {
     window->validateCommands();
-    ASSERT_TRUE(window->command(QStringLiteral("exportXRechnung"))->isEnabled());
+    ASSERT_TRUE(window->command("exportXRechnung")->isEnabled());
     ui.clear();
     trigger("exportXRechnung");
-    const auto alerts = ui.calls(QStringLiteral("alert"));
+    const auto alerts = ui.calls("alert");
     ASSERT_EQ(alerts.size(), 1);
-    EXPECT_EQ(alerts.first().title, QStringLiteral("The e-invoice cannot be made"));
-    EXPECT_TRUE(alerts.first().text.contains(QStringLiteral("The buyer's country is missing.")));
-    EXPECT_TRUE(ui.calls(QStringLiteral("save")).isEmpty());
+    EXPECT_EQ(alerts.first().title, "The e-invoice cannot be made");
+    EXPECT_TRUE(alerts.first().text.contains("The buyer's country is missing."));
+    EXPECT_TRUE(ui.calls("save").isEmpty());
 
     app->invoicing().data().addQuote();
     window->validateCommands();
-    EXPECT_FALSE(window->command(QStringLiteral("exportFacturX"))->isEnabled());
+    EXPECT_FALSE(window->command("exportFacturX")->isEnabled());
 }
 
 } // namespace

@@ -55,7 +55,7 @@ public:
         QString out;
         for (QTextBlock b = editor.document()->begin(); b.isValid(); b = b.next())
             for (const QTextLayout::FormatRange& r : b.layout()->formats())
-                out += QStringLiteral("%1+%2 %3;")
+                out += QString("%1+%2 %3;")
                            .arg(b.position() + r.start)
                            .arg(r.length)
                            .arg(r.format.foreground().color().name());
@@ -68,7 +68,7 @@ public:
         for (QTextBlock b = editor.document()->begin(); b.isValid(); b = b.next())
             for (const SyntaxRun& r : engine.runs(b.position(), b.length() - 1)) {
                 const SyntaxColor c = engine.definition().modeColor(r.mode);
-                out += QStringLiteral("%1+%2 %3;")
+                out += QString("%1+%2 %3;")
                            .arg(r.start)
                            .arg(r.length)
                            .arg(QColor::fromRgbF(float(c.red), float(c.green), float(c.blue)).name());
@@ -89,9 +89,9 @@ TEST_F(PreferencesWindowTest, ToolbarPanesAndSizes)
     EXPECT_EQ(shown, PreferencesWindow::toolbarDefaultItemIdentifiers());
     EXPECT_EQ(prefs->currentTag(), 7);
     EXPECT_NE(prefs->minimumSize(), prefs->maximumSize());
-    shoot(prefs.get(), QStringLiteral("pane-8"));
+    shoot(prefs.get(), "pane-8");
     builder().tabs()->setCurrentIndex(2);
-    shoot(prefs.get(), QStringLiteral("builder-style-sheet"));
+    shoot(prefs.get(), "builder-style-sheet");
 
     const int top = prefs->geometry().top();
     for (int tag : {0, 2, 3, 4, 5, 6, 1}) {
@@ -101,7 +101,7 @@ TEST_F(PreferencesWindowTest, ToolbarPanesAndSizes)
         EXPECT_EQ(prefs->geometry().top(), top);
         EXPECT_TRUE(prefs->paneView(tag)->isVisible());
         EXPECT_EQ(unnamedControls(*prefs->paneView(tag)), QStringList());
-        shoot(prefs.get(), QStringLiteral("pane-%1").arg(tag + 1));
+        shoot(prefs.get(), QString("pane-%1").arg(tag + 1));
     }
     // The keyboard reaches every pane, those missing from the toolbar too.
     prefs->activateWindow();
@@ -164,9 +164,8 @@ TEST_F(PreferencesWindowTest, EditingTheSettingsAndADesignShowsInThePreview)
     css().indentAction()->trigger();
     const QString indented = css().toPlainText();
     css().commentCommand()->trigger();
-    EXPECT_EQ(css().toPlainText().section('\n', 0, 1), QStringLiteral("//\t") + original.section('\n', 0, 0) +
-                                                           QStringLiteral("\n//\t") +
-                                                           original.section('\n', 1, 1));
+    EXPECT_EQ(css().toPlainText().section('\n', 0, 1),
+              "//\t" + original.section('\n', 0, 0) + "\n//\t" + original.section('\n', 1, 1));
     css().undo();
     EXPECT_EQ(css().toPlainText(), indented);
     css().undo();

@@ -109,23 +109,22 @@ TEST_P(AlertTest, AnswersThePositionOfTheChosenButton)
     SCOPED_TRACE(c.what);
     Seen seen;
     answerNextBox(c.answer, seen, &window);
-    const UserInterface::Alert alert{QStringLiteral("Delete Invoice"),
-                                     QStringLiteral("Do you really want to?"), c.buttons,
+    const UserInterface::Alert alert{"Delete Invoice", "Do you really want to?", c.buttons,
                                      UserInterface::AlertStyle::Warning, c.sheet};
     EXPECT_EQ(ui.runAlert(alert), c.expected);
 
-    QStringList shown = c.buttons.isEmpty() ? QStringList{QStringLiteral("OK")} : c.buttons;
+    QStringList shown = c.buttons.isEmpty() ? QStringList{"OK"} : c.buttons;
     shown.sort();
     EXPECT_EQ(seen.buttons, shown);
-    EXPECT_EQ(seen.defaultButton, c.buttons.isEmpty() ? QStringLiteral("OK") : c.buttons.first());
+    EXPECT_EQ(seen.defaultButton, c.buttons.isEmpty() ? "OK" : c.buttons.first());
     EXPECT_EQ(seen.text, alert.title);
     EXPECT_EQ(seen.informativeText, alert.text);
     EXPECT_EQ(seen.modality, c.sheet ? Qt::WindowModal : Qt::ApplicationModal);
     EXPECT_EQ(seen.onMainWindow, true);
 }
 
-const QStringList deleteOrCancel{QStringLiteral("Delete"), QStringLiteral("Cancel")};
-const QStringList threeWay{QStringLiteral("Save"), QStringLiteral("Don't Save"), QStringLiteral("Cancel")};
+const QStringList deleteOrCancel{"Delete", "Cancel"};
+const QStringList threeWay{"Save", "Don't Save", "Cancel"};
 
 INSTANTIATE_TEST_SUITE_P(
     Buttons, AlertTest,
@@ -137,7 +136,7 @@ INSTANTIATE_TEST_SUITE_P(
                       AlertCase{"Escape among three takes Cancel, wherever it is", threeWay, false,
                                 press(Qt::Key_Escape), 2},
                       AlertCase{"Escape takes Cancel when it comes first",
-                                {QStringLiteral("Cancel"), QStringLiteral("Convert")},
+                                {"Cancel", "Convert"},
                                 false,
                                 press(Qt::Key_Escape),
                                 0}),
@@ -147,11 +146,10 @@ TEST_F(QtUserInterfaceTest, PresentsAnErrorWithItsReasonAndDoesNotRecover)
 {
     Seen seen;
     answerNextBox(press(Qt::Key_Return), seen, &window);
-    EXPECT_FALSE(ui.presentError(
-        Error::make(ErrorCode::StoreInitFailed, QStringLiteral("Failed to initialize the store"),
-                    QStringLiteral("There was an error building up the data file."))));
-    EXPECT_EQ(seen.text, QStringLiteral("Failed to initialize the store"));
-    EXPECT_EQ(seen.informativeText, QStringLiteral("There was an error building up the data file."));
+    EXPECT_FALSE(ui.presentError(Error::make(ErrorCode::StoreInitFailed, "Failed to initialize the store",
+                                             "There was an error building up the data file.")));
+    EXPECT_EQ(seen.text, "Failed to initialize the store");
+    EXPECT_EQ(seen.informativeText, "There was an error building up the data file.");
 }
 
 // The desktop's own helper programs are found on the PATH, the usual one first.

@@ -47,11 +47,11 @@ public:
     // it to the list as the add commands do (add, then rearrange).
     ManagedObject* add(const QString& number, int days, qint64 kind = 1)
     {
-        UndoGroup group(context.undoManager(), QStringLiteral("New Document"));
+        UndoGroup group(context.undoManager(), "New Document");
         ManagedObject* doc = context.insertNewObject(Entity::Invoice);
-        doc->setValue(QStringLiteral("number"), number);
-        doc->setValue(QStringLiteral("kind"), kind);
-        doc->setValue(QStringLiteral("date"), clock.now().addDays(days));
+        doc->setValue("number", number);
+        doc->setValue("kind", kind);
+        doc->setValue("date", clock.now().addDays(days));
         docs.insert(number, doc);
         list().addObject(doc);
         list().rearrangeObjects();
@@ -64,7 +64,7 @@ public:
     {
         QStringList result;
         for (const ManagedObject* o : objects)
-            result << o->stringValue(QStringLiteral("number"));
+            result << o->stringValue("number");
         return result;
     }
 
@@ -118,7 +118,7 @@ public:
         QDir().mkpath(folder);
         // Fades have ended and the layouts of texts that just changed have settled.
         QTest::qWait(200);
-        widget->grab().save(folder + QLatin1Char('/') + name + QStringLiteral(".png"));
+        widget->grab().save(folder + QLatin1Char('/') + name + ".png");
     }
 
     // The controls under root a screen reader could not name: every field,

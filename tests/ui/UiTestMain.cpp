@@ -11,7 +11,7 @@ int main(int argc, char** argv)
     ::testing::InitGoogleTest(&argc, argv);
     // The output windows lay documents out in the web engine.
     vorn::PdfRenderer::prepareProcess(true);
-    QIcon::setFallbackThemeName(QStringLiteral("vorn"));
+    QIcon::setFallbackThemeName("vorn");
     QApplication application(argc, argv);
     // Amounts and dates in the expectations are written the American way.
     QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
