@@ -151,29 +151,40 @@ INSTANTIATE_TEST_SUITE_P(Cases, DesignSeedQuirk,
                                            SeedCase{"missingResourceSeedsNothing", 4, {}, 0, {}}),
                          [](const auto& info) { return std::string(info.param.name); });
 
-TEST_F(DesignTest, NewDesignIsTitledNotDefaultAndItsTitleEdited)
+// A new or duplicated design: selected, not the default, with its own ID,
+// saved at once, and the selection remembered.
+TEST_F(DesignTest, NewAndDuplicatedDesignsAreSelectedButNotDefault)
 {
     seed();
     int editedRow = -1;
     QObject::connect(&designs, &DesignController::editTitleRequested,
                      [&editedRow](int row) { editedRow = row; });
+    const auto expectAdded = [this](ManagedObject* design, const ManagedObject& like) {
+        ASSERT_NE(design, nullptr);
+        EXPECT_FALSE(design->boolValue("isDefault"));
+        EXPECT_NE(design->stringValue("uniqueID"), like.stringValue("uniqueID"));
+        EXPECT_EQ(list.selectedObject(), design);
+        EXPECT_EQ(settings.intValue("selectedDesign"), list.arrangedObjects().indexOf(design));
+        EXPECT_FALSE(context.hasChanges());
+        EXPECT_EQ(defaultCount(), 1);
+    };
     ManagedObject* design = designs.addDesign();
-    ASSERT_NE(design, nullptr);
+    expectAdded(design, *list.arrangedObjects().first());
     EXPECT_EQ(design->stringValue("title"), "New Design");
-    EXPECT_FALSE(design->boolValue("isDefault"));
     EXPECT_EQ(design->stringValue("invoice"),
               QString::fromUtf8(*DesignController::bundledResource("Invoice.htm")));
     EXPECT_EQ(editedRow, 9);
-    EXPECT_EQ(list.arrangedObjects().value(9), design);
-    EXPECT_EQ(list.selectedObject(), design);
-    EXPECT_EQ(settings.intValue("selectedDesign"), 9);
-    EXPECT_FALSE(context.hasChanges());
-    EXPECT_EQ(defaultCount(), 1);
-
     // Two new designs are equal in every text; the second gets its own row.
-    ManagedObject* second = designs.addDesign();
+    expectAdded(designs.addDesign(), *design);
     EXPECT_EQ(editedRow, 10);
-    EXPECT_NE(second->stringValue("uniqueID"), design->stringValue("uniqueID"));
+
+    list.setSelectionIndexes({0});
+    const ManagedObject* original = list.selectedObject();
+    ManagedObject* copy = builder.duplicateDesign();
+    expectAdded(copy, *original);
+    EXPECT_EQ(copy->stringValue("title"), original->stringValue("title") + " copy");
+    for (const char* key : {"invoice", "item", "css"})
+        EXPECT_EQ(copy->stringValue(key), original->stringValue(key));
 }
 
 struct DeleteCase
@@ -329,23 +340,6 @@ TEST_F(DesignTest, SelectionIsRestoredFromTheSettings)
         designs.restoreSelection();
         EXPECT_EQ(list.selectionIndex(), restored) << stored;
     }
-}
-
-TEST_F(DesignTest, DuplicatingGivesAnEditableCopyThatIsNotTheDefault)
-{
-    seed();
-    list.setSelectionIndexes({0});
-    const ManagedObject* original = list.selectedObject();
-    ManagedObject* copy = builder.duplicateDesign();
-    ASSERT_TRUE(copy);
-    EXPECT_EQ(list.selectedObject(), copy);
-    EXPECT_EQ(copy->stringValue("title"), original->stringValue("title") + " copy");
-    EXPECT_NE(copy->stringValue("uniqueID"), original->stringValue("uniqueID"));
-    EXPECT_FALSE(copy->boolValue("isDefault"));
-    for (const char* key : {"invoice", "item", "css"})
-        EXPECT_EQ(copy->stringValue(key), original->stringValue(key));
-    EXPECT_FALSE(context.hasChanges());
-    EXPECT_EQ(settings.intValue("selectedDesign"), list.arrangedObjects().indexOf(copy));
 }
 
 TEST_F(DesignTest, EditsGoIntoTheShownDesignAndSignalOnlyForTheDefault)

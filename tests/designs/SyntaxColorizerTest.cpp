@@ -94,10 +94,15 @@ INSTANTIATE_TEST_SUITE_P(
                       PassCase{"empty text", "", ""}),
     [](const auto& info) { return "case" + std::to_string(info.index); });
 
-TEST(SyntaxDefinitionTest, ColoursComeFromTheSettingsOverTheDefinition)
+class SyntaxDefinitionTest : public ::testing::Test
 {
+protected:
     QTemporaryDir dir;
-    Settings settings(dir.filePath("s.plist"));
+    Settings settings{dir.filePath("s.plist")};
+};
+
+TEST_F(SyntaxDefinitionTest, ColoursComeFromTheSettingsOverTheDefinition)
+{
     ASSERT_TRUE(SyntaxDefinition::registerColorDefaults(settings));
     settings.setValue("SyntaxColoring:Color:Keyword", QVariantList{1, 0, 0});
     const SyntaxDefinition d = SyntaxDefinition::fromDictionary(testLanguage(), &settings);
@@ -108,10 +113,8 @@ TEST(SyntaxDefinitionTest, ColoursComeFromTheSettingsOverTheDefinition)
               (QVariantList{0.25, 0.5, 1.0, 0.5}));
 }
 
-TEST(SyntaxDefinitionTest, KeywordsMissingFromTheDefinitionComeFromTheSettings)
+TEST_F(SyntaxDefinitionTest, KeywordsMissingFromTheDefinitionComeFromTheSettings)
 {
-    QTemporaryDir dir;
-    Settings settings(dir.filePath("s.plist"));
     settings.setValue("SyntaxColoring:Keywords:Keyword", QVariantList{"else"});
     settings.setValue("SyntaxColoring:UserIdentifiers", QVariantList{"mine"});
     const QVariantMap language{
@@ -122,10 +125,8 @@ TEST(SyntaxDefinitionTest, KeywordsMissingFromTheDefinitionComeFromTheSettings)
     EXPECT_EQ(modeString(c), "KKKK.UUUU");
 }
 
-TEST(SyntaxDefinitionTest, TheOldFlatFormatColoursInItsOwnOrder)
+TEST_F(SyntaxDefinitionTest, TheOldFlatFormatColoursInItsOwnOrder)
 {
-    QTemporaryDir dir;
-    Settings settings(dir.filePath("s.plist"));
     ASSERT_TRUE(SyntaxDefinition::registerColorDefaults(settings));
     const QVariantMap legacy{{"Identifiers", QVariantList{"body"}},
                              {"Identifiers:Charset", "abcdefghijklmnopqrstuvwxyz"},
@@ -151,9 +152,8 @@ TEST(SyntaxDefinitionTest, TheOldFlatFormatColoursInItsOwnOrder)
     EXPECT_TRUE(d.modeColor(d.modeOf("SyntaxColoring:Tag")).isValid());
 }
 
-TEST(SyntaxDefinitionTest, AnUnreadableDefinitionIsPlainText)
+TEST_F(SyntaxDefinitionTest, AnUnreadableDefinitionIsPlainText)
 {
-    QTemporaryDir dir;
     QFile damaged(dir.filePath("HTML.plist"));
     ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
     damaged.write("<plist><dict><key>Components");
@@ -164,7 +164,6 @@ TEST(SyntaxDefinitionTest, AnUnreadableDefinitionIsPlainText)
         EXPECT_TRUE(c.definition().isPlainText());
         EXPECT_TRUE(c.runs(0, 8).empty());
     }
-    Settings settings(dir.filePath("s.plist"));
     EXPECT_FALSE(SyntaxDefinition::registerColorDefaults(settings, damaged.fileName()));
 }
 
@@ -245,8 +244,9 @@ TEST(SyntaxColorizerTest, ReturnRepeatsTheLeadingTabsAndSpaces)
     EXPECT_EQ(SyntaxColorizer::indentationBefore("", 0), "");
 }
 
-// Golden files: the colour runs of the built-in templates and style sheets,
-// one line per text line that has runs ("12: 0+4 Tag, 5+3 String").
+// Golden files: the colour runs of built-in templates and style sheets that
+// together use every mode of both languages, one line per text line that has
+// runs ("12: 0+4 Tag, 5+3 String").
 // Set VORN_UPDATE_GOLDEN=1 to write them anew after a deliberate change (the
 // run then fails, so that the difference is reviewed).
 QString runsByLine(const SyntaxColorizer& c)
@@ -303,8 +303,7 @@ TEST_P(GoldenTest, ColourRunsMatchTheGoldenFile)
 }
 
 INSTANTIATE_TEST_SUITE_P(BuiltInDesigns, GoldenTest,
-                         ::testing::Values("Temp001/invoice.html", "Temp004/item.html", "Temp001/style.css",
-                                           "Temp009/style.css", "Invoice.htm", "CSS.css"),
+                         ::testing::Values("Temp001/invoice.html", "Temp001/style.css", "CSS.css"),
                          [](const auto& info) { return "file" + std::to_string(info.index); });
 
 } // namespace
