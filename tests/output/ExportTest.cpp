@@ -52,8 +52,6 @@ public:
         exporter.exportCommand();
     }
 
-    QString home(const QString& name) const { return QDir(environment.home()).filePath(name); }
-
     Calculator calculator;
     ExportController exporter;
     QList<ExportController::MailMessage> mails;
@@ -110,19 +108,12 @@ TEST_F(Exporting, PdfIsCopiedWhereTheUserChoseButNeverOverAFile)
     ASSERT_EQ(panels.size(), 1);
     EXPECT_EQ(panels[0].title + "|" + panels[0].text + "|" + panels[0].buttons.join(','),
               "Export As PDF File|Tandrelo Studio | Invoice | INV-2025-17|pdf");
-    QFile copy(target);
-    ASSERT_TRUE(copy.open(QIODevice::ReadOnly));
-    EXPECT_TRUE(PdfInspector(copy.readAll()).allText().contains("Workshop"));
+    EXPECT_TRUE(PdfInspector(read(target)).allText().contains("Workshop"));
 
-    QFile existing(home("keep.pdf"));
-    ASSERT_TRUE(existing.open(QIODevice::WriteOnly));
-    existing.write("mine");
-    existing.close();
-    ui.answerPanel(existing.fileName());
+    ui.answerPanel(write("keep.pdf", "mine"));
     run(&ExportController::pdfInvoice);
     ASSERT_EQ(ui.errorCodes(), QList<int>{516});
-    ASSERT_TRUE(existing.open(QIODevice::ReadOnly));
-    EXPECT_EQ(existing.readAll(), QByteArray("mine"));
+    EXPECT_EQ(read(home("keep.pdf")), QByteArray("mine"));
 }
 
 // The mail program gets the PDF; without one the PDF is shown in the file manager.
@@ -155,9 +146,8 @@ TEST_F(Exporting, DocumentsExportInBothFormats)
         run(&ExportController::exportInvoice);
         const auto panels = ui.calls("save");
         EXPECT_EQ(panels.last().title, format ? "Export As XML Document" : "Export As Vorn Document");
-        QFile file(target);
-        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-        const QByteArray data = file.readAll();
+        const QByteArray data = read(target);
+        ASSERT_FALSE(data.isEmpty());
         if (format == 1) {
             EXPECT_TRUE(data.startsWith("<?xml"));
         } else {
@@ -229,14 +219,14 @@ TEST_P(Footers, PrintedPagesCarryTheFooterLine)
     assign(settings, "tempPrintNumbers", c.numbers, "tempPrintDetails", c.details, "printBorderless",
            c.borderless, "currentPrintJobTitle", "Tandrelo Studio | Invoice | 17");
     PdfImageView view(settings);
-    ASSERT_TRUE(view.loadFromPath(threePagePdf(QDir(environment.home()).filePath("three.pdf"))).ok());
+    ASSERT_TRUE(view.loadFromPath(threePagePdf(home("three.pdf"))).ok());
     EXPECT_EQ(view.pageCount(), 3);
     EXPECT_EQ(view.footerLine(2, 3), QString::fromUtf8(c.expected));
 
     // Print it as the shell would, into a PDF, and read the footer back.
     UserInterface::PrintJob job = view.printJob("job", "iso-a4", false);
     ASSERT_EQ(job.pageCount, 3);
-    const QString printed = QDir(environment.home()).filePath("printed.pdf");
+    const QString printed = home("printed.pdf");
     {
         QPdfWriter writer(printed);
         writer.setPageSize(QPageSize(QPageSize::A4));
@@ -249,9 +239,7 @@ TEST_P(Footers, PrintedPagesCarryTheFooterLine)
             job.paintPage(painter, page, QRectF(QPointF(0, 0), QSizeF(writer.width(), writer.height())));
         }
     }
-    QFile file(printed);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    PdfInspector pdf(file.readAll());
+    PdfInspector pdf(read(printed));
     ASSERT_EQ(pdf.pageCount(), 3);
     const QString page2 = pdf.text(1).simplified();
     if (*c.expected)

@@ -2,6 +2,7 @@
 
 #include <QBuffer>
 #include <QDir>
+#include <QFile>
 #include <QImage>
 #include <QTimeZone>
 
@@ -68,6 +69,24 @@ void OutputFixture::select(ManagedObject* document)
     state.invoicesController().fetch();
     state.invoicesController().setSelectedObjects({document});
     state.itemsController().setContent(document->items());
+}
+
+QString OutputFixture::home(const QString& name) const
+{
+    return QDir(environment.home()).filePath(name);
+}
+
+QString OutputFixture::write(const QString& name, const QByteArray& data) const
+{
+    QFile file(home(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(data) == data.size()) << qPrintable(name);
+    return file.fileName();
+}
+
+QByteArray OutputFixture::read(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
 QString OutputFixture::html()

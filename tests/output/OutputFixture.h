@@ -46,6 +46,10 @@ public:
         return item;
     }
     void select(ManagedObject* document);
+    // A path in the scratch HOME; write() puts data there and answers the path.
+    QString home(const QString& name) const;
+    QString write(const QString& name, const QByteArray& data) const;
+    static QByteArray read(const QString& path);
     // The current document's HTML with the scratch HOME written as "$HOME".
     QString html();
     // A small PNG of one colour, as for the logo setting.

@@ -165,13 +165,10 @@ TEST_F(Rendering, ImagesOfStylesArePrinted)
 
 TEST_F(Rendering, OnlyTheLogoFileLoads)
 {
-    addDesign(QString("<html><body>%LOGO% <img src=\"file://%1\" width=80 height=80></body></html>")
-                  .arg(QDir(environment.home()).filePath("other.png")),
-              {});
-    QFile other(QDir(environment.home()).filePath("other.png"));
-    ASSERT_TRUE(other.open(QIODevice::WriteOnly));
-    other.write(pngData(20, 20, QColor(30, 60, 220)));
-    other.close();
+    const QString other = write("other.png", pngData(20, 20, QColor(30, 60, 220)));
+    addDesign(
+        QString("<html><body>%LOGO% <img src=\"file://%1\" width=80 height=80></body></html>").arg(other),
+        {});
     settings.setValue("prefsLogo", pngData(80, 80, QColor(220, 30, 30)));
     select(addDocument(1));
 
@@ -219,17 +216,13 @@ TEST_F(Rendering, ThePreviewWritesThePdfAndReportsIt)
     EXPECT_FALSE(preview.isGenerating());
     EXPECT_EQ(generating.count(), 2);
     EXPECT_TRUE(settings.boolValue("isMainPreviewAction"));
-    QFile file(state.pdfPath);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    PdfInspector pdf(file.readAll());
+    PdfInspector pdf(read(state.pdfPath));
     EXPECT_TRUE(pdf.allText().contains("Item-2-end"));
 
     preview.generateReminder({"Second Notice", {}, {}});
     EXPECT_TRUE(state.isReminderAction);
     ASSERT_TRUE(ready.wait(30000));
-    file.close();
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    PdfInspector reminder(file.readAll());
+    PdfInspector reminder(read(state.pdfPath));
     EXPECT_TRUE(reminder.allText().contains("Second Notice INV-2025-17"));
     EXPECT_TRUE(ui.calls("alert").isEmpty());
 }
@@ -237,11 +230,7 @@ TEST_F(Rendering, ThePreviewWritesThePdfAndReportsIt)
 TEST_F(Rendering, AFileThatCannotBeWrittenIsNotLeftHalfDone)
 {
     // A file where a folder should be: no permission can make that writable.
-    const QString blocker = QDir(environment.home()).filePath("not-a-folder");
-    QFile file(blocker);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.close();
-    const QString target = blocker + "/out.pdf";
+    const QString target = write("not-a-folder", {}) + "/out.pdf";
     Status s = renderer.renderToFile(preview.renderJob("<p>x</p>"), target);
     EXPECT_FALSE(s.ok());
     EXPECT_FALSE(QFile::exists(target));

@@ -144,9 +144,7 @@ TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
     settings.setValue("prefsLogo", pngData(12, 6));
     select(addDocument(1));
     EXPECT_EQ(html(), "<p>no logo token</p>");
-    QFile file(locations.logoCache());
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const QByteArray png = file.readAll();
+    const QByteArray png = read(locations.logoCache());
     EXPECT_TRUE(png.startsWith("\x89PNG"));
     EXPECT_EQ(QImage::fromData(png).size(), QSize(12, 6));
 }
