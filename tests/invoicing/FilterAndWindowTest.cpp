@@ -194,17 +194,4 @@ TEST_F(WindowTest, TabsFollowTheToolbarTags)
     EXPECT_EQ(settings.intValue(key::mainTabIndex), 2);
 }
 
-TEST_F(WindowTest, ReminderSheetTakesItsTextsFromTheSettings)
-{
-    assign(settings, key::locReminder, "Reminder", key::tempRemConditions, "Please pay", key::tempRemFooter,
-           "Regards");
-    controllers->gui().openReminderSheet();
-    const auto& sheet = controllers->gui().reminderSheet();
-    EXPECT_TRUE(sheet.shown);
-    EXPECT_EQ(QStringList({sheet.title, sheet.conditions, sheet.footer}),
-              QStringList({"Reminder", "Please pay", "Regards"}));
-    controllers->gui().cancelReminderSheet();
-    EXPECT_FALSE(controllers->gui().reminderSheet().shown);
-}
-
 } // namespace
