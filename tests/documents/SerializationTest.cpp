@@ -307,8 +307,6 @@ const DictionaryCase dictionaryCases[] = {
     {"textForData", QVariantMap{{"class", "Design"}, {"misc5", "yesterday"}}},
     {"floatOutOfRange", invoiceWith("amount", 1e39)},
     {"integerNotFinite", invoiceWith("status", qQNaN())},
-    {"textForItems", invoiceWith("items", "three")},
-    {"recordForItems", invoiceWith("items", itemDictionary())},
     {"textInItems", invoiceWith("items", QVariantList{itemDictionary(), "x"})},
     {"documentInItems", invoiceWith("items", QVariantList{QVariantMap{{"class", "Invoice"}}})},
     {"damagedSecondItem",
