@@ -155,6 +155,7 @@ TEST_F(EInvoiceTest, IncompleteOrWrongDataIsRefusedNamingTheField)
         {"The invoice number is missing.", {"number="}, en},
         {"Only invoices can be sent as e-invoices", {"kind=0"}, en},
         {"The invoice total must be more than zero", {"discountKind=0", "discountAmount=1000", "!"}, en},
+        {"The invoice total must be more than zero", {"discountPercent=1", "!"}, en},
         {"The invoice's amounts do not add up", {"amount=400"}, en},
         {"The buyer reference (Leitweg-ID) is missing.", {"buyerReference="}, xr},
         {"The seller's contact phone is missing.", {"@prefsContactPhone"}, xr},
