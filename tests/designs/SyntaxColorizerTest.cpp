@@ -3,7 +3,6 @@
 #include "store/PropertyList.h"
 #include "store/Settings.h"
 
-#include <QDir>
 #include <QFile>
 #include <QRandomGenerator>
 #include <QTemporaryDir>

@@ -5,7 +5,6 @@
 #include "tests/output/OutputFixture.h"
 #include "tests/output/PdfSupport.h"
 
-#include <QDir>
 #include <QFile>
 #include <QPainter>
 #include <QPdfWriter>

@@ -5,7 +5,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QTimeZone>
 
 #include <functional>
 

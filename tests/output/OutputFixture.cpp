@@ -4,7 +4,6 @@
 #include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QTimeZone>
 
 namespace vorn::test {
 

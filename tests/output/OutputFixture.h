@@ -11,7 +11,6 @@
 #include "tests/support/TestValues.h"
 
 #include <QColor>
-#include <QVariantMap>
 
 #include <gtest/gtest.h>
 

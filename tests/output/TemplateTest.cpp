@@ -3,7 +3,6 @@
 #include "output/PdfRenderer.h"
 #include "tests/output/OutputFixture.h"
 
-#include <QFile>
 #include <QImage>
 
 #include <functional>

@@ -1,6 +1,5 @@
 #include "tests/services/HttpStub.h"
 
-#include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QEventLoop>
 #include <QTcpSocket>
