@@ -288,37 +288,25 @@ TEST_F(DesignTest, ExportThenImportGivesASecondDesignThatIsNotDefault)
     EXPECT_EQ(defaultCount(), 1);
 }
 
-struct BadDesignFile
-{
-    const char* name;
-    QByteArray data;
-};
-
-class DesignImportRefused : public DesignTest, public ::testing::WithParamInterface<BadDesignFile>
-{
-};
-
-TEST_P(DesignImportRefused, NothingChangesAndTheErrorIsShown)
+TEST_F(DesignTest, ADamagedDesignFileIsRefusedAndChangesNothing)
 {
     seed();
-    ui.answerPanel(write("bad.design", GetParam().data));
-    EXPECT_EQ(designs.importDesign(), nullptr);
-    ASSERT_EQ(ui.calls("error").size(), 1);
-    EXPECT_FALSE(ui.calls("error")[0].title.isEmpty());
-    EXPECT_EQ(context.fetch(Entity::Design).size(), 9);
-    EXPECT_FALSE(context.hasChanges());
+    const std::pair<const char*, QByteArray> files[] = {
+        {"text", "not a design at all"},
+        {"document file", KeyedArchive::archive(QVariantMap{{"vornDic", QVariantMap{{"class", "Design"}}}})},
+        {"design not a record", PropertyList::toXml(QVariantMap{{"designDic", "Classic"}})},
+        {"title is a number", InterchangeFile::designFileData({{"class", "Design"}, {"title", qint64(5)}})}};
+    for (const auto& [name, data] : files) {
+        SCOPED_TRACE(name);
+        ui.clear();
+        ui.answerPanel(write("bad.design", data));
+        EXPECT_EQ(designs.importDesign(), nullptr);
+        ASSERT_EQ(ui.calls("error").size(), 1);
+        EXPECT_FALSE(ui.calls("error")[0].title.isEmpty());
+        EXPECT_EQ(context.fetch(Entity::Design).size(), 9);
+        EXPECT_FALSE(context.hasChanges());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Cases, DesignImportRefused,
-    ::testing::Values(
-        BadDesignFile{"text", "not a design at all"},
-        BadDesignFile{"documentFile",
-                      KeyedArchive::archive(QVariantMap{{"vornDic", QVariantMap{{"class", "Design"}}}})},
-        BadDesignFile{"designNotARecord", PropertyList::toXml(QVariantMap{{"designDic", "Classic"}})},
-        BadDesignFile{"titleIsANumber",
-                      InterchangeFile::designFileData({{"class", "Design"}, {"title", qint64(5)}})}),
-    [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(DesignTest, WithoutDesignsOrStoreThereIsNoCurrentDesign)
 {

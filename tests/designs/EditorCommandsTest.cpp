@@ -41,65 +41,44 @@ enum class Command
     CommentHtml
 };
 
-struct CommandCase
+TEST(EditorCommandsTest, ChangeTheSelectedLines)
 {
-    const char* what;
-    Command command;
-    const char* before;
-    const char* after;
-};
-
-class CommandTest : public ::testing::TestWithParam<CommandCase>
-{
-};
-
-TEST_P(CommandTest, ChangesTheSelectedLines)
-{
-    const CommandCase& c = GetParam();
-    const Marked m = parse(c.before);
-    EditorCommands::Outcome o;
-    switch (c.command) {
-    case Command::Indent:
-        o = EditorCommands::indent(m.text, m.start, m.length);
-        break;
-    case Command::Unindent:
-        o = EditorCommands::unindent(m.text, m.start, m.length);
-        break;
-    case Command::CommentCss:
-    case Command::CommentHtml:
-        o = EditorCommands::comment(m.text, m.start, m.length,
-                                    EditorCommands::commentMarker(c.command == Command::CommentCss
-                                                                      ? EditorCommands::StyleSheetEditor
-                                                                      : EditorCommands::PageEditor));
+    const struct
+    {
+        const char* what;
+        Command command;
+        const char* before;
+        const char* after;
+    } cases[] = {
+        {"indent every selected line", Command::Indent, "[a\nb\nc]", "[\ta\n\tb\n\tc]"},
+        {"a selection ending at a line break leaves the next line", Command::Indent, "[a\nb\n]c",
+         "[\ta\n\tb\n]c"},
+        {"indent starts at the selection, not the line", Command::Indent, "ab[c]", "ab[\tc]"},
+        {"a caret indents at the caret", Command::Indent, "a[]b", "a[\t]b"},
+        {"CR LF counts as one line break", Command::Indent, "[a\r\nb]", "[\ta\r\n\tb]"},
+        {"unindent removes one tab or space per line", Command::Unindent, "[\t\ta\n  b\nc]", "[\ta\n b\nc]"},
+        {"unindent of a line selected in the middle", Command::Unindent, "\tab[c]", "ab[c]"},
+        {"unindent leaves the line after a final break", Command::Unindent, "[\ta\n]\tb", "[a\n]\tb"},
+        {"comment puts the marker at column 0 of every line", Command::CommentCss, "  [a\n  // b\nc]",
+         "[//  a\n//  // b\n//c]"},
+        {"uncomment removes the first marker after white space", Command::CommentCss,
+         "[  // a\n//b\nc\n\t// // d]", "[   a\nb\nc\n\t // d]"},
+        {"a marker at the selection decides, only a leading one goes", Command::CommentCss, "x[//a]",
+         "[x//a]"},
+        {"a caret comments its line", Command::CommentCss, "a\nb[]c\nd", "a\n[//bc]\nd"},
+        {"the HTML editors beep and change nothing", Command::CommentHtml, "[<b>\n</b>]", "[<b>\n</b>]"}};
+    for (const auto& c : cases) {
+        const Marked m = parse(c.before);
+        const EditorCommands::Editor editor =
+            c.command == Command::CommentCss ? EditorCommands::StyleSheetEditor : EditorCommands::PageEditor;
+        const EditorCommands::Outcome o =
+            c.command == Command::Indent ? EditorCommands::indent(m.text, m.start, m.length)
+            : c.command == Command::Unindent
+                ? EditorCommands::unindent(m.text, m.start, m.length)
+                : EditorCommands::comment(m.text, m.start, m.length, EditorCommands::commentMarker(editor));
         EXPECT_EQ(o.beep, c.command == Command::CommentHtml) << c.what;
-        break;
+        EXPECT_EQ(show(m.text, o), QString(c.after)) << c.what;
     }
-    EXPECT_EQ(show(m.text, o), QString(c.after)) << c.what;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Commands, CommandTest,
-    ::testing::Values(
-        CommandCase{"indent every selected line", Command::Indent, "[a\nb\nc]", "[\ta\n\tb\n\tc]"},
-        CommandCase{"a selection ending at a line break leaves the next line", Command::Indent, "[a\nb\n]c",
-                    "[\ta\n\tb\n]c"},
-        CommandCase{"indent starts at the selection, not the line", Command::Indent, "ab[c]", "ab[\tc]"},
-        CommandCase{"a caret indents at the caret", Command::Indent, "a[]b", "a[\t]b"},
-        CommandCase{"CR LF counts as one line break", Command::Indent, "[a\r\nb]", "[\ta\r\n\tb]"},
-        CommandCase{"unindent removes one tab or space per line", Command::Unindent, "[\t\ta\n  b\nc]",
-                    "[\ta\n b\nc]"},
-        CommandCase{"unindent of a line selected in the middle", Command::Unindent, "\tab[c]", "ab[c]"},
-        CommandCase{"unindent leaves the line after a final break", Command::Unindent, "[\ta\n]\tb",
-                    "[a\n]\tb"},
-        CommandCase{"comment puts the marker at column 0 of every line", Command::CommentCss,
-                    "  [a\n  // b\nc]", "[//  a\n//  // b\n//c]"},
-        CommandCase{"uncomment removes the first marker after white space", Command::CommentCss,
-                    "[  // a\n//b\nc\n\t// // d]", "[   a\nb\nc\n\t // d]"},
-        CommandCase{"a marker at the selection decides, only a leading one goes", Command::CommentCss,
-                    "x[//a]", "[x//a]"},
-        CommandCase{"a caret comments its line", Command::CommentCss, "a\nb[]c\nd", "a\n[//bc]\nd"},
-        CommandCase{"the HTML editors beep and change nothing", Command::CommentHtml, "[<b>\n</b>]",
-                    "[<b>\n</b>]"}),
-    [](const auto& info) { return "case" + std::to_string(info.index); });
 
 } // namespace

@@ -59,39 +59,31 @@ QString colored(const QString& text)
     return modeString(c);
 }
 
-struct PassCase
+TEST(SyntaxColorizerTest, ColoursAsTheComponentsSay)
 {
-    const char* what;
-    const char* text;
-    const char* modes;
-};
-
-class PassTest : public ::testing::TestWithParam<PassCase>
-{
-};
-
-TEST_P(PassTest, ColorsAsTheComponentsSay)
-{
-    EXPECT_EQ(colored(GetParam().text).toStdString(), GetParam().modes) << GetParam().what;
+    const struct
+    {
+        const char* what;
+        const char* text;
+        const char* modes;
+    } cases[] = {
+        {"whole word only", "if iff xif if", "KK.........KK"},
+        {"word followed by a word character stays plain", "if_x", "...."},
+        {"a word with non-word characters is found by search", "a %TOTAL%.", "..KKKKKKK."},
+        {"a searched word still needs its boundaries", "a%TOTAL%", "........"},
+        {"escaped end marker does not end a string", R"(a "b\"c" d)", "..SSSSSS.."},
+        {"unterminated string runs to the end", "x \"ab\ncd", "..SSSSSS"},
+        {"tag inside a comment is not a tag", "/* <b> */<i>", "CCCCCCCCCTTT"},
+        {"tag whose end lies in a comment is skipped", "<a /* > */", "...CCCCCCC"},
+        {"later components overwrite earlier ones", "<a \"x\">", "TTTSSST"},
+        {"unterminated comment runs to the end", "a /* b\nc", "..CCCCCC"},
+        {"one-line comment stops at the line break", "a // b\nif", "..LLLL.KK"},
+        {"comments win over everything before them", "/* \"if\" */", "CCCCCCCCCC"},
+        {"empty text", "", ""},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(colored(c.text).toStdString(), c.modes) << c.what;
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Components, PassTest,
-    ::testing::Values(PassCase{"whole word only", "if iff xif if", "KK.........KK"},
-                      PassCase{"word followed by a word character stays plain", "if_x", "...."},
-                      PassCase{"a word with non-word characters is found by search", "a %TOTAL%.",
-                               "..KKKKKKK."},
-                      PassCase{"a searched word still needs its boundaries", "a%TOTAL%", "........"},
-                      PassCase{"escaped end marker does not end a string", R"(a "b\"c" d)", "..SSSSSS.."},
-                      PassCase{"unterminated string runs to the end", "x \"ab\ncd", "..SSSSSS"},
-                      PassCase{"tag inside a comment is not a tag", "/* <b> */<i>", "CCCCCCCCCTTT"},
-                      PassCase{"tag whose end lies in a comment is skipped", "<a /* > */", "...CCCCCCC"},
-                      PassCase{"later components overwrite earlier ones", "<a \"x\">", "TTTSSST"},
-                      PassCase{"unterminated comment runs to the end", "a /* b\nc", "..CCCCCC"},
-                      PassCase{"one-line comment stops at the line break", "a // b\nif", "..LLLL.KK"},
-                      PassCase{"comments win over everything before them", "/* \"if\" */", "CCCCCCCCCC"},
-                      PassCase{"empty text", "", ""}),
-    [](const auto& info) { return "case" + std::to_string(info.index); });
 
 class SyntaxDefinitionTest : public ::testing::Test
 {
@@ -168,44 +160,35 @@ TEST_F(SyntaxDefinitionTest, AnUnreadableDefinitionIsPlainText)
 
 // Editing: after each edit the modes must be what colouring the whole new
 // text gives, while only the affected lines are recoloured.
-struct EditCase
+TEST(SyntaxColorizerTest, RecoloursTheAffectedTextOnly)
 {
-    const char* what;
-    const char* before;
-    int position;
-    int removed;
-    const char* added;
-    int maxRecoloured; // characters recoloured at most
-};
-
-class EditTest : public ::testing::TestWithParam<EditCase>
-{
-};
-
-TEST_P(EditTest, RecoloursTheAffectedTextOnly)
-{
-    const EditCase& e = GetParam();
-    SyntaxColorizer c(SyntaxDefinition::fromDictionary(testLanguage(), nullptr));
-    c.setText(e.before);
-    const SyntaxColorizer::Range range = c.textChanged(e.position, e.removed, e.added);
-    EXPECT_EQ(modeString(c).toStdString(), colored(c.text()).toStdString()) << e.what;
-    EXPECT_LE(range.length, e.maxRecoloured) << e.what;
+    const struct
+    {
+        const char* what;
+        const char* before;
+        int position;
+        int removed;
+        const char* added;
+        int maxRecoloured; // characters recoloured at most
+    } edits[] = {
+        {"typing in a plain line recolours that line", "aaa\nbbb\nccc\nddd", 5, 0, "x", 5},
+        {"opening a comment recolours to the end", "aaa\nbbb\nccc\nddd", 4, 0, "/*", 18},
+        {"closing a comment recolours what it covered", "a /*\nbbb\nccc\nddd\neee", 7, 0, "*/", 22},
+        {"typing inside a comment recolours the comment", "x\n/* a\nb\nc */\ny\nz", 5, 0, "q", 13},
+        {"typing inside an unterminated comment recolours to the end", "x\n/* a\nb\nc\nd", 5, 0, "q", 12},
+        {"deleting a line break joins the lines", "if\nif\nzz", 2, 1, "", 6},
+        {"deleting the comment start", "/* a\nb\nc */ if\nd", 0, 2, "", 20},
+        {"typing a quote opens a string across lines", "a\nb\nc \"d\ne", 2, 0, "\"", 12},
+        {"deleting everything", "if", 0, 2, "", 0},
+    };
+    for (const auto& e : edits) {
+        SyntaxColorizer c(SyntaxDefinition::fromDictionary(testLanguage(), nullptr));
+        c.setText(e.before);
+        const SyntaxColorizer::Range range = c.textChanged(e.position, e.removed, e.added);
+        EXPECT_EQ(modeString(c).toStdString(), colored(c.text()).toStdString()) << e.what;
+        EXPECT_LE(range.length, e.maxRecoloured) << e.what;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Edits, EditTest,
-    ::testing::Values(
-        EditCase{"typing in a plain line recolours that line", "aaa\nbbb\nccc\nddd", 5, 0, "x", 5},
-        EditCase{"opening a comment recolours to the end", "aaa\nbbb\nccc\nddd", 4, 0, "/*", 18},
-        EditCase{"closing a comment recolours what it covered", "a /*\nbbb\nccc\nddd\neee", 7, 0, "*/", 22},
-        EditCase{"typing inside a comment recolours the comment", "x\n/* a\nb\nc */\ny\nz", 5, 0, "q", 13},
-        EditCase{"typing inside an unterminated comment recolours to the end", "x\n/* a\nb\nc\nd", 5, 0, "q",
-                 12},
-        EditCase{"deleting a line break joins the lines", "if\nif\nzz", 2, 1, "", 6},
-        EditCase{"deleting the comment start", "/* a\nb\nc */ if\nd", 0, 2, "", 20},
-        EditCase{"typing a quote opens a string across lines", "a\nb\nc \"d\ne", 2, 0, "\"", 12},
-        EditCase{"deleting everything", "if", 0, 2, "", 0}),
-    [](const auto& info) { return "case" + std::to_string(info.index); });
 
 TEST(SyntaxColorizerTest, RandomEditsColourAsTheWholeTextWould)
 {
