@@ -158,31 +158,23 @@ TEST_F(Exporting, DocumentsExportInBothFormats)
     EXPECT_TRUE(ui.errorCodes().isEmpty());
 }
 
-struct PrintCase
+// The print panels show only when the setting asks (1); 0 and 2 print at once.
+TEST_F(Exporting, PrintingShowsThePanelsOnlyWhenTheSettingAsks)
 {
-    int behavior;
-    bool panels;
-};
-
-class Printing : public Exporting, public ::testing::WithParamInterface<PrintCase>
-{
-};
-
-TEST_P(Printing, ShowsThePanelsOnlyWhenTheSettingAsks)
-{
-    settings.setValue("printBehavior", GetParam().behavior);
     document(1);
-    run(&ExportController::printInvoice);
-    const auto prints = ui.calls("print");
-    ASSERT_EQ(prints.size(), 1);
-    EXPECT_EQ(prints[0].title, "Tandrelo Studio | Invoice | INV-2025-17");
-    EXPECT_EQ(prints[0].text, "iso-a4");
-    EXPECT_EQ(prints[0].code, GetParam().panels ? 1 : 0);
-    EXPECT_EQ(settings.stringValue("currentPrintJobTitle"), prints[0].title);
+    for (int behavior : {0, 1, 2}) {
+        SCOPED_TRACE(behavior);
+        settings.setValue("printBehavior", behavior);
+        ui.clear();
+        run(&ExportController::printInvoice);
+        const auto prints = ui.calls("print");
+        ASSERT_EQ(prints.size(), 1);
+        EXPECT_EQ(prints[0].title, "Tandrelo Studio | Invoice | INV-2025-17");
+        EXPECT_EQ(prints[0].text, "iso-a4");
+        EXPECT_EQ(prints[0].code, behavior == 1 ? 1 : 0);
+        EXPECT_EQ(settings.stringValue("currentPrintJobTitle"), prints[0].title);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(PrintBehavior, Printing,
-                         ::testing::Values(PrintCase{0, false}, PrintCase{1, true}, PrintCase{2, false}));
 
 // A three-page PDF with numbered pages, as the preview makes them.
 QString threePagePdf(const QString& path)
@@ -200,65 +192,57 @@ QString threePagePdf(const QString& path)
     return path;
 }
 
-struct FooterCase
-{
-    bool numbers;
-    bool details;
-    bool borderless;
-    const char* expected; // on page 2 of 3
-};
+// Printed pages carry the footer line the settings ask for (here on page 2 of 3).
+using Footers = OutputFixture;
 
-class Footers : public OutputFixture, public ::testing::WithParamInterface<FooterCase>
+TEST_F(Footers, PrintedPagesCarryTheFooterLine)
 {
-};
+    const std::tuple<bool, bool, bool, const char*> cases[] = {
+        {true, false, false, "Page 2 of 3"},
+        {true, true, false, "Tandrelo Studio | Invoice | 17 | Page 2 of 3"},
+        {false, true, false, ""},
+        {true, true, true, ""}};
+    for (const auto& [numbers, details, borderless, expected] : cases) {
+        SCOPED_TRACE(expected);
+        assign(settings, "tempPrintNumbers", numbers, "tempPrintDetails", details, "printBorderless",
+               borderless, "currentPrintJobTitle", "Tandrelo Studio | Invoice | 17");
+        PdfImageView view(settings);
+        ASSERT_TRUE(view.loadFromPath(threePagePdf(home("three.pdf"))).ok());
+        EXPECT_EQ(view.pageCount(), 3);
+        EXPECT_EQ(view.footerLine(2, 3), QString::fromUtf8(expected));
 
-TEST_P(Footers, PrintedPagesCarryTheFooterLine)
-{
-    const FooterCase& c = GetParam();
-    assign(settings, "tempPrintNumbers", c.numbers, "tempPrintDetails", c.details, "printBorderless",
-           c.borderless, "currentPrintJobTitle", "Tandrelo Studio | Invoice | 17");
-    PdfImageView view(settings);
-    ASSERT_TRUE(view.loadFromPath(threePagePdf(home("three.pdf"))).ok());
-    EXPECT_EQ(view.pageCount(), 3);
-    EXPECT_EQ(view.footerLine(2, 3), QString::fromUtf8(c.expected));
-
-    // Print it as the shell would, into a PDF, and read the footer back.
-    UserInterface::PrintJob job = view.printJob("job", "iso-a4", false);
-    ASSERT_EQ(job.pageCount, 3);
-    const QString printed = home("printed.pdf");
-    {
-        QPdfWriter writer(printed);
-        writer.setPageSize(QPageSize(QPageSize::A4));
-        writer.setPageMargins(QMarginsF(0, 0, 0, 0));
-        writer.setResolution(300);
-        QPainter painter(&writer);
-        for (int page = 0; page < job.pageCount; ++page) {
-            if (page > 0)
-                writer.newPage();
-            job.paintPage(painter, page, QRectF(QPointF(0, 0), QSizeF(writer.width(), writer.height())));
+        // Print it as the shell would, into a PDF, and read the footer back.
+        UserInterface::PrintJob job = view.printJob("job", "iso-a4", false);
+        ASSERT_EQ(job.pageCount, 3);
+        const QString printed = home("printed.pdf");
+        {
+            QPdfWriter writer(printed);
+            writer.setPageSize(QPageSize(QPageSize::A4));
+            writer.setPageMargins(QMarginsF(0, 0, 0, 0));
+            writer.setResolution(300);
+            QPainter painter(&writer);
+            for (int page = 0; page < job.pageCount; ++page) {
+                if (page > 0)
+                    writer.newPage();
+                job.paintPage(painter, page, QRectF(QPointF(0, 0), QSizeF(writer.width(), writer.height())));
+            }
         }
+        PdfInspector pdf(read(printed));
+        ASSERT_EQ(pdf.pageCount(), 3);
+        const QString page2 = pdf.text(1).simplified();
+        if (*expected)
+            EXPECT_TRUE(page2.contains(QString::fromUtf8(expected))) << page2.toStdString();
+        else
+            EXPECT_TRUE(page2.isEmpty()) << page2.toStdString();
+        // The page image itself is there, in the upper part of the sheet.
+        const QImage image = pdf.image(1);
+        bool inked = false;
+        for (int y = 80; y < 110 && !inked; ++y)
+            for (int x = 95; x < 200 && !inked; ++x)
+                inked = qAlpha(image.pixel(x, y)) > 0 && qGray(image.pixel(x, y)) < 128;
+        EXPECT_TRUE(inked);
     }
-    PdfInspector pdf(read(printed));
-    ASSERT_EQ(pdf.pageCount(), 3);
-    const QString page2 = pdf.text(1).simplified();
-    if (*c.expected)
-        EXPECT_TRUE(page2.contains(QString::fromUtf8(c.expected))) << page2.toStdString();
-    else
-        EXPECT_TRUE(page2.isEmpty()) << page2.toStdString();
-    // The page image itself is there, in the upper part of the sheet.
-    const QImage image = pdf.image(1);
-    bool inked = false;
-    for (int y = 80; y < 110 && !inked; ++y)
-        for (int x = 95; x < 200 && !inked; ++x)
-            inked = qAlpha(image.pixel(x, y)) > 0 && qGray(image.pixel(x, y)) < 128;
-    EXPECT_TRUE(inked);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Settings, Footers,
-    ::testing::Values(FooterCase{true, false, false, "Page 2 of 3"},
-                      FooterCase{true, true, false, "Tandrelo Studio | Invoice | 17 | Page 2 of 3"},
-                      FooterCase{false, true, false, ""}, FooterCase{true, true, true, ""}));
 
 } // namespace
 } // namespace vorn::test
