@@ -90,57 +90,43 @@ protected:
     MainWindow window{app};
 };
 
-struct AlertCase
+// An alert answers the position of the button chosen, Return taking the
+// first and Escape taking Cancel wherever it stands; a sheet is modal to its window.
+TEST_F(QtUserInterfaceTest, AlertsAnswerThePositionOfTheChosenButton)
 {
-    const char* what;
-    QStringList buttons;
-    bool sheet;
-    std::function<void(QMessageBox&)> answer;
-    int expected;
-};
-
-class AlertTest : public QtUserInterfaceTest, public ::testing::WithParamInterface<AlertCase>
-{
-};
-
-TEST_P(AlertTest, AnswersThePositionOfTheChosenButton)
-{
-    const AlertCase& c = GetParam();
-    SCOPED_TRACE(c.what);
-    Seen seen;
-    answerNextBox(c.answer, seen, &window);
-    const UserInterface::Alert alert{"Delete Invoice", "Do you really want to?", c.buttons,
-                                     UserInterface::AlertStyle::Warning, c.sheet};
-    EXPECT_EQ(ui.runAlert(alert), c.expected);
-
-    QStringList shown = c.buttons.isEmpty() ? QStringList{"OK"} : c.buttons;
-    shown.sort();
-    EXPECT_EQ(seen.buttons, shown);
-    EXPECT_EQ(seen.defaultButton, c.buttons.isEmpty() ? "OK" : c.buttons.first());
-    EXPECT_EQ(seen.text, alert.title);
-    EXPECT_EQ(seen.informativeText, alert.text);
-    EXPECT_EQ(seen.modality, c.sheet ? Qt::WindowModal : Qt::ApplicationModal);
-    EXPECT_EQ(seen.onMainWindow, true);
+    const QStringList deleteOrCancel{"Delete", "Cancel"};
+    const QStringList threeWay{"Save", "Don't Save", "Cancel"};
+    const struct
+    {
+        const char* what;
+        QStringList buttons;
+        bool sheet;
+        std::function<void(QMessageBox&)> answer;
+        int expected;
+    } cases[] = {
+        {"Return takes the first button", deleteOrCancel, true, press(Qt::Key_Return), 0},
+        {"Escape takes Cancel", deleteOrCancel, false, press(Qt::Key_Escape), 1},
+        {"Escape on a lone OK", {}, true, press(Qt::Key_Escape), 0},
+        {"the middle of three", threeWay, true, click("Don't Save"), 1},
+        {"Escape among three takes Cancel, wherever it is", threeWay, false, press(Qt::Key_Escape), 2},
+        {"Escape takes Cancel when it comes first", {"Cancel", "Convert"}, false, press(Qt::Key_Escape), 0}};
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.what);
+        Seen seen;
+        answerNextBox(c.answer, seen, &window);
+        const UserInterface::Alert alert{"Delete Invoice", "Do you really want to?", c.buttons,
+                                         UserInterface::AlertStyle::Warning, c.sheet};
+        EXPECT_EQ(ui.runAlert(alert), c.expected);
+        QStringList shown = c.buttons.isEmpty() ? QStringList{"OK"} : c.buttons;
+        shown.sort();
+        EXPECT_EQ(seen.buttons, shown);
+        EXPECT_EQ(seen.defaultButton, c.buttons.isEmpty() ? "OK" : c.buttons.first());
+        EXPECT_EQ(seen.text, alert.title);
+        EXPECT_EQ(seen.informativeText, alert.text);
+        EXPECT_EQ(seen.modality, c.sheet ? Qt::WindowModal : Qt::ApplicationModal);
+        EXPECT_TRUE(seen.onMainWindow);
+    }
 }
-
-const QStringList deleteOrCancel{"Delete", "Cancel"};
-const QStringList threeWay{"Save", "Don't Save", "Cancel"};
-
-INSTANTIATE_TEST_SUITE_P(
-    Buttons, AlertTest,
-    ::testing::Values(AlertCase{"Return takes the first button", deleteOrCancel, true, press(Qt::Key_Return),
-                                0},
-                      AlertCase{"Escape takes Cancel", deleteOrCancel, false, press(Qt::Key_Escape), 1},
-                      AlertCase{"Escape on a lone OK", {}, true, press(Qt::Key_Escape), 0},
-                      AlertCase{"the middle of three", threeWay, true, click("Don't Save"), 1},
-                      AlertCase{"Escape among three takes Cancel, wherever it is", threeWay, false,
-                                press(Qt::Key_Escape), 2},
-                      AlertCase{"Escape takes Cancel when it comes first",
-                                {"Cancel", "Convert"},
-                                false,
-                                press(Qt::Key_Escape),
-                                0}),
-    [](const ::testing::TestParamInfo<AlertCase>& info) { return std::to_string(info.index); });
 
 TEST_F(QtUserInterfaceTest, PresentsAnErrorWithItsReasonAndDoesNotRecover)
 {
