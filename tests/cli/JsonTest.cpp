@@ -2,6 +2,7 @@
 #include "cli/CommandRegistry.h"
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
+#include "tests/support/TestValues.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -14,11 +15,6 @@
 
 namespace vorn::test {
 namespace {
-
-QDateTime utc(int y, int mo, int d, int h, int mi, int s = 0, int ms = 0)
-{
-    return QDateTime(QDate(y, mo, d), QTime(h, mi, s, ms), QTimeZone::utc());
-}
 
 const std::pair<float, const char*> floatCases[] = {
     {0.07f, "0.07"},         {34.65f, "34.65"},         {0.1f, "0.1"},    {1.0f, "1"},
