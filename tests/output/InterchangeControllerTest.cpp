@@ -10,14 +10,15 @@
 #include "store/Settings.h"
 #include "store/SqliteStore.h"
 #include "tests/support/ScriptedUserInterface.h"
+#include "tests/support/TestValues.h"
 
 #include <QFile>
 #include <QTemporaryDir>
-#include <QTimeZone>
 
 #include <gtest/gtest.h>
 
 using namespace vorn;
+using vorn::test::utc;
 
 namespace {
 
@@ -28,18 +29,13 @@ const QString warningText =
     "please, do "
     "yourself a favor and check what you are doing here. Do you still want to import the invoice?";
 
-QDateTime utc(int y, int m, int d)
-{
-    return QDateTime(QDate(y, m, d), QTime(9, 0), QTimeZone::utc());
-}
-
 class InterchangeControllerTest : public ::testing::Test
 {
 protected:
     QTemporaryDir dir;
     Settings settings{dir.filePath("settings.plist")};
     test::ScriptedUserInterface ui;
-    FixedClock clock{utc(2026, 3, 1)};
+    FixedClock clock{utc(2026, 3, 1, 9)};
     AppState state{settings, ui, clock, FileLocations{}};
     ObjectContext context{nullptr, clock};
     InterchangeController interchange{state};
@@ -84,10 +80,10 @@ TEST_F(InterchangeControllerTest, ImportAsksThenAddsTheDocumentAsItIsAndSaves)
                       {"vornDic", QVariantMap{{"class", "Address"},
                                               {"number", "RE-9"},
                                               {"status", qint64(3)},
-                                              {"date", utc(2025, 12, 24)},
+                                              {"date", utc(2025, 12, 24, 9)},
                                               {"items", QVariantList{QVariantMap{{"class", "NSManagedObject"},
                                                                                  {"title", "Work"}}}}}}}));
-    document("RE-1", utc(2026, 1, 1));
+    document("RE-1", utc(2026, 1, 1, 9));
     ASSERT_TRUE(context.save());
     ui.answerAlert(0);
     ui.answerPanel(path);
@@ -96,7 +92,7 @@ TEST_F(InterchangeControllerTest, ImportAsksThenAddsTheDocumentAsItIsAndSaves)
     EXPECT_EQ(imported->entityName(), Entity::Invoice);
     EXPECT_EQ(imported->stringValue("number"), "RE-9");
     EXPECT_EQ(imported->intValue("status"), 3);
-    EXPECT_EQ(imported->dateValue("date"), utc(2025, 12, 24));
+    EXPECT_EQ(imported->dateValue("date"), utc(2025, 12, 24, 9));
     ASSERT_EQ(imported->items().size(), 1);
     EXPECT_EQ(imported->items().first()->stringValue("title"), "Work");
 
@@ -180,7 +176,7 @@ TEST_F(InterchangeControllerTest, CancellingOrABadFileImportsNothing)
     const QString bad = writeFile(
         "bad.vorn",
         KeyedArchive::archive(QVariantMap{{"vornDic", QVariantMap{{"class", "Invoice"}, {"number", 5}}}}));
-    ManagedObject* pending = document("RE-1", utc(2026, 1, 1));
+    ManagedObject* pending = document("RE-1", utc(2026, 1, 1, 9));
 
     ui.answerAlert(1); // "Cancel"
     EXPECT_EQ(interchange.importInvoice(), nullptr);
@@ -212,9 +208,9 @@ TEST_F(InterchangeControllerTest, CancellingOrABadFileImportsNothing)
 
 TEST_F(InterchangeControllerTest, ExportsWriteTheListedOrEveryDocument)
 {
-    document("A", utc(2026, 1, 5));
-    document("B", utc(2026, 2, 5), 0);
-    document("C", utc(2026, 1, 20));
+    document("A", utc(2026, 1, 5, 9));
+    document("B", utc(2026, 2, 5, 9), 0);
+    document("C", utc(2026, 1, 20, 9));
     state.invoicesController().setFilterPredicate(
         [](const ManagedObject& d) { return d.intValue("kind") == 1; });
 
