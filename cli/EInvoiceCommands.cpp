@@ -5,6 +5,7 @@
 #include "einvoice/EInvoiceController.h"
 #include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
+#include "store/AtomicFile.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -72,7 +73,7 @@ int einvoiceCommand(CommandContext& c)
         if (!file)
             return c.fail(file.error().fullText());
     }
-    if (Status written = einvoice.writeNew(target, file.value()); !written)
+    if (Status written = AtomicFile::writeNew(target, file.value()); !written)
         return c.fail(written.error().fullText());
     c.out = target + QLatin1Char('\n');
     return ExitCode::Done;
