@@ -1996,6 +1996,17 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ItemCellView</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
+    </message>
+</context>
+<context>
     <name>vorn::ItemController</name>
     <message>
         <source>Add Item</source>

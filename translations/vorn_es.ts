@@ -1996,6 +1996,17 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ItemCellView</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulo</translation>
+    </message>
+</context>
+<context>
     <name>vorn::ItemController</name>
     <message>
         <source>Add Item</source>

@@ -1996,6 +1996,17 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     </message>
 </context>
 <context>
+    <name>vorn::ItemCellView</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sous-titre</translation>
+    </message>
+</context>
+<context>
     <name>vorn::ItemController</name>
     <message>
         <source>Add Item</source>
