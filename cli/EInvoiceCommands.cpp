@@ -3,7 +3,6 @@
 #include "cli/CommandRegistry.h"
 #include "cli/DocumentCommandSupport.h"
 #include "einvoice/EInvoiceController.h"
-#include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
 #include "store/AtomicFile.h"
 
@@ -49,9 +48,8 @@ int einvoiceCommand(CommandContext& c)
         return ExitCode::Usage;
 
     AppState& state = c.app.state();
-    PdfRenderer renderer;
-    PreviewController preview(state, renderer);
-    EInvoiceController einvoice(state, preview);
+    PreviewController& preview = c.app.preview();
+    EInvoiceController& einvoice = c.app.einvoice();
     const QString target = QFileInfo(args[1]).absoluteFilePath();
 
     Result<QByteArray> file = einvoice.xml(*document, profile);
