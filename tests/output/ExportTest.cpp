@@ -112,6 +112,8 @@ TEST_F(Exporting, PdfIsCopiedWhereTheUserChoseButNeverOverAFile)
     ui.answerPanel(write("keep.pdf", "mine"));
     run(&ExportController::pdfInvoice);
     ASSERT_EQ(ui.errorCodes(), QList<int>{516});
+    EXPECT_EQ(ui.calls("error").last().title,
+              "“keep.pdf” could not be written because a file of that name already exists.");
     EXPECT_EQ(read(home("keep.pdf")), QByteArray("mine"));
 }
 
