@@ -86,7 +86,7 @@ TEST_F(SettingsTest, RegisteredDefaultsAnswerReadsButAreNeverWritten)
 TEST_F(SettingsTest, AFailedWriteIsReportedAndTheValuesStay)
 {
     // A file where the settings folder should be: nothing can be written.
-    writeBytes(QFileInfo(file()).absolutePath(), {});
+    writeFile(QFileInfo(file()).absolutePath(), {});
     Settings settings(file());
     ASSERT_TRUE(settings.load());
     settings.setValue("locInvoice", "Invoice");
@@ -124,7 +124,7 @@ class BadSettingsTest : public SettingsTest, public ::testing::WithParamInterfac
 TEST_P(BadSettingsTest, UnreadableFileIsReportedAndNeverOverwritten)
 {
     const QByteArray& bytes = GetParam().bytes;
-    writeBytes(file(), bytes);
+    writeFile(file(), bytes);
     {
         Settings settings(file());
         const Status loaded = settings.load();
@@ -205,9 +205,9 @@ QString loggedKey;
 TEST_P(TypedReadTest, ReadsAsItsTypeOrAsTheDeclaredDefault)
 {
     const TypedRead& row = GetParam();
-    writeBytes(file(),
-               QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>") +
-                   row.key + "</key>" + row.stored + "</dict></plist>");
+    writeFile(file(),
+              QByteArray("<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<plist version=\"1.0\"><dict><key>") +
+                  row.key + "</key>" + row.stored + "</dict></plist>");
     Settings settings(file());
     ASSERT_TRUE(settings.load());
     settings.setDeclaredDefaults(declaredDefaults);
