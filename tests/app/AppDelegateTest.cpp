@@ -86,13 +86,10 @@ TEST_P(StoreFailureTest, IsToldThenTheApplicationStaysUpAndWritesNothing)
     const StoreFailure& row = GetParam();
     const QString path = row.damagedStore ? h.storePath() : h.env.locations().filesDirectory;
     if (row.damagedStore) {
-        QDir().mkpath(QFileInfo(path).absolutePath());
-        auto store = SqliteStore::open(path, ObjectModel::vorn());
-        ASSERT_TRUE(store.ok());
-        ObjectContext ctx(std::move(store.value()), h.clock);
-        for (int i = 0; i < 300; ++i)
-            ctx.insertNewObject(Entity::Invoice)->setValue("notes", QString(200, 'x'));
-        ASSERT_TRUE(ctx.save());
+        h.launch(false);
+        h.addDocuments(200, "D");
+        h.quit();
+        h.ui.clear();
     }
     writeFile(path, row.damagedStore ? fileBytes(path).left(QFileInfo(path).size() / 2)
                                      : "I am a file, not a folder.\n");
