@@ -36,8 +36,8 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_SECTION misc)
 set(CPACK_DEBIAN_PACKAGE_HOMEPAGE "https://vorn.tandrelo.com/")
 set(CPACK_DEBIAN_PACKAGE_DESCRIPTION "Vorn writes invoices, quotes and payment reminders for freelancers and small
- businesses, keeps them in one local database and renders them through
- editable designs into previews, PDF files, print jobs and e-mails.")
+businesses, keeps them in one local database and renders them through
+editable designs into previews, PDF files, print jobs and e-mails.")
 # The libraries come from dpkg-shlibdeps; what is loaded at run time (the web
 # engine's helper process, the SVG icon engine, the desktop's URL and mail
 # helpers) is named here.

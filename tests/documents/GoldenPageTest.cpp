@@ -38,13 +38,12 @@ class GoldenPages : public InvoicingFixture, public ::testing::WithParamInterfac
 protected:
     GoldenPages()
     {
-        for (const char* label :
-             {"locInvoice",    "locQuote",       "locInvoiceNumber", "locQuoteNumber", "locClientNumber",
-              "locNumber",     "locDate",        "locDue",           "locExpiration",  "locOverdue",
-              "locDispatched", "locSubtotal",    "locTotal",         "locTaxes",       "locDiscount",
-              "locShipping",   "locDescription", "locQuantity",      "locUnit",        "locUnitPrice",
-              "locNet",        "locNo",          "locSKUNumber"})
-            settings.setValue(QLatin1String(label), QStringLiteral("{%1}").arg(QLatin1String(label)));
+        const QString labels = QStringLiteral(
+            "locInvoice locQuote locInvoiceNumber locQuoteNumber locClientNumber locNumber locDate locDue "
+            "locExpiration locOverdue locDispatched locSubtotal locTotal locTaxes locDiscount locShipping "
+            "locDescription locQuantity locUnit locUnitPrice locNet locNo locSKUNumber");
+        for (const QString& label : labels.split(u' '))
+            settings.setValue(label, QStringLiteral("{%1}").arg(label));
         assign(settings, "prefsName", "Tandrelo Studio", "prefsContact", "12 Harbour Road\nPortsmouth",
                "prefsLetterbox", "Tandrelo Studio · 12 Harbour Road", "prefsCurrency", "EUR",
                "prefsDatePattern", "%DAY%.%MONTHSHORT%.%YEARLONG%", "invHaveNumber", true, "invPattern",

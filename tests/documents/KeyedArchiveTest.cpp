@@ -14,9 +14,10 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
-#include <QTimeZone>
 
 #include <gtest/gtest.h>
+
+#include <limits>
 
 using namespace vorn;
 using namespace vorn::test;
@@ -24,6 +25,7 @@ using namespace vorn::test;
 namespace {
 
 const QString dataDir = QStringLiteral(VORN_TEST_DATA_DIR);
+const QDateTime now = utc(2026, 3, 1);
 
 QVariant uid(quint64 value)
 {
@@ -32,10 +34,24 @@ QVariant uid(quint64 value)
 
 QVariantMap classRecord(const QString& name, const QStringList& classes)
 {
-    QVariantList list;
-    for (const QString& c : classes)
-        list.append(c);
-    return {{"$classname", name}, {"$classes", list}};
+    return {{"$classname", name}, {"$classes", QVariantList(classes.cbegin(), classes.cend())}};
+}
+
+// Reads a file as opening a document does: its document entry, made an invoice.
+Result<ManagedObject*> readDocument(const QByteArray& data, ObjectContext& context)
+{
+    auto entry = InterchangeFile::rootEntry(data, "vornDic");
+    if (!entry)
+        return entry.error();
+    QVariantMap dictionary = entry.value();
+    dictionary.insert("class", "Invoice");
+    return Serialization::createManagedObjectFromDictionary(dictionary, context);
+}
+
+QByteArray fileData(const QString& name)
+{
+    QFile f(dataDir + "/" + name);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
 } // namespace
@@ -83,13 +99,9 @@ TEST(KeyedArchive, LayoutIsTheKeyedArchiversOwn)
 
 TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriterAndPlainPropertyLists)
 {
-    auto entry = InterchangeFile::readDocumentFile(dataDir + "/python-document.vorn");
-    ASSERT_TRUE(entry.ok()) << entry.error().fullText().toStdString();
-    FixedClock clock(utc(2026, 3, 1));
+    FixedClock clock(now);
     ObjectContext context(nullptr, clock);
-    QVariantMap dictionary = entry.value();
-    dictionary.insert("class", "Invoice");
-    auto created = Serialization::createManagedObjectFromDictionary(dictionary, context);
+    auto created = readDocument(fileData("python-document.vorn"), context);
     ASSERT_TRUE(created.ok()) << created.error().fullText().toStdString();
     ManagedObject* document = created.value();
     EXPECT_EQ(fields(*document, {"uniqueID", "number", "date", "due", "status", "amount", "misc2", "notes"}),
@@ -118,7 +130,7 @@ TEST(KeyedArchive, DocumentFileReadsBackWithAnIndependentReader)
     const QString python = QStandardPaths::findExecutable("python3");
     // scripts/setup.sh installs python3; without it this check would not run at all.
     ASSERT_FALSE(python.isEmpty()) << "python3 is not installed: the independent reader cannot run";
-    FixedClock clock(utc(2026, 3, 1));
+    FixedClock clock(now);
     ObjectContext context(nullptr, clock);
     ManagedObject* document = context.insertNewObject(Entity::Invoice);
     assign(*document, "number", QString::fromUtf8("RE-1 «ü»"), "amount", 34.65f, "kind", 1, "isPaid", true,
@@ -145,12 +157,211 @@ TEST(KeyedArchive, DocumentFileReadsBackWithAnIndependentReader)
     EXPECT_EQ(dic.value("isPaid").toBool(), true);
     EXPECT_DOUBLE_EQ(dic.value("date").toObject().value("date").toDouble(),
                      (utc(2026, 2, 14, 9, 30, 12, 250).toMSecsSinceEpoch() - 978307200000LL) / 1000.0);
-    EXPECT_EQ(dic.value("misc5").toObject().value("date").toDouble(),
-              (utc(2026, 3, 1).toSecsSinceEpoch() - 978307200.0));
+    EXPECT_EQ(dic.value("misc5").toObject().value("date").toDouble(), (now.toSecsSinceEpoch() - 978307200.0));
     const QJsonArray items = dic.value("items").toArray();
     ASSERT_EQ(items.size(), 2);
     EXPECT_EQ(items[0].toObject().value("title").toString(), "First");
     EXPECT_EQ(items[1].toObject().value("title").toString(), "Second");
     EXPECT_EQ(items[1].toObject().value("misc3").toDouble(), double(0.1f));
     EXPECT_FALSE(items[0].toObject().contains("invoice"));
+}
+
+// ---------------------------------------------------------------------------
+// Damaged and hostile document files.
+
+namespace {
+
+QByteArray archiveOf(const QVariantList& objects, const QVariant& root = uid(1),
+                     const QString& archiver = QStringLiteral("NSKeyedArchiver"))
+{
+    return PropertyList::toBinary(QVariantMap{{"$archiver", archiver},
+                                              {"$version", qint64(100000)},
+                                              {"$top", QVariantMap{{"root", root}}},
+                                              {"$objects", objects}});
+}
+
+const QVariantMap dictClass = classRecord("NSMutableDictionary", {"NSDictionary"});
+const QVariantMap arrayClass = classRecord("NSArray", {"NSArray"});
+const QVariantMap dateClass = classRecord("NSDate", {"NSDate"});
+
+// Records of a keyed archive: a dictionary (class <object 2>), an array and a
+// date (class <object 9>, appended by documentWith).
+QVariantMap dictionary(const QVariantList& keys, const QVariantList& objects)
+{
+    return {{"NS.keys", keys}, {"NS.objects", objects}, {"$class", uid(2)}};
+}
+QVariantMap array(const QVariantList& objects, const QVariant& cls = uid(9))
+{
+    return {{"NS.objects", objects}, {"$class", cls}};
+}
+QVariantMap date(const QVariant& time)
+{
+    return {{"NS.time", time}, {"$class", uid(9)}};
+}
+
+// {"vornDic": {"class": "Invoice", key: <object 6>}} with object 6 given.
+QByteArray documentWith(const QVariant& sixth, const QVariantList& more = {})
+{
+    QVariantList objects{"$null", dictionary({uid(3)}, {uid(4)}), dictClass, "vornDic"};
+    objects << dictionary({uid(5), uid(7)}, {uid(8), uid(6)}) << "class" << sixth << "date"
+            << "Invoice";
+    objects.append(more);
+    return archiveOf(objects);
+}
+
+QByteArray nestedUidArrays(int depth)
+{
+    QVariantList objects{"$null", arrayClass};
+    for (int i = 0; i < depth; ++i)
+        objects.append(array({uid(quint64(objects.size() + 1))}, uid(1)));
+    objects.append("bottom");
+    return archiveOf(objects, uid(2));
+}
+
+struct HostileCase
+{
+    const char* name;
+    QByteArray data;
+    bool archiveReads = false; // the archive itself reads; what it holds is refused
+};
+
+} // namespace
+
+class HostileDocumentFile : public ::testing::TestWithParam<HostileCase>
+{
+};
+
+// Damage the property list reader refuses on its own is tested with it.
+TEST_P(HostileDocumentFile, IsRefusedWithAMessageAndInsertsNothing)
+{
+    FixedClock clock(now);
+    ObjectContext context(nullptr, clock);
+    EXPECT_EQ(KeyedArchive::unarchive(GetParam().data).ok(), GetParam().archiveReads);
+    auto created = readDocument(GetParam().data, context);
+    ASSERT_FALSE(created.ok()) << "accepted";
+    EXPECT_FALSE(created.error().message.isEmpty());
+    EXPECT_NE(created.error().code, 0);
+    for (const auto& entity : context.model().entities())
+        EXPECT_TRUE(context.fetch(entity->name()).isEmpty()) << entity->name().toStdString();
+}
+
+const HostileCase hostileCases[] = {
+    {"text", "hello, this is not a property list"},
+    {"html", "<html><body><dict></body></html>"},
+    {"sharedReferencesUnfoldingToBillions", fileData("shared-bomb.plist")},
+    {"rootIsAnArray", PropertyList::toXml(QVariantList{"vornDic"}), true},
+    {"noDocumentKey", PropertyList::toXml(QVariantMap{{"designDic", QVariantMap{}}}), true},
+    {"documentKeyNotARecord", PropertyList::toXml(QVariantMap{{"vornDic", "Invoice"}}), true},
+    {"otherArchiver", archiveOf({"$null", "x"}, uid(1), "NSArchiver")},
+    {"noTop", PropertyList::toBinary(
+                  QVariantMap{{"$archiver", "NSKeyedArchiver"}, {"$objects", QVariantList{"$null"}}})},
+    {"objectsNotAList",
+     PropertyList::toBinary(QVariantMap{
+         {"$archiver", "NSKeyedArchiver"}, {"$top", QVariantMap{{"root", uid(1)}}}, {"$objects", "none"}})},
+    {"rootNotAReference", archiveOf({"$null", "x"}, "x")},
+    {"rootIsNull", archiveOf({"$null", "x"}, uid(0))},
+    {"rootOutOfRange", archiveOf({"$null", "x"}, uid(99))},
+    {"cycleThroughItself", archiveOf({"$null", dictionary({uid(3)}, {uid(1)}), dictClass, "vornDic"})},
+    {"cycleThroughAnArray", documentWith(array({uid(4)}), {arrayClass})},
+    {"referencesTooDeep", nestedUidArrays(KeyedArchive::maximumDepth + 10)},
+    {"sharedObjectsUnfoldingFarPastTheFile",
+     archiveOf({"$null", arrayClass, array(QVariantList(100, uid(3)), uid(1)),
+                array(QVariantList(100, uid(4)), uid(1)), array(QVariantList(100, uid(5)), uid(1)), "x"},
+               uid(2))},
+    {"nullAsValue", documentWith(array({uid(0)}), {arrayClass})},
+    {"referenceOutOfRange", documentWith(array({uid(500)}), {arrayClass})},
+    {"unknownClass", documentWith(array({}), {classRecord("NSWindow", {"NSWindow"})})},
+    {"classIsText", documentWith(array({}, uid(8)))},
+    {"classMissing", documentWith(QVariantMap{{"NS.objects", QVariantList{}}})},
+    {"plainListAsObject", documentWith(QVariantList{uid(8)})},
+    {"referenceAsObject", documentWith(uid(8))},
+    {"keysNotAList",
+     documentWith(QVariantMap{{"NS.keys", "a"}, {"NS.objects", QVariantList{}}, {"$class", uid(2)}})},
+    {"keyNotText", documentWith(dictionary({uid(9)}, {uid(8)}), {qint64(5)})},
+    {"keysAndObjectsDiffer", documentWith(dictionary({uid(5)}, {}))},
+    {"timeNotANumber", documentWith(date("noon"), {dateClass})},
+    {"timeInfinite", documentWith(date(std::numeric_limits<double>::infinity()), {dateClass})},
+    {"timeBeyondAnyCalendar", documentWith(date(1e300), {dateClass})},
+    {"textWhereADateBelongs", documentWith("tomorrow"), true},
+    {"unknownRecordClass",
+     archiveOf({"$null", dictionary({uid(3)}, {uid(4)}), dictClass, "vornDic", dictionary({uid(5)}, {uid(3)}),
+                "items"}),
+     true},
+};
+
+INSTANTIATE_TEST_SUITE_P(Cases, HostileDocumentFile, ::testing::ValuesIn(hostileCases),
+                         [](const auto& info) { return std::string(info.param.name); });
+
+TEST(HostileDocumentFile, EveryTruncationAndEveryFlippedByteIsSurvived)
+{
+    // A real document file damaged at every position: no crash, and a
+    // truncated file is always refused.
+    FixedClock clock(now);
+    ObjectContext source(nullptr, clock);
+    ManagedObject* document = source.insertNewObject(Entity::Invoice);
+    assign(*document, "number", "RE-1", "amount", 12.5f);
+    ManagedObject* item = source.insertNewObject(Entity::Item);
+    item->setValue("title", "Work");
+    document->insertObject("items", item);
+    const QByteArray file = InterchangeFile::documentFileData(*document);
+
+    ObjectContext target(nullptr, clock);
+    for (qsizetype length = 0; length < file.size(); ++length)
+        EXPECT_FALSE(readDocument(file.left(length), target).ok()) << "truncated to " << length;
+    int accepted = 0;
+    for (qsizetype i = 0; i < file.size(); ++i) {
+        for (unsigned char mask : {0x01, 0x80, 0xFF}) {
+            QByteArray damaged = file;
+            damaged[i] = char(damaged[i] ^ mask);
+            accepted += readDocument(damaged, target).ok() ? 1 : 0;
+        }
+    }
+    // Some flips only change a letter of a value; most break the file.
+    EXPECT_LT(accepted, file.size() * 3);
+    EXPECT_TRUE(readDocument(file, target).ok());
+}
+
+TEST(HostileDocumentFile, WrongTypeAtAnyKeyIsRefused)
+{
+    FixedClock clock(now);
+    ObjectContext source(nullptr, clock);
+    ManagedObject* document = source.insertNewObject(Entity::Invoice);
+    ManagedObject* item = source.insertNewObject(Entity::Item);
+    document->insertObject("items", item);
+    for (ManagedObject* o : {document, item}) {
+        const auto& attributes = o->entity().attributes();
+        for (int i = 0; i < int(attributes.size()); ++i)
+            if (!o->value(i).isValid())
+                o->setValue(i, attributes[size_t(i)].type == AttributeType::String ? QVariant("x")
+                                                                                   : QVariant(1));
+    }
+    const QVariantMap good = Serialization::toDictionary(*document);
+
+    // Values that fit no attribute of the other types (integers serve every
+    // number and switch), each written into an archive and read back as a
+    // stranger's file would be.
+    const QVariantList strangers{QVariantList{"a"}, QVariantMap{{"k", "v"}}, QByteArray("bytes"), "text", now,
+                                 qint64(3)};
+    const auto fitting = [](AttributeType type) {
+        return type == AttributeType::String ? QMetaType::QString
+               : type == AttributeType::Data ? QMetaType::QByteArray
+               : type == AttributeType::Date ? QMetaType::QDateTime
+                                             : QMetaType::LongLong;
+    };
+    ObjectContext target(nullptr, clock);
+    for (auto it = good.cbegin(); it != good.cend(); ++it) {
+        if (it.key() == "class")
+            continue;
+        const AttributeDescription* attribute = document->entity().attribute(it.key());
+        for (const QVariant& stranger : strangers) {
+            QVariantMap changed = good;
+            changed.insert(it.key(), stranger);
+            auto created = readDocument(KeyedArchive::archive(QVariantMap{{"vornDic", changed}}), target);
+            EXPECT_EQ(created.ok(), attribute && stranger.typeId() == fitting(attribute->type))
+                << it.key().toStdString() << " = " << stranger.typeName();
+            if (created.ok())
+                target.rollback();
+            EXPECT_TRUE(target.fetch(Entity::Invoice).isEmpty());
+        }
+    }
 }

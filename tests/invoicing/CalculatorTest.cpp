@@ -1,9 +1,6 @@
 #include "tests/invoicing/InvoicingFixture.h"
 
-#include <array>
-#include <bit>
 #include <climits>
-#include <cstdint>
 
 using namespace vorn;
 using namespace vorn::test;

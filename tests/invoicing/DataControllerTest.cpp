@@ -207,28 +207,12 @@ TEST_P(Deleting, AsksOrRefuses)
 
 INSTANTIATE_TEST_SUITE_P(DataController, Deleting, ::testing::ValuesIn(deleteCases), caseName);
 
-TEST_F(DataControllerTest, DeletingTheLastDocumentZeroesTheTotals)
-{
-    ManagedObject* doc = document(1, 3, 100);
-    doc->setValue(key::status, 0);
-    calculator().calculateDatabase();
-    // Pretend stale totals: the empty list must reset them without looking.
-    state.totalAmount = state.paidAmount = state.dueAmount = 5;
-    state.quoteCount = 8;
-    controllers->gui().setDeleteToolbarLabel(QStringLiteral("Delete Quote"));
-    select(doc);
-    data().deleteInvoice();
-    EXPECT_TRUE(doc->isDeleted());
-    EXPECT_EQ(QList<float>({state.totalAmount, state.paidAmount, state.dueAmount}), QList<float>({0, 0, 0}));
-    EXPECT_EQ(QList<quint64>({state.invoiceCount, state.quoteCount, state.invoiceCountForNumber}),
-              QList<quint64>({0, 0, 0}));
-    EXPECT_EQ(controllers->gui().deleteToolbarLabel(), QStringLiteral("Delete Invoice"));
-}
-
-TEST_F(DataControllerTest, DeletingUnderAFilterDeletesTheSelectedDocument)
+// The last document deleted resets the totals without looking at stale ones;
+// under a filter the selected document is the one deleted, and the filter goes.
+TEST_F(DataControllerTest, DeletingTheLastOrAFilteredDocument)
 {
     ManagedObject* quote = document(0);
-    ManagedObject* invoice = document(1);
+    ManagedObject* invoice = document(1, 3, 100);
     invoice->setValue(key::date, clock.now().addDays(1)); // listed first
     state.invoicesController().rearrangeObjects();
     controllers->filter().selectFilterAction(FilterController::Quotes);
@@ -237,6 +221,19 @@ TEST_F(DataControllerTest, DeletingUnderAFilterDeletesTheSelectedDocument)
     EXPECT_TRUE(quote->isDeleted());
     EXPECT_FALSE(invoice->isDeleted());
     EXPECT_EQ(state.filterTag, 0u);
+
+    invoice->setValue(key::status, 0);
+    calculator().calculateDatabase();
+    state.totalAmount = state.paidAmount = state.dueAmount = 5;
+    state.quoteCount = 8;
+    controllers->gui().setDeleteToolbarLabel(QStringLiteral("Delete Quote"));
+    select(invoice);
+    data().deleteInvoice();
+    EXPECT_TRUE(invoice->isDeleted());
+    EXPECT_EQ(QList<float>({state.totalAmount, state.paidAmount, state.dueAmount}), QList<float>({0, 0, 0}));
+    EXPECT_EQ(QList<quint64>({state.invoiceCount, state.quoteCount, state.invoiceCountForNumber}),
+              QList<quint64>({0, 0, 0}));
+    EXPECT_EQ(controllers->gui().deleteToolbarLabel(), QStringLiteral("Delete Invoice"));
 }
 
 // ---------------------------------------------------------------------------
@@ -253,8 +250,7 @@ TEST_F(DataControllerTest, DuplicateOfAPaidInvoiceStartsFresh)
     select(doc);
 
     ManagedObject* copy = data().duplicateInvoice();
-    ASSERT_NE(copy, nullptr);
-    ASSERT_NE(copy, doc);
+    ASSERT_TRUE(copy && copy != doc);
 
     const QStringList cleared{
         key::number, key::dispatchNumber, key::status,     key::isDispatched, key::date,     key::due,
@@ -267,7 +263,6 @@ TEST_F(DataControllerTest, DuplicateOfAPaidInvoiceStartsFresh)
                            key::isPaid};
     EXPECT_EQ(fields(*copy, kept), fields(*doc, kept));
     EXPECT_EQ(texts(copy->items()), QStringList({"Line 0", "Line 1", "Line 2"}));
-    EXPECT_EQ(texts(doc->items()), texts(copy->items()));
     EXPECT_NE(copy->items().value(0), doc->items().value(0));
     EXPECT_EQ(state.currentInvoice(), copy);
     EXPECT_EQ(ui.calls(QStringLiteral("focus")).value(0).title, QStringLiteral("addressView"));

@@ -29,8 +29,6 @@ protected:
         ManagedObject* doc = document(kind, status, 10);
         doc->setValue(key::title, QString::fromUtf8(name));
         doc->setValue(key::date, clock.now().addSecs(-qint64(hoursAgo) * 3600));
-        // Dates keep every status as it is when the totals run.
-        doc->setValue(key::due, clock.now().addDays(status == 2 ? -1 : 100));
     }
     QStringList listed()
     {
@@ -127,9 +125,7 @@ TEST_P(WindowState, MenusToolbarAndReminder)
 {
     const WindowCase& c = GetParam();
     if (c.kind >= 0) {
-        ManagedObject* doc = document(c.kind, c.status);
-        doc->setValue(key::due, clock.now().addDays(c.status == 2 ? -1 : 100));
-        select(doc);
+        select(document(c.kind, c.status));
     }
     GUIController& gui = controllers->gui();
     const auto deletion = gui.validateUserInterfaceItem(GUIController::deleteInvoiceAction);
@@ -192,19 +188,6 @@ TEST_F(WindowTest, TabsFollowTheToolbarTags)
     settings.setValue(key::mainTabIndex, 2);
     controllers->gui().selectInfoView();
     EXPECT_EQ(settings.intValue(key::mainTabIndex), 2);
-}
-
-TEST_F(WindowTest, ReminderSheetTakesItsTextsFromTheSettings)
-{
-    assign(settings, key::locReminder, "Reminder", key::tempRemConditions, "Please pay", key::tempRemFooter,
-           "Regards");
-    controllers->gui().openReminderSheet();
-    const auto& sheet = controllers->gui().reminderSheet();
-    EXPECT_TRUE(sheet.shown);
-    EXPECT_EQ(QStringList({sheet.title, sheet.conditions, sheet.footer}),
-              QStringList({"Reminder", "Please pay", "Regards"}));
-    controllers->gui().cancelReminderSheet();
-    EXPECT_FALSE(controllers->gui().reminderSheet().shown);
 }
 
 } // namespace

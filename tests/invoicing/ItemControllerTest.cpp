@@ -119,7 +119,13 @@ INSTANTIATE_TEST_SUITE_P(Items, RecentItems, ::testing::ValuesIn(recentCases), c
 
 TEST_F(ItemControllerTest, RecentItemsForgetSwitchedOffTaxesAndTheQuantity)
 {
-    settings.setValue(key::tax2Enabled, false);
+    // The button toggles the popover, opened on the page the settings ask.
+    assign(settings, key::tax2Enabled, false, key::alwaysShowRecentItems, 1);
+    items().showItemPopover();
+    EXPECT_TRUE(items().popover().shown);
+    EXPECT_EQ(settings.intValue(key::itemTabViewIndex), 1);
+    items().showItemPopover();
+    EXPECT_FALSE(items().popover().shown);
     items().showItemPopover();
     items().popover() = {true, "Box", {}, {}, {}, {}, "4.99", true, true, true};
     state.itemPopoverQuantity = 12;
@@ -141,16 +147,6 @@ TEST_F(ItemControllerTest, RecentItemsForgetSwitchedOffTaxesAndTheQuantity)
     EXPECT_TRUE(p.tax1 && !p.tax2 && !p.tax3);
     EXPECT_EQ(settings.intValue(key::itemTabViewIndex), 0);
     EXPECT_EQ(ui.calls(QStringLiteral("focus")).last().title, QStringLiteral("itemPopoverQuantityView"));
-}
-
-TEST_F(ItemControllerTest, PopoverTogglesAndOpensOnThePageTheSettingsAsk)
-{
-    settings.setValue(key::alwaysShowRecentItems, 1);
-    items().showItemPopover();
-    EXPECT_TRUE(items().popover().shown);
-    EXPECT_EQ(settings.intValue(key::itemTabViewIndex), 1);
-    items().showItemPopover();
-    EXPECT_FALSE(items().popover().shown);
 }
 
 struct DeleteItemCase

@@ -69,16 +69,6 @@ TEST_F(NumberingTest, CountsComeFromTheListedDocuments)
     EXPECT_EQ(n.invoiceNumberString(), QStringLiteral("RE-2025-101"));
 }
 
-TEST_F(NumberingTest, ClientNumbersCountRememberedAddresses)
-{
-    assign(settings, key::clientPattern, "C-%COUNT%", key::clientCount, 1000);
-    NumberingController& n = controllers->numbering();
-    EXPECT_EQ(n.clientNumberString(), QStringLiteral("C-1001"));
-    state.addressesController().addObject(context.insertNewObject(Entity::Address));
-    state.addressesController().addObject(context.insertNewObject(Entity::Address));
-    EXPECT_EQ(n.clientNumberString(), QStringLiteral("C-1003"));
-}
-
 TEST_F(NumberingTest, MissingPatternGivesEmptyNumberAndMissingOffsetCountsZero)
 {
     document(1);
