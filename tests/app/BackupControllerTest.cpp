@@ -353,22 +353,14 @@ protected:
     QString base;
 };
 
-// What happens to the source once the copy has begun.
-enum class During
-{
-    Nothing,
-    Vanish,
-    Truncate,
-    Damage
-};
-
 struct BadSource
 {
     const char* name;
     int code; // the error presented; 0 for any
     // Spoils the copy of the good backup to restore from, or points elsewhere.
     std::function<void(QString& path, AppHarness& h)> spoil;
-    During during = During::Nothing;
+    // Spoils the source once the copy has begun.
+    std::function<void(const QString& path)> during = {};
     bool storeFolderReadOnly = false;
 };
 
@@ -386,15 +378,8 @@ TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
     h.addDocuments(1, "P", false);
     int copySteps = 0;
     backup().setCopyProgress([&](int, int) {
-        if (copySteps++ > 0)
-            return;
-        if (row.during == During::Vanish)
-            QFile::remove(source);
-        if (row.during == During::Truncate)
-            QFile::resize(source, 8192);
-        // Pages not copied yet get noise where their contents begin.
-        if (row.during == During::Damage)
-            withNoise(source, 128 * 4096, 4096, "\xde\xad\xbe\xef\xde\xad\xbe\xef");
+        if (copySteps++ == 0 && row.during)
+            row.during(source);
     });
     std::optional<ReadOnlyFolder> readOnly;
     if (row.storeFolderReadOnly && !readOnly.emplace(storeFolder()).holds())
@@ -410,7 +395,7 @@ TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
             << errors[0].title.toStdString() << " " << errors[0].text.toStdString();
     }
     EXPECT_TRUE(errors[0].text.endsWith("Nothing was changed: your Vorn database is as it was."));
-    if (row.during != During::Nothing) {
+    if (row.during) {
         EXPECT_GT(copySteps, 0) << "the copy never began";
     }
 
@@ -446,10 +431,12 @@ const BadSource badSources[] = {
          execOn(p, "CREATE TABLE notes (text TEXT); INSERT INTO notes VALUES ('hello')", true);
      }},
     {"TheLiveStoreItself", 0, [](auto& p, auto& h) { p = h.storePath(); }},
-    {"VanishesMidCopy", ErrorCode::FileNotFound, nullptr, During::Vanish},
-    {"TruncatedMidCopy", 0, nullptr, During::Truncate},
-    {"DamagedMidCopy", ErrorCode::StoreDamaged, nullptr, During::Damage},
-    {"ReadOnlyStoreFolder", ErrorCode::FileWriteNoPermission, nullptr, During::Nothing, true},
+    {"VanishesMidCopy", ErrorCode::FileNotFound, nullptr, [](auto& p) { QFile::remove(p); }},
+    {"TruncatedMidCopy", 0, nullptr, [](auto& p) { QFile::resize(p, 8192); }},
+    // Pages not copied yet get noise where their contents begin.
+    {"DamagedMidCopy", ErrorCode::StoreDamaged, nullptr,
+     [](auto& p) { withNoise(p, 128 * 4096, 4096, "\xde\xad\xbe\xef\xde\xad\xbe\xef"); }},
+    {"ReadOnlyStoreFolder", ErrorCode::FileWriteNoPermission, nullptr, nullptr, true},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sources, RestoreRefusal, ::testing::ValuesIn(badSources),
