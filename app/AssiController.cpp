@@ -67,6 +67,32 @@ void AssiController::setLanguage(int language)
     settings().setValue(languageDefaults, qint64(language));
 }
 
+int AssiController::languageOfLocale(const QLocale& locale)
+{
+    switch (locale.language()) {
+    case QLocale::German:
+        return 1;
+    case QLocale::French:
+        return 2;
+    case QLocale::Spanish:
+        return 3;
+    default:
+        return 0;
+    }
+}
+
+int AssiController::startupLanguage(const Settings& settings, const QLocale& desktop)
+{
+    if (settings.boolValue(isAssiDone))
+        return int(std::clamp<qint64>(settings.intValue(languageDefaults), 0, 3));
+    return languageOfLocale(desktop);
+}
+
+bool AssiController::offersRestart(int windowLanguage) const
+{
+    return std::clamp(language(), 0, 3) != windowLanguage;
+}
+
 QString AssiController::companyName() const
 {
     return settings().stringValue(key::prefsName);

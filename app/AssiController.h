@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QLocale>
 #include <QObject>
 #include <QString>
 
@@ -44,6 +45,15 @@ public:
     // 0 English, 1 German, 2 French, 3 Spanish (the languageDefaults setting).
     int language() const;
     void setLanguage(int language);
+    // One of ours for a desktop locale; English for any other.
+    static int languageOfLocale(const QLocale& locale);
+    // The windows start in the language chosen in the assistant once it was
+    // completed; before, in the desktop's.
+    static int startupLanguage(const Settings& settings, const QLocale& desktop);
+    // The windows were built in windowLanguage; they show a newly chosen one
+    // everywhere only after a new start, so completing the assistant with
+    // another language offers to restart.
+    bool offersRestart(int windowLanguage) const;
     QString companyName() const;
     void setCompanyName(const QString& name);
     QString contact() const;

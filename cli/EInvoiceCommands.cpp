@@ -3,8 +3,8 @@
 #include "cli/CommandRegistry.h"
 #include "cli/DocumentCommandSupport.h"
 #include "einvoice/EInvoiceController.h"
-#include "output/PdfRenderer.h"
 #include "output/PreviewController.h"
+#include "store/AtomicFile.h"
 
 #include <QEventLoop>
 #include <QFileInfo>
@@ -48,9 +48,8 @@ int einvoiceCommand(CommandContext& c)
         return ExitCode::Usage;
 
     AppState& state = c.app.state();
-    PdfRenderer renderer;
-    PreviewController preview(state, renderer);
-    EInvoiceController einvoice(state, preview);
+    PreviewController& preview = c.app.preview();
+    EInvoiceController& einvoice = c.app.einvoice();
     const QString target = QFileInfo(args[1]).absoluteFilePath();
 
     Result<QByteArray> file = einvoice.xml(*document, profile);
@@ -72,7 +71,7 @@ int einvoiceCommand(CommandContext& c)
         if (!file)
             return c.fail(file.error().fullText());
     }
-    if (Status written = einvoice.writeNew(target, file.value()); !written)
+    if (Status written = AtomicFile::writeNew(target, file.value()); !written)
         return c.fail(written.error().fullText());
     c.out = target + QLatin1Char('\n');
     return ExitCode::Done;

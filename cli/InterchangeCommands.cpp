@@ -2,12 +2,9 @@
 #include "cli/CliUserInterface.h"
 #include "cli/CommandRegistry.h"
 #include "cli/Json.h"
-#include "invoicing/Calculator.h"
 #include "invoicing/FilterController.h"
 #include "output/ExportController.h"
 #include "output/InterchangeController.h"
-#include "output/PdfRenderer.h"
-#include "output/PreviewController.h"
 #include "store/Clock.h"
 #include "store/Settings.h"
 
@@ -68,10 +65,7 @@ int exportCommand(CommandContext& c)
     AppState& state = c.app.state();
     state.invoicesController().setSelectedObjects({document});
     state.itemsController().setContent(document->items());
-    PdfRenderer renderer;
-    PreviewController preview(state, renderer);
-    Calculator calculator(state);
-    ExportController exporter(state, preview, calculator);
+    ExportController& exporter = c.app.exporter();
 
     // The format is chosen by the file name for this run only; the user's
     // setting stays as it was.

@@ -2,7 +2,6 @@
 #include "cli/CliUserInterface.h"
 #include "cli/CommandRegistry.h"
 #include "cli/DocumentCommandSupport.h"
-#include "einvoice/EInvoiceController.h"
 #include "invoicing/InvoicingControllers.h"
 #include "output/DesignPreview.h"
 #include "output/ExportController.h"
@@ -106,8 +105,7 @@ int htmlCommand(CommandContext& c)
         return c.usage(tr("usage: html DOC [--reminder [--title T] [--conditions C] [--footer F]]"));
     if (!DocumentCli::select(c, args[0]))
         return ExitCode::Usage;
-    PdfRenderer renderer;
-    PreviewController preview(c.app.state(), renderer);
+    PreviewController& preview = c.app.preview();
     if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     present(preview, *options);
@@ -148,11 +146,11 @@ int pdfAll(CommandContext& c, QStringList args)
     c.app.invoicing().filter().selectFilterAction(tag);
     const QList<ManagedObject*> documents = state.invoicesController().arrangedObjects();
 
-    PdfRenderer renderer;
+    PdfRenderer& renderer = c.app.renderer();
     // The layout engine runs in its own processes: a page more than there
     // are cores keeps them busy while this process writes the files.
     renderer.setParallelPages(QThread::idealThreadCount() + 1);
-    PreviewController preview(state, renderer);
+    PreviewController& preview = c.app.preview();
     if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     state.isReminderAction = false;
@@ -237,24 +235,18 @@ int pdfCommand(CommandContext& c)
     if (!DocumentCli::select(c, args[0]))
         return ExitCode::Usage;
 
-    AppState& state = c.app.state();
-    PdfRenderer renderer;
-    PreviewController preview(state, renderer);
+    PreviewController& preview = c.app.preview();
     if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     present(preview, *options);
 
     // As the export sheet does: render into the preview PDF, then save it
-    // where asked (never over an existing file) and mark the invoice sent.
-    ExportController exporter(state, preview, c.app.invoicing().calculator());
-    // With Factur-X as the chosen PDF, invoices are written as Factur-X files.
-    EInvoiceController einvoice(state, preview);
-    exporter.setPdfFinisher([&einvoice](const ManagedObject& document, const QByteArray& pdf) {
-        return einvoice.pdfForExport(document, pdf);
-    });
+    // where asked (never over an existing file; as Factur-X when that is the
+    // chosen PDF) and mark the invoice sent.
+    ExportController& exporter = c.app.exporter();
     bool rendered = false;
-    QObject::connect(&exporter, &ExportController::exportPdfReady, [&rendered] { rendered = true; });
     QEventLoop loop;
+    QObject::connect(&exporter, &ExportController::exportPdfReady, &loop, [&rendered] { rendered = true; });
     QObject::connect(&exporter, &ExportController::okEnabledChanged, &loop, [&loop](bool enabled) {
         if (enabled)
             loop.quit();
@@ -276,8 +268,7 @@ int designPreviewHtml(CommandContext& c)
 {
     if (!c.args.isEmpty())
         return c.usage(tr("usage: design preview-html"));
-    PdfRenderer renderer;
-    PreviewController preview(c.app.state(), renderer);
+    PreviewController& preview = c.app.preview();
     if (!DocumentCli::hasDesign(c, preview))
         return ExitCode::Failure;
     DesignPreview sample(preview);

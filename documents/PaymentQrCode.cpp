@@ -29,6 +29,14 @@ QString limited(const QString& text, int limit)
 
 } // namespace
 
+QString payeeName(const Settings& settings)
+{
+    for (const QString& key : {key::prefsAccountHolder, key::prefsLegalName, key::prefsName})
+        if (QString name = settings.stringValue(key).trimmed(); !name.isEmpty())
+            return name;
+    return {};
+}
+
 std::optional<Payment> paymentForDocument(const ManagedObject& document, const Settings& settings)
 {
     if (!document.isInvoice())
@@ -48,11 +56,7 @@ std::optional<Payment> paymentForDocument(const ManagedObject& document, const S
     payment.cents = qint64(total);
     const QString bic = Iban::normalized(settings.stringValue(key::prefsBIC));
     payment.bic = Iban::isValidBic(bic) ? bic : QString();
-    for (const QString& key : {key::prefsAccountHolder, key::prefsLegalName, key::prefsName}) {
-        payment.name = limited(settings.stringValue(key), nameLimit);
-        if (!payment.name.isEmpty())
-            break;
-    }
+    payment.name = limited(payeeName(settings), nameLimit);
     if (payment.name.isEmpty())
         return std::nullopt;
     payment.remittance = limited(

@@ -24,6 +24,9 @@ struct Payment
     QString remittance;
 };
 
+// Whom a transfer goes to: the account holder, else the legal name, else the
+// company name (trimmed; empty when none is set).
+QString payeeName(const Settings& settings);
 // The payment a document asks for, or nothing when it asks for none the code
 // can carry: a quote, a currency other than the euro, no valid IBAN, an
 // amount outside 0.01 .. 999999999.99, no payee name.

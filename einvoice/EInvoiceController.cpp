@@ -112,17 +112,6 @@ void EInvoiceController::makeFacturX(EInvoiceProfile profile, Done done)
         });
 }
 
-Status EInvoiceController::writeNew(const QString& path, const QByteArray& bytes) const
-{
-    const QFileInfo target(path);
-    if (target.exists())
-        return Error::make(ExportController::fileExistsCode,
-                           tr("“%1” could not be written because a file of that name already exists.")
-                               .arg(target.fileName()),
-                           tr("Choose another name, or move the existing file aside, and try again."));
-    return AtomicFile::write(target.absoluteFilePath(), bytes);
-}
-
 bool EInvoiceController::refuseIfIncomplete(const Result<QByteArray>& checked)
 {
     if (checked)
@@ -153,7 +142,7 @@ void EInvoiceController::exportXRechnung()
         Q_EMIT exportFinished(false);
         return;
     }
-    const Status written = writeNew(*target, checked.value());
+    const Status written = AtomicFile::writeNew(*target, checked.value());
     if (!written)
         m_state.ui().presentError(written.error());
     Q_EMIT exportFinished(bool(written));
@@ -176,7 +165,7 @@ void EInvoiceController::exportFacturX()
         return;
     }
     makeFacturX(EInvoiceProfile::En16931, [this, path = *target](Result<QByteArray> file) {
-        Status written = file ? writeNew(path, file.value()) : Status(file.error());
+        Status written = file ? AtomicFile::writeNew(path, file.value()) : Status(file.error());
         if (!written) {
             qCWarning(lcEInvoice) << "Factur-X export failed:" << written.error().fullText();
             m_state.ui().presentError(written.error());

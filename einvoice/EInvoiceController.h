@@ -43,8 +43,6 @@ public:
     // The File menu commands.
     void exportFacturX();
     void exportXRechnung();
-    // Writes a made file where asked, never over an existing one.
-    Status writeNew(const QString& path, const QByteArray& data) const;
 
 Q_SIGNALS:
     void exportFinished(bool written);

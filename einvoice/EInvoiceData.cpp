@@ -2,6 +2,7 @@
 
 #include "documents/CurrencyCode.h"
 #include "documents/Iban.h"
+#include "documents/PaymentQrCode.h"
 #include "einvoice/UnitCodes.h"
 #include "store/Keys.h"
 #include "store/ManagedObject.h"
@@ -189,9 +190,7 @@ EInvoiceData EInvoiceData::fromDocument(const ManagedObject& d, const Settings& 
 
     e.iban = Iban::normalized(s.stringValue(key::prefsIBAN));
     e.bic = Iban::normalized(s.stringValue(key::prefsBIC));
-    e.accountHolder = s.stringValue(key::prefsAccountHolder).trimmed();
-    if (e.accountHolder.isEmpty())
-        e.accountHolder = seller.name;
+    e.accountHolder = PaymentQrCode::payeeName(s);
 
     // Lines: quantity and price to four decimals, the net to the cent.
     int id = 0;

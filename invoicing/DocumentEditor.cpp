@@ -104,6 +104,18 @@ bool DocumentEditor::setDocumentValue(const QString& key, const QVariant& value)
     return true;
 }
 
+bool DocumentEditor::setDocumentDay(const QString& key, const QDate& day)
+{
+    const ManagedObject* doc = m_state.currentInvoice();
+    if (!doc)
+        return false;
+    if (!day.isValid())
+        return setDocumentValue(key, QVariant());
+    const QDateTime before = doc->dateValue(key);
+    const QTime time = before.isValid() ? before.toLocalTime().time() : QTime(12, 0);
+    return setDocumentValue(key, QDateTime(day, time).toUTC());
+}
+
 bool DocumentEditor::setItemValue(ManagedObject* item, const QString& key, const QVariant& value)
 {
     ManagedObject* doc = m_state.currentInvoice();

@@ -34,6 +34,10 @@ public:
     // nothing) without a document, for a locked attribute, or for an equal
     // value. Numbers typed as text read the forgiving way.
     bool setDocumentValue(const QString& key, const QVariant& value);
+    // Sets a date attribute to a calendar day (local time), as a date field
+    // picks one: the time of day it had stays, a date not set before starts
+    // at noon; an invalid day clears it.
+    bool setDocumentDay(const QString& key, const QDate& day);
     // The same for one line of the current document; lines of a sent
     // document are refused with the sent-lock alert. The line and the
     // document are recomputed at once, the list totals on the next turn of

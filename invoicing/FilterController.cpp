@@ -116,7 +116,7 @@ void FilterController::setFilterTag(quint64 tag)
 
 void FilterController::selectFilter()
 {
-    m_buttonImage = m_state.filterTag != All ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate");
+    m_active = m_state.filterTag != All;
     Q_EMIT filterChanged();
 }
 

@@ -57,8 +57,14 @@ public:
     void selectFilterAction(quint64 tag);
     bool isFilterPopoverShown() const { return m_popoverShown; }
 
-    // "torchGlow" while a filter is active, "torchTemplate" otherwise.
-    const QString& filterButtonImage() const { return m_buttonImage; }
+    // Whether the list shows less than all documents.
+    bool isFilterActive() const { return m_active; }
+    // The button's picture: "torchGlow" while a filter is active,
+    // "torchTemplate" otherwise.
+    QString filterButtonImage() const
+    {
+        return m_active ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate");
+    }
 
 Q_SIGNALS:
     void filterChanged();
@@ -66,7 +72,7 @@ Q_SIGNALS:
 private:
     AppState& m_state;
     Calculator& m_calculator;
-    QString m_buttonImage = QStringLiteral("torchTemplate");
+    bool m_active = false;
     bool m_popoverShown = false;
 };
 

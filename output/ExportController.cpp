@@ -185,18 +185,6 @@ void ExportController::savePdf()
     const std::optional<QString> target = m_state.ui().runSavePanel(panel);
     if (!target || !QFile::exists(m_state.pdfPath))
         return;
-    const QFileInfo to(*target);
-    // A copy never replaces a file that is already there.
-    if (to.exists()) {
-        m_state.ui().presentError(Error::make(
-            fileExistsCode,
-            tr("“%1” couldn’t be copied to “%2” because an item with the same name already exists.")
-                .arg(QFileInfo(m_state.pdfPath).fileName(), to.absoluteDir().dirName()),
-            tr("To save the file, either provide a different name, or move aside or delete the existing "
-               "file, and "
-               "try again.")));
-        return;
-    }
     QFile source(m_state.pdfPath);
     if (!source.open(QIODevice::ReadOnly)) {
         m_state.ui().presentError(Error::make(ErrorCode::FileReadUnknown,
@@ -212,7 +200,7 @@ void ExportController::savePdf()
         }
         pdf = std::move(finished.value());
     }
-    if (Status written = AtomicFile::write(to.absoluteFilePath(), pdf); !written)
+    if (Status written = AtomicFile::writeNew(*target, pdf); !written)
         m_state.ui().presentError(written.error());
 }
 

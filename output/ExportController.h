@@ -72,9 +72,6 @@ public:
     void cancelExport();
     void sendEmail();
 
-    // The platform's "file exists" error: the exports never write over a file.
-    static constexpr int fileExistsCode = 516;
-
     // "name | title | number" of the current document.
     QString jobTitle() const;
     // The same of any document: the name of its print job and its files.

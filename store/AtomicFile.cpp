@@ -30,4 +30,15 @@ Status AtomicFile::write(const QString& path, const QByteArray& data)
     return {};
 }
 
+Status AtomicFile::writeNew(const QString& path, const QByteArray& data)
+{
+    const QFileInfo target(path);
+    if (target.exists())
+        return Error::make(fileExistsCode,
+                           tr("“%1” could not be written because a file of that name already exists.")
+                               .arg(target.fileName()),
+                           tr("Choose another name, or move the existing file aside, and try again."));
+    return write(target.absoluteFilePath(), data);
+}
+
 } // namespace vorn

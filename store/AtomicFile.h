@@ -16,6 +16,11 @@ class AtomicFile
     Q_DECLARE_TR_FUNCTIONS(AtomicFile)
 public:
     static Status write(const QString& path, const QByteArray& data);
+    // The platform's "a file of that name already exists".
+    static constexpr int fileExistsCode = 516;
+    // The same for an export: it never replaces a file that is already
+    // there, and says so (fileExistsCode).
+    static Status writeNew(const QString& path, const QByteArray& data);
 };
 
 } // namespace vorn

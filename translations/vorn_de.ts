@@ -11,6 +11,14 @@
         <source>The file “%1” could not be written.</source>
         <translation>Die Datei „%1“ konnte nicht geschrieben werden.</translation>
     </message>
+    <message>
+        <source>“%1” could not be written because a file of that name already exists.</source>
+        <translation>„%1“ konnte nicht geschrieben werden, da bereits eine Datei mit diesem Namen existiert.</translation>
+    </message>
+    <message>
+        <source>Choose another name, or move the existing file aside, and try again.</source>
+        <translation>Wählen Sie einen anderen Namen oder verschieben Sie die vorhandene Datei und versuchen Sie es erneut.</translation>
+    </message>
 </context>
 <context>
     <name>CiiSummary</name>
@@ -1391,14 +1399,6 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Die Rechnung wurde geändert, während ihr PDF erstellt wurde.</translation>
     </message>
     <message>
-        <source>“%1” could not be written because a file of that name already exists.</source>
-        <translation>„%1“ konnte nicht geschrieben werden, da bereits eine Datei mit diesem Namen existiert.</translation>
-    </message>
-    <message>
-        <source>Choose another name, or move the existing file aside, and try again.</source>
-        <translation>Wählen Sie einen anderen Namen oder verschieben Sie die vorhandene Datei und versuchen Sie es erneut.</translation>
-    </message>
-    <message>
         <source>The e-invoice cannot be made</source>
         <translation>Die E-Rechnung kann nicht erstellt werden</translation>
     </message>
@@ -1555,14 +1555,6 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Export As PDF File</source>
         <translation>Als PDF-Datei exportieren</translation>
-    </message>
-    <message>
-        <source>“%1” couldn’t be copied to “%2” because an item with the same name already exists.</source>
-        <translation>„%1“ konnte nicht nach „%2“ kopiert werden, weil dort bereits ein Objekt mit demselben Namen existiert.</translation>
-    </message>
-    <message>
-        <source>To save the file, either provide a different name, or move aside or delete the existing file, and try again.</source>
-        <translation>Um die Datei zu sichern, geben Sie entweder einen anderen Namen an oder verschieben oder löschen Sie die vorhandene Datei und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The PDF “%1” could not be read.</source>
@@ -2001,6 +1993,17 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
     <message>
         <source>Export Vorn Database As XML</source>
         <translation>Vorn-Datenbank als XML exportieren</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemCellView</name>
+    <message>
+        <source>Title</source>
+        <translation>Titel</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Untertitel</translation>
     </message>
 </context>
 <context>

@@ -11,6 +11,14 @@
         <source>The file “%1” could not be written.</source>
         <translation>No se pudo escribir el archivo «%1».</translation>
     </message>
+    <message>
+        <source>“%1” could not be written because a file of that name already exists.</source>
+        <translation>No se ha podido escribir «%1» porque ya existe un archivo con ese nombre.</translation>
+    </message>
+    <message>
+        <source>Choose another name, or move the existing file aside, and try again.</source>
+        <translation>Elija otro nombre o aparte el archivo existente y vuelva a intentarlo.</translation>
+    </message>
 </context>
 <context>
     <name>CiiSummary</name>
@@ -1391,14 +1399,6 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>La factura ha cambiado mientras se creaba su PDF.</translation>
     </message>
     <message>
-        <source>“%1” could not be written because a file of that name already exists.</source>
-        <translation>No se ha podido escribir «%1» porque ya existe un archivo con ese nombre.</translation>
-    </message>
-    <message>
-        <source>Choose another name, or move the existing file aside, and try again.</source>
-        <translation>Elija otro nombre o aparte el archivo existente y vuelva a intentarlo.</translation>
-    </message>
-    <message>
         <source>The e-invoice cannot be made</source>
         <translation>No se puede crear la factura electrónica</translation>
     </message>
@@ -1555,14 +1555,6 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Export As PDF File</source>
         <translation>Exportar como PDF</translation>
-    </message>
-    <message>
-        <source>“%1” couldn’t be copied to “%2” because an item with the same name already exists.</source>
-        <translation>No se pudo copiar «%1» en «%2» porque ya existe un elemento con el mismo nombre.</translation>
-    </message>
-    <message>
-        <source>To save the file, either provide a different name, or move aside or delete the existing file, and try again.</source>
-        <translation>Para guardar el archivo, indique otro nombre, o mueva o elimine el archivo existente, y vuelva a intentarlo.</translation>
     </message>
     <message>
         <source>The PDF “%1” could not be read.</source>
@@ -2001,6 +1993,17 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
     <message>
         <source>Export Vorn Database As XML</source>
         <translation>Exportar base de datos de Vorn como XML</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemCellView</name>
+    <message>
+        <source>Title</source>
+        <translation>Título</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Subtítulo</translation>
     </message>
 </context>
 <context>

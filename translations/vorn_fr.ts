@@ -11,6 +11,14 @@
         <source>The file “%1” could not be written.</source>
         <translation>Le fichier «&#xa0;%1&#xa0;» n’a pas pu être écrit.</translation>
     </message>
+    <message>
+        <source>“%1” could not be written because a file of that name already exists.</source>
+        <translation>«&#xa0;%1&#xa0;» n’a pas pu être écrit, car un fichier portant ce nom existe déjà.</translation>
+    </message>
+    <message>
+        <source>Choose another name, or move the existing file aside, and try again.</source>
+        <translation>Choisissez un autre nom ou déplacez le fichier existant, puis réessayez.</translation>
+    </message>
 </context>
 <context>
     <name>CiiSummary</name>
@@ -1391,14 +1399,6 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <translation>La facture a été modifiée pendant la création de son PDF.</translation>
     </message>
     <message>
-        <source>“%1” could not be written because a file of that name already exists.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être écrit, car un fichier portant ce nom existe déjà.</translation>
-    </message>
-    <message>
-        <source>Choose another name, or move the existing file aside, and try again.</source>
-        <translation>Choisissez un autre nom ou déplacez le fichier existant, puis réessayez.</translation>
-    </message>
-    <message>
         <source>The e-invoice cannot be made</source>
         <translation>La facture électronique ne peut pas être créée</translation>
     </message>
@@ -1555,14 +1555,6 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Export As PDF File</source>
         <translation>Exporter en PDF</translation>
-    </message>
-    <message>
-        <source>“%1” couldn’t be copied to “%2” because an item with the same name already exists.</source>
-        <translation>«&#xa0;%1&#xa0;» n’a pas pu être copié vers «&#xa0;%2&#xa0;», car un élément du même nom existe déjà.</translation>
-    </message>
-    <message>
-        <source>To save the file, either provide a different name, or move aside or delete the existing file, and try again.</source>
-        <translation>Pour enregistrer le fichier, indiquez un autre nom, ou déplacez ou supprimez le fichier existant, puis réessayez.</translation>
     </message>
     <message>
         <source>The PDF “%1” could not be read.</source>
@@ -2001,6 +1993,17 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
     <message>
         <source>Export Vorn Database As XML</source>
         <translation>Exporter la base de données Vorn en XML</translation>
+    </message>
+</context>
+<context>
+    <name>vorn::ItemCellView</name>
+    <message>
+        <source>Title</source>
+        <translation>Titre</translation>
+    </message>
+    <message>
+        <source>Subtitle</source>
+        <translation>Sous-titre</translation>
     </message>
 </context>
 <context>

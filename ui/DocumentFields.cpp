@@ -212,13 +212,9 @@ void DocumentFields::commit(const Field& f)
         break;
     case Type::Date: {
         const QDate date = static_cast<QDateEdit*>(w)->date();
-        if (date != kNoDate) {
-            // The time of day stays as it was; a new date starts at noon.
-            const QDateTime before = m_state.currentInvoice()->dateValue(f.key);
-            const QTime time = before.isValid() ? before.toLocalTime().time() : QTime(12, 0);
-            value = QDateTime(date, time).toUTC();
-        }
-        break;
+        if (!m_editor.setDocumentDay(f.key, date != kNoDate ? date : QDate()))
+            load(f);
+        return;
     }
     case Type::Index:
         value = qint64(static_cast<QComboBox*>(w)->currentIndex());

@@ -74,13 +74,12 @@ HelpMenu::HelpMenu(QMainWindow& window, AppDelegate& app)
     connect(&assi, &AssiController::quitRequested, &m_window, &QWidget::close);
     // The first run starts on the desktop's language.
     if (!m_app.settings().boolValue(QStringLiteral("isAssiDone")))
-        m_assistant->setSuggestedLanguage(Translations::languageOfLocale(QLocale()));
+        m_assistant->setSuggestedLanguage(AssiController::languageOfLocale(QLocale()));
     connect(m_assistant, &AssistantSheet::completed, this, [this] {
         // The launch's update check waits for the consent given in the assistant.
         if (std::exchange(m_updateChecksWaiting, false))
             m_updates->awakeFromNib();
-        const int chosen = Translations::installedLanguage();
-        if (chosen == m_windowLanguage)
+        if (!m_app.assiController().offersRestart(m_windowLanguage))
             return;
         const int answer = m_app.ui().runAlert(
             {tr("Restart Vorn?"),

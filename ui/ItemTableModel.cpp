@@ -7,6 +7,7 @@
 #include "store/ManagedObject.h"
 #include "store/Settings.h"
 #include "ui/DocumentFields.h"
+#include "ui/ItemCellView.h"
 #include "ui/ItemsPage.h"
 
 #include <QGuiApplication>
@@ -83,6 +84,9 @@ QVariant ItemTableModel::data(const QModelIndex& index, int role) const
         if (taxColumn)
             return QVariant::fromValue(Qt::AlignCenter);
         return QVariant::fromValue(Qt::AlignLeft | Qt::AlignVCenter);
+    case ItemCellView::SubtitleRole:
+    case Qt::AccessibleDescriptionRole:
+        return column == TitleColumn ? item->stringValue(key::subtitle) : QVariant();
     case Qt::ToolTipRole:
         if (column == TitleColumn)
             return item->stringValue(key::note);
@@ -140,6 +144,8 @@ bool ItemTableModel::setData(const QModelIndex& index, const QVariant& value, in
     DocumentEditor& editor = m_app.invoicing().editor();
     if (role == Qt::CheckStateRole)
         return editor.setItemValue(item, key, value.toInt() == Qt::Checked);
+    if (role == ItemCellView::SubtitleRole && index.column() == TitleColumn)
+        return editor.setItemValue(item, key::subtitle, value.toString());
     if (role != Qt::EditRole)
         return false;
     if (index.column() == QuantityColumn || index.column() == PriceColumn)

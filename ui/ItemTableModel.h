@@ -6,8 +6,9 @@ namespace vorn {
 
 class AppDelegate;
 
-// The lines of the current document as an editable table: title, subtitle,
-// quantity, unit, unit price, the three taxes and the net amount. An edited
+// The lines of the current document as an editable table: title, subtitle
+// (also under ItemCellView::SubtitleRole of the title, for the cell that
+// shows both), quantity, unit, unit price, the three taxes and the net amount. An edited
 // cell goes through the core (one undoable action, recalculated at once);
 // rows are reordered by dragging with the core's drop rules.
 class ItemTableModel : public ArrayControllerModel

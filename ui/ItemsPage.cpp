@@ -7,6 +7,7 @@
 #include "store/Settings.h"
 #include "ui/DiscountPopover.h"
 #include "ui/DocumentFields.h"
+#include "ui/ItemCellView.h"
 #include "ui/ItemPopover.h"
 #include "ui/ItemTableModel.h"
 #include "ui/LockBanner.h"
@@ -86,7 +87,10 @@ ItemsPage::ItemsPage(AppDelegate& app, QWidget* parent) : QWidget(parent), m_app
     QHeaderView* header = m_table->horizontalHeader();
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->setSectionResizeMode(ItemTableModel::TitleColumn, QHeaderView::Stretch);
-    header->resizeSection(ItemTableModel::SubtitleColumn, 140);
+    // The title cell shows and edits the subtitle beneath the title.
+    m_table->setItemDelegateForColumn(ItemTableModel::TitleColumn, new ItemCellView(m_table));
+    m_table->setColumnHidden(ItemTableModel::SubtitleColumn, true);
+    m_table->verticalHeader()->setDefaultSectionSize(ItemCellView::rowHeight(m_table->font()));
     // Wide enough for the header in every language ("Precio unitario").
     for (int c : {ItemTableModel::QuantityColumn, ItemTableModel::UnitColumn, ItemTableModel::PriceColumn,
                   ItemTableModel::NetColumn})

@@ -627,7 +627,7 @@ void MainWindow::openFilterPopover()
 void MainWindow::updateFilterButton()
 {
     const FilterController& filter = m_app.invoicing().filter();
-    const bool active = filter.filterButtonImage() == QLatin1String("torchGlow");
+    const bool active = filter.isFilterActive();
     const QIcon plain =
         QIcon::fromTheme(QStringLiteral("view-filter"), style()->standardIcon(QStyle::SP_FileDialogListView));
     if (!active) {

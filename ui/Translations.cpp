@@ -1,11 +1,9 @@
 #include "ui/Translations.h"
 
-#include "store/Settings.h"
 #include "ui/UiLog.h"
 
 #include <QEvent>
 #include <QLibraryInfo>
-#include <QLocale>
 #include <QTranslator>
 
 #include <memory>
@@ -29,27 +27,6 @@ QString Translations::code(int language)
 {
     static const char* const codes[] = {"en", "de", "fr", "es"};
     return QLatin1String(codes[qBound(0, language, 3)]);
-}
-
-int Translations::languageOfLocale(const QLocale& locale)
-{
-    switch (locale.language()) {
-    case QLocale::German:
-        return 1;
-    case QLocale::French:
-        return 2;
-    case QLocale::Spanish:
-        return 3;
-    default:
-        return 0;
-    }
-}
-
-int Translations::startupLanguage(const Settings& settings)
-{
-    if (settings.boolValue(QStringLiteral("isAssiDone")))
-        return qBound<int>(0, int(settings.intValue(QStringLiteral("languageDefaults"))), 3);
-    return languageOfLocale(QLocale());
 }
 
 bool Translations::install(int language)

@@ -5,10 +5,8 @@
 
 namespace vorn {
 
-class Settings;
-
-// The language of the windows: the one chosen in the setup assistant, or,
-// before the assistant was completed, the desktop's. Translations are
+// The language of the windows (which one is the setup assistant's to say:
+// AssiController::startupLanguage). Translations are
 // compiled into the program (":/i18n/vorn_<code>.qm"); Qt's own texts
 // (standard buttons) come from the system's Qt translations.
 class Translations
@@ -17,8 +15,6 @@ class Translations
 public:
     // 0 English, 1 German, 2 French, 3 Spanish (as the languageDefaults setting).
     static QString code(int language);
-    static int languageOfLocale(const QLocale& locale);
-    static int startupLanguage(const Settings& settings);
     // Installs the translators of a language in place of the current ones;
     // open windows that follow language changes retranslate themselves.
     static bool install(int language);

@@ -1,4 +1,5 @@
 #include "app/AppDelegate.h"
+#include "app/AssiController.h"
 #include "app/InstanceChannel.h"
 #include "app/InstanceLock.h"
 #include "output/PdfRenderer.h"
@@ -74,7 +75,7 @@ int main(int argc, char** argv)
 
     // The windows speak the language chosen in the setup assistant (or the
     // desktop's, before it was run).
-    Translations::install(Translations::startupLanguage(settings));
+    Translations::install(AssiController::startupLanguage(settings, QLocale()));
 
     // Files handed to a second start go to the running instance, which
     // answers for them; the second start then ends.

@@ -202,6 +202,38 @@ TEST_F(AssiTest, ClosingCompletesTheAssistantAndOffersTheVideo)
     }
 }
 
+// The windows start in the assistant's language once it was completed, the
+// desktop's before; a restart is offered when the choice differs from the
+// language the windows were built in.
+TEST_F(AssiTest, StartupLanguageAndTheRestartOffer)
+{
+    const struct
+    {
+        const char* name;
+        bool assiDone;
+        int chosen;
+        QLocale::Language desktop;
+        int startup;
+        int windows;
+        bool restart;
+    } cases[] = {
+        {"FirstRunFollowsTheDesktop", false, 0, QLocale::German, 1, 1, true},
+        {"FirstRunOtherDesktopIsEnglish", false, 3, QLocale::Japanese, 0, 0, true},
+        {"CompletedKeepsTheChoice", true, 2, QLocale::German, 2, 2, false},
+        {"CompletedOutOfRangeIsClamped", true, 7, QLocale::English, 3, 3, false},
+        {"NegativeIsEnglish", true, -1, QLocale::Spanish, 0, 1, true},
+        {"SameAsTheWindows", false, 1, QLocale::German, 1, 1, false},
+    };
+    h.launch(false);
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.name);
+        settings().setValue("isAssiDone", c.assiDone);
+        assi().setLanguage(c.chosen);
+        EXPECT_EQ(AssiController::startupLanguage(settings(), QLocale(c.desktop)), c.startup);
+        EXPECT_EQ(assi().offersRestart(c.windows), c.restart);
+    }
+}
+
 TEST_F(AssiTest, QuitEndsTheSheetThenAsksToQuit)
 {
     launchWith(false);

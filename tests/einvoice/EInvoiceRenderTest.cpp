@@ -1,5 +1,6 @@
 #include "documents/PaymentQrCode.h"
 #include "einvoice/CiiReader.h"
+#include "store/AtomicFile.h"
 #include "tests/einvoice/EInvoiceFixture.h"
 #include "tests/support/TestFiles.h"
 
@@ -62,8 +63,8 @@ TEST_F(EInvoiceRenderTest, FacturXCarriesTheXmlTheMetadataAndTheOutputIntent)
     Result<QByteArray> pdf = facturX();
     ASSERT_TRUE(pdf.ok()) << pdf.error().fullText().toStdString();
     const QString path = scratch.filePath(QStringLiteral("invoice.pdf"));
-    ASSERT_TRUE(einvoice.writeNew(path, pdf.value()).ok());
-    EXPECT_FALSE(einvoice.writeNew(path, pdf.value()).ok()); // never over a file
+    ASSERT_TRUE(AtomicFile::writeNew(path, pdf.value()).ok());
+    EXPECT_FALSE(AtomicFile::writeNew(path, pdf.value()).ok()); // never over a file
 
     // qpdf's command-line tool extracts the attachment; it reads back as the invoice.
     const std::optional<QByteArray> xml =
@@ -107,7 +108,7 @@ TEST_F(EInvoiceRenderTest, ThePaymentQrCodeOnThePageDecodesToTheTransfer)
     Result<QByteArray> pdf = renderer.renderNow(preview.renderJob(preview.invoiceHTMLString()));
     ASSERT_TRUE(pdf.ok());
     const QString path = scratch.filePath(QStringLiteral("page.pdf"));
-    ASSERT_TRUE(einvoice.writeNew(path, pdf.value()).ok());
+    ASSERT_TRUE(AtomicFile::writeNew(path, pdf.value()).ok());
     if (!run(QStringLiteral("pdftoppm"),
              {QStringLiteral("-r"), QStringLiteral("200"), QStringLiteral("-png"), QStringLiteral("-f"),
               QStringLiteral("1"), QStringLiteral("-l"), QStringLiteral("1"), path,

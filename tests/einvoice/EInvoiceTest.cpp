@@ -3,12 +3,15 @@
 #include "documents/PaymentQrCode.h"
 #include "einvoice/CiiReader.h"
 #include "einvoice/CiiWriter.h"
+#include "einvoice/EInvoiceData.h"
 #include "einvoice/EInvoiceValidator.h"
 #include "einvoice/UnitCodes.h"
 #include "tests/einvoice/EInvoiceFixture.h"
 
 #include <QDir>
 #include <QFile>
+
+#include <array>
 
 namespace vorn::test {
 namespace {
@@ -197,6 +200,23 @@ TEST_F(EInvoiceTest, TheExportAsksWhereOnlyOnceTheDataIsComplete)
     EXPECT_EQ(ui.errorCodes(), QList<int>{516});
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
     EXPECT_EQ(file.readAll(), written);
+}
+
+// The page's payment code and the e-invoice's account pay the same name.
+TEST_F(EInvoiceTest, ThePayeeIsTheAccountHolderElseTheLegalElseTheCompanyName)
+{
+    // account holder, legal name, company name, payee
+    const std::array<const char*, 4> cases[] = {{"Kim Berger", "Studio GmbH", "Studio", "Kim Berger"},
+                                                {" ", "Studio GmbH", "Studio", "Studio GmbH"},
+                                                {"", "", " Studio ", "Studio"},
+                                                {"", "", "", ""}};
+    ManagedObject* d = germanInvoice();
+    for (const auto& [holder, legal, company, payee] : cases) {
+        assign(settings, key::prefsAccountHolder, holder, key::prefsLegalName, legal, key::prefsName,
+               company);
+        EXPECT_EQ(PaymentQrCode::payeeName(settings), payee);
+        EXPECT_EQ(EInvoiceData::fromDocument(*d, settings, EInvoiceProfile::En16931).accountHolder, payee);
+    }
 }
 
 // "%PAYMENTQR%" draws the code only for an invoice in euros to a valid IBAN;

@@ -107,6 +107,25 @@ TEST_F(DocumentEditorTest, LinesOfASentDocumentAreRefusedWithTheAlert)
     EXPECT_FALSE(editor().setItemValue(line, key::title, QStringLiteral("x")));
 }
 
+// A date field picks a calendar day: the time of day stays, a new date starts at noon.
+TEST_F(DocumentEditorTest, APickedDayKeepsTheTimeOfDayAndNewDatesStartAtNoon)
+{
+    select(document(1));
+    const QDateTime morning(QDate(2025, 1, 14), QTime(8, 30));
+    // date before, day picked, date after (local time)
+    const std::tuple<QDateTime, QDate, QDateTime> cases[] = {
+        {{}, QDate(2025, 7, 1), QDateTime(QDate(2025, 7, 1), QTime(12, 0))},
+        {morning, QDate(2025, 7, 1), QDateTime(QDate(2025, 7, 1), QTime(8, 30))},
+        {morning, QDate(), {}},
+    };
+    for (const auto& [before, day, after] : cases) {
+        state.currentInvoice()->setValue(key::date, before.isValid() ? QVariant(before.toUTC()) : QVariant());
+        editor().setDocumentDay(key::date, day);
+        EXPECT_EQ(state.currentInvoice()->dateValue(key::date), after.toUTC())
+            << day.toString().toStdString();
+    }
+}
+
 TEST_F(DocumentEditorTest, DaysFromTodayCountCalendarDays)
 {
     for (int days : {-3, 0, 1, 30})

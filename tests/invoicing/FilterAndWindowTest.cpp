@@ -67,6 +67,7 @@ TEST_P(Filters, ListAndTotals)
     controllers->filter().selectFilterAction(c.tag);
     EXPECT_EQ(listed(), c.listed);
     EXPECT_EQ(state.filterTag, c.tag);
+    EXPECT_EQ(controllers->filter().isFilterActive(), c.tag != 0);
     EXPECT_EQ(controllers->filter().filterButtonImage(),
               c.tag ? QStringLiteral("torchGlow") : QStringLiteral("torchTemplate"));
     // The totals describe the filtered list (every document is worth 10).

@@ -121,6 +121,8 @@ TEST_F(Exporting, PdfIsCopiedWhereTheUserChoseButNeverOverAFile)
     ui.answerPanel(existing.fileName());
     run(&ExportController::pdfInvoice);
     ASSERT_EQ(ui.errorCodes(), QList<int>{516});
+    EXPECT_EQ(ui.calls(QStringLiteral("error")).last().title,
+              QStringLiteral("“keep.pdf” could not be written because a file of that name already exists."));
     ASSERT_TRUE(existing.open(QIODevice::ReadOnly));
     EXPECT_EQ(existing.readAll(), QByteArray("mine"));
 }

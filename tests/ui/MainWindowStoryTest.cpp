@@ -26,6 +26,7 @@
 #include <QPushButton>
 #include <QStackedWidget>
 #include <QTabWidget>
+#include <QTableView>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -289,6 +290,33 @@ TEST_F(MainWindowStoryTest, ASentInvoiceIsReadOnlyAndSaysWhy)
     EXPECT_EQ(ui.alertTitles(), QStringList{QStringLiteral("Error!")});
 }
 
+// The title cell edits both lines of an item: a typed key opens it on the
+// title, Tab moves to the subtitle, Return keeps both.
+TEST_F(MainWindowStoryTest, TheTitleCellEditsTheTitleAndTheSubtitle)
+{
+    window->command(QStringLiteral("addInvoice"))->trigger();
+    ManagedObject* invoice = app->state().currentInvoice();
+    invoice->insertObject(key::items, app->state().context()->insertNewObject(Entity::Item));
+    app->invoicing().items().refreshItems();
+    window->showPage(1);
+    QTableView* table = window->itemsPage()->table();
+    table->setFocus();
+    table->setCurrentIndex(window->itemsPage()->model()->index(0, ItemTableModel::TitleColumn));
+    QTest::keyClick(table, Qt::Key_L);
+    ASSERT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("itemTitleEditor"));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("ogo"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    ASSERT_EQ(QApplication::focusWidget()->objectName(), QStringLiteral("itemSubtitleEditor"));
+    QTest::keyClicks(QApplication::focusWidget(), QStringLiteral("Corporate identity"));
+    shoot(window.get(), QStringLiteral("15-item-cell-editor"));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    EXPECT_EQ(QApplication::focusWidget(), table);
+    EXPECT_EQ(invoice->items().first()->stringValue(key::title), QStringLiteral("logo"));
+    EXPECT_EQ(invoice->items().first()->stringValue(key::subtitle), QStringLiteral("Corporate identity"));
+    window->updateUndoActions();
+    EXPECT_TRUE(window->undoAction()->text().contains(QStringLiteral("Change Subtitle")));
+}
+
 // Every control of the window has a name for screen readers.
 TEST_F(MainWindowStoryTest, EveryControlHasAnAccessibleName)
 {
@@ -304,6 +332,8 @@ TEST_F(MainWindowStoryTest, EveryControlHasAnAccessibleName)
     for (int i = 0; i < 1000; ++i) {
         ManagedObject* item = context->insertNewObject(Entity::Item);
         item->setValue(key::title, QStringLiteral("Line %1").arg(i + 1));
+        if (i % 3 == 0)
+            item->setValue(key::subtitle, QStringLiteral("Second line of %1").arg(i + 1));
         item->setValue(key::unitCount, 1.0f + float(i % 3));
         item->setValue(key::baseAmount, 9.5f);
         item->setValue(key::isTax1Applied, true);
