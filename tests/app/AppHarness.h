@@ -6,47 +6,16 @@
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestFiles.h"
+#include "tests/support/TestValues.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
-#include <QTimeZone>
 #include <QUrl>
-
-#include <gtest/gtest.h>
 
 #include <sqlite3.h>
 
-#ifdef Q_OS_LINUX
-#include <linux/capability.h>
-#include <sys/syscall.h>
-#include <unistd.h>
-#endif
-
 #include <memory>
-#include <ostream>
-
-// Readable test failures.
-inline void PrintTo(const QString& text, std::ostream* out)
-{
-    *out << '"' << text.toStdString() << '"';
-}
 
 namespace vorn::test {
-
-inline QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-inline void writeFile(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
 
 // "A1 A2" as the list {"A1", "A2"}.
 inline QStringList words(const char* text)
@@ -65,8 +34,6 @@ inline QStringList shown(const ScriptedUserInterface::Call& call)
 class AppHarness
 {
 public:
-    AppHarness() : clock(QDateTime(QDate(2026, 11, 21), QTime(9, 52), QTimeZone::utc())) {}
-
     AppDelegate& launch(bool launchChecks = true)
     {
         app.reset();
@@ -146,7 +113,7 @@ public:
     }
 
     TestEnvironment env;
-    FixedClock clock;
+    FixedClock clock{utc(2026, 11, 21, 9, 52)};
     ScriptedUserInterface ui;
     std::unique_ptr<Settings> settings;
     std::unique_ptr<AppDelegate> app;
@@ -198,65 +165,5 @@ inline bool execOn(const QString& path, const char* sql, bool create = false)
     sqlite3_close(db);
     return ok;
 }
-
-// Files in a folder, hidden ones included.
-inline QStringList filesIn(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::Files | QDir::Hidden, QDir::Name);
-}
-
-// A folder nobody may write to for the lifetime of the object. Root writes
-// anywhere, so for root the thread also gives up overriding file permissions
-// until the folder is writable again.
-class ReadOnlyFolder
-{
-public:
-    explicit ReadOnlyFolder(QString path) : m_path(std::move(path))
-    {
-        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::ExeOwner | QFile::ReadGroup |
-                                          QFile::ExeGroup | QFile::ReadOther | QFile::ExeOther);
-#ifdef Q_OS_LINUX
-        if (geteuid() == 0)
-            m_dropped = setOverride(false);
-#endif
-    }
-    ~ReadOnlyFolder()
-    {
-#ifdef Q_OS_LINUX
-        if (m_dropped)
-            setOverride(true);
-#endif
-        QFile::setPermissions(m_path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner |
-                                          QFile::ReadGroup | QFile::ExeGroup | QFile::ReadOther |
-                                          QFile::ExeOther);
-    }
-    // Whether writing there really fails (checked by trying).
-    bool holds() const
-    {
-        QFile probe(m_path + QStringLiteral("/.probe"));
-        if (probe.open(QIODevice::WriteOnly)) {
-            probe.remove();
-            return false;
-        }
-        return true;
-    }
-
-private:
-#ifdef Q_OS_LINUX
-    static bool setOverride(bool enabled)
-    {
-        __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
-        __user_cap_data_struct data[2] = {};
-        if (syscall(SYS_capget, &header, data) != 0)
-            return false;
-        const __u32 bits = (1u << CAP_DAC_OVERRIDE) | (1u << CAP_DAC_READ_SEARCH);
-        data[0].effective =
-            enabled ? (data[0].effective | (data[0].permitted & bits)) : (data[0].effective & ~bits);
-        return syscall(SYS_capset, &header, data) == 0;
-    }
-    bool m_dropped = false;
-#endif
-    QString m_path;
-};
 
 } // namespace vorn::test

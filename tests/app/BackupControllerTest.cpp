@@ -133,11 +133,8 @@ TEST_P(BackupRefusal, LeavesNothingHalfWrittenAndTheStoreIntact)
         writeFile(destination, "an older backup");
 
     std::optional<ReadOnlyFolder> readOnly;
-    if (row.readOnly) {
-        readOnly.emplace(folder);
-        if (!readOnly->holds())
-            GTEST_SKIP() << "this system lets the test write to a read-only folder";
-    }
+    if (row.readOnly && !readOnly.emplace(folder).holds())
+        GTEST_SKIP() << "this system lets the test write to a read-only folder";
     std::optional<FileSizeLimit> full;
     if (row.diskFull)
         full.emplace(8 * 1024);
@@ -162,21 +159,22 @@ TEST_P(BackupRefusal, LeavesNothingHalfWrittenAndTheStoreIntact)
     EXPECT_EQ(h.listedNumbers(), sequence("A", 3));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Destinations, BackupRefusal,
-    ::testing::Values(BadDestination{"MissingFolder", "nowhere/Backup.vndb", false, false, false},
-                      BadDestination{"ReadOnlyFolder", "locked/Backup.vndb", false, true, false},
-                      BadDestination{"ReadOnlyFolderWithOlderBackup", "locked/Backup.vndb", true, true,
-                                     false},
-                      BadDestination{"DiskFull", "Backup.vndb", false, false, true},
-                      BadDestination{"DiskFullWithOlderBackup", "Backup.vndb", true, false, true},
-                      BadDestination{"TheStoreItself", "@store", false, false, false},
-                      BadDestination{"TheStoreLog", "@store-wal", false, false, false}),
-    [](const auto& info) { return std::string(info.param.name); });
+const BadDestination badDestinations[] = {
+    {"MissingFolder", "nowhere/Backup.vndb", false, false, false},
+    {"ReadOnlyFolder", "locked/Backup.vndb", false, true, false},
+    {"ReadOnlyFolderWithOlderBackup", "locked/Backup.vndb", true, true, false},
+    {"DiskFull", "Backup.vndb", false, false, true},
+    {"DiskFullWithOlderBackup", "Backup.vndb", true, false, true},
+    {"TheStoreItself", "@store", false, false, false},
+    {"TheStoreLog", "@store-wal", false, false, false},
+};
+
+INSTANTIATE_TEST_SUITE_P(Destinations, BackupRefusal, ::testing::ValuesIn(badDestinations),
+                         [](const auto& info) { return std::string(info.param.name); });
 
 // --- The safety copy and the repair question ---------------------------------
 
-TEST_F(BackupTest, NoQuestionAfterARunOfCleanQuits)
+TEST_F(BackupTest, NoQuestionAfterCleanQuitsOrWithUnreadableSettings)
 {
     for (int run = 1; run <= 5; ++run) {
         h.ui.clear();
@@ -195,19 +193,40 @@ TEST_F(BackupTest, NoQuestionAfterARunOfCleanQuits)
     EXPECT_FALSE(QFileInfo::exists(h.backupPath()));
     EXPECT_EQ(backup().createBackup(), CheckResult::Copied);
     EXPECT_EQ(numbersIn(h.backupPath()), sequence("D", 5));
+
+    // Unreadable settings skip the check and leave the copy as it is.
+    h.quit();
+    writeFile(h.env.locations().settingsFile(), "<?xml version=\"1.0\"?><plist><dict><key>");
+    const QByteArray safetyCopy = fileBytes(h.backupPath());
+    h.ui.clear();
+    h.launch();
+    EXPECT_FALSE(h.ui.alertTitles().contains("Warning!"));
+    EXPECT_EQ(backup().createBackup(), CheckResult::AlreadyDone);
+    EXPECT_EQ(fileBytes(h.backupPath()), safetyCopy);
 }
+
+// The safety copy a repair would restore from.
+enum class Copy
+{
+    Good,
+    Missing, // told as a missing copy
+    Damaged  // told as an error
+};
 
 struct OutsideChange
 {
     const char* name;
     std::function<void(AppHarness&)> change;
     const char* afterChange; // the documents of the store once changed
+    Copy copy = Copy::Good;
 };
 
 class RepairQuestion : public BackupTest, public ::testing::WithParamInterface<std::tuple<OutsideChange, int>>
 {
 };
 
+// Proceeding repairs from the safety copy, keeping the changed store beside
+// it; without a good copy the repair is refused and the store stays as it is.
 TEST_P(RepairQuestion, FollowsADocumentCountChangedOutsideANormalRun)
 {
     const auto& [row, answer] = GetParam();
@@ -216,30 +235,38 @@ TEST_P(RepairQuestion, FollowsADocumentCountChangedOutsideANormalRun)
     h.quit();
     h.launch();
     h.quit();
-    const QByteArray safetyCopy = fileBytes(h.backupPath());
     ASSERT_EQ(numbersIn(h.backupPath()), sequence("A", 3));
 
     row.change(h);
+    const QByteArray safetyCopy = fileBytes(h.backupPath());
     h.ui.clear();
     h.ui.answerAlert(answer);
     h.launch();
 
+    const bool repairs = answer == 0 && row.copy == Copy::Good;
     const auto alerts = h.ui.calls("alert");
-    ASSERT_GE(alerts.size(), 1);
+    ASSERT_EQ(alerts.size(), answer == 0 && row.copy == Copy::Missing ? 2 : 1);
     EXPECT_EQ(shown(alerts[0]),
               (QStringList{"Warning!", BackupController::repairQuestionText(), "Proceed|Cancel"}));
-    EXPECT_TRUE(h.ui.calls("error").isEmpty());
+    if (alerts.size() > 1) {
+        EXPECT_EQ(shown(alerts[1]), (QStringList{"Error!",
+                                                 "No valid backup file available. Please restore your Vorn "
+                                                 "database from your own (Time Machine) backups.",
+                                                 "OK"}));
+    }
+    EXPECT_EQ(h.ui.calls("error").size(), answer == 0 && row.copy == Copy::Damaged ? 1 : 0);
     // The safety copy is never refreshed from a store that failed the check.
     EXPECT_EQ(fileBytes(h.backupPath()), safetyCopy);
     const QString replaced = backup().lastReplacedPath();
-    if (answer == 0) {
-        EXPECT_EQ(h.listedNumbers(), sequence("A", 3));
-        EXPECT_EQ(numbersIn(h.storePath()), sequence("A", 3));
+    const QStringList kept = repairs ? sequence("A", 3) : words(row.afterChange);
+    EXPECT_EQ(h.listedNumbers(), kept);
+    EXPECT_EQ(numbersIn(h.storePath()), kept);
+    if (repairs) {
         ASSERT_FALSE(replaced.isEmpty());
         EXPECT_EQ(numbersIn(replaced), words(row.afterChange));
     } else {
-        EXPECT_EQ(h.listedNumbers(), words(row.afterChange));
         EXPECT_TRUE(replaced.isEmpty());
+        EXPECT_EQ(leftovers(storeFolder()), "");
     }
 
     // A clean quit settles it: the next launch asks nothing.
@@ -249,14 +276,15 @@ TEST_P(RepairQuestion, FollowsADocumentCountChangedOutsideANormalRun)
     EXPECT_TRUE(h.ui.alertTitles().isEmpty());
 }
 
+void crashAfterSaving(AppHarness& h)
+{
+    h.launch(false);
+    h.addDocuments(1, "C");
+    h.crash();
+}
+
 const OutsideChange outsideChanges[] = {
-    {"CrashAfterSaving",
-     [](AppHarness& h) {
-         h.launch(false);
-         h.addDocuments(1, "C");
-         h.crash();
-     },
-     "A1 A2 A3 C1"},
+    {"CrashAfterSaving", crashAfterSaving, "A1 A2 A3 C1"},
     {"DeletedByAnotherProgram",
      [](AppHarness& h) { ASSERT_TRUE(execOn(h.storePath(), "DELETE FROM Invoice WHERE number = 'A2'")); },
      "A1 A3"},
@@ -267,6 +295,24 @@ const OutsideChange outsideChanges[] = {
      "A1 A2 A3 Z1"},
     {"SettingsLost", [](AppHarness& h) { ASSERT_TRUE(QFile::remove(h.env.locations().settingsFile())); },
      "A1 A2 A3"},
+    {"CopyMissing",
+     [](AppHarness& h) {
+         crashAfterSaving(h);
+         QFile::remove(h.backupPath());
+     },
+     "A1 A2 A3 C1", Copy::Missing},
+    {"CopyGarbage",
+     [](AppHarness& h) {
+         crashAfterSaving(h);
+         writeFile(h.backupPath(), QByteArray(40000, 'Z'));
+     },
+     "A1 A2 A3 C1", Copy::Damaged},
+    {"CopyTruncated",
+     [](AppHarness& h) {
+         crashAfterSaving(h);
+         QFile::resize(h.backupPath(), QFileInfo(h.backupPath()).size() / 2);
+     },
+     "A1 A2 A3 C1", Copy::Damaged},
 };
 
 INSTANTIATE_TEST_SUITE_P(Changes, RepairQuestion,
@@ -275,68 +321,6 @@ INSTANTIATE_TEST_SUITE_P(Changes, RepairQuestion,
                              return std::string(std::get<0>(info.param).name) +
                                     (std::get<1>(info.param) == 0 ? "_Proceed" : "_Cancel");
                          });
-
-struct BadSafetyCopy
-{
-    const char* name;
-    std::function<void(const QString& path)> spoil;
-    bool missing; // told as a missing copy; else as an error
-};
-
-class RepairWithoutAGoodCopy : public BackupTest, public ::testing::WithParamInterface<BadSafetyCopy>
-{
-};
-
-TEST_P(RepairWithoutAGoodCopy, IsRefusedAndTheStoreStaysAsItIs)
-{
-    const BadSafetyCopy& row = GetParam();
-    h.launch();
-    h.addDocuments(3, "A");
-    h.quit();
-    h.launch();
-    h.addDocuments(1, "C");
-    h.crash();
-    row.spoil(h.backupPath());
-    h.ui.clear();
-    h.launch();
-
-    const auto alerts = h.ui.calls("alert");
-    ASSERT_EQ(alerts.size(), row.missing ? 2 : 1);
-    EXPECT_EQ(alerts[0].title, "Warning!");
-    if (row.missing) {
-        EXPECT_EQ(shown(alerts[1]), (QStringList{"Error!",
-                                                 "No valid backup file available. Please restore your Vorn "
-                                                 "database from your own (Time Machine) backups.",
-                                                 "OK"}));
-    }
-    EXPECT_EQ(h.ui.calls("error").size(), row.missing ? 0 : 1);
-    EXPECT_EQ(h.listedNumbers(), words("A1 A2 A3 C1"));
-    EXPECT_EQ(numbersIn(h.storePath()), words("A1 A2 A3 C1"));
-    EXPECT_EQ(leftovers(storeFolder()), "");
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Copies, RepairWithoutAGoodCopy,
-    ::testing::Values(
-        BadSafetyCopy{"Missing", [](const QString& p) { QFile::remove(p); }, true},
-        BadSafetyCopy{"Garbage", [](const QString& p) { writeFile(p, QByteArray(40000, 'Z')); }, false},
-        BadSafetyCopy{"Truncated", [](const QString& p) { QFile::resize(p, QFileInfo(p).size() / 2); },
-                      false}),
-    [](const auto& info) { return std::string(info.param.name); });
-
-TEST_F(BackupTest, UnreadableSettingsSkipTheCheck)
-{
-    h.launch();
-    h.addDocuments(2, "A");
-    h.quit();
-    writeFile(h.env.locations().settingsFile(), "<?xml version=\"1.0\"?><plist><dict><key>");
-    const QByteArray safetyCopy = fileBytes(h.backupPath());
-    h.ui.clear();
-    h.launch();
-    EXPECT_FALSE(h.ui.alertTitles().contains("Warning!"));
-    EXPECT_EQ(backup().createBackup(), CheckResult::AlreadyDone);
-    EXPECT_EQ(fileBytes(h.backupPath()), safetyCopy);
-}
 
 // --- Restoring --------------------------------------------------------------
 
@@ -369,22 +353,14 @@ protected:
     QString base;
 };
 
-// What happens to the source once the copy has begun.
-enum class During
-{
-    Nothing,
-    Vanish,
-    Truncate,
-    Damage
-};
-
 struct BadSource
 {
     const char* name;
     int code; // the error presented; 0 for any
     // Spoils the copy of the good backup to restore from, or points elsewhere.
     std::function<void(QString& path, AppHarness& h)> spoil;
-    During during = During::Nothing;
+    // Spoils the source once the copy has begun.
+    std::function<void(const QString& path)> during = {};
     bool storeFolderReadOnly = false;
 };
 
@@ -402,22 +378,12 @@ TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
     h.addDocuments(1, "P", false);
     int copySteps = 0;
     backup().setCopyProgress([&](int, int) {
-        if (copySteps++ > 0)
-            return;
-        if (row.during == During::Vanish)
-            QFile::remove(source);
-        if (row.during == During::Truncate)
-            QFile::resize(source, 8192);
-        // Pages not copied yet get noise where their contents begin.
-        if (row.during == During::Damage)
-            withNoise(source, 128 * 4096, 4096, "\xde\xad\xbe\xef\xde\xad\xbe\xef");
+        if (copySteps++ == 0 && row.during)
+            row.during(source);
     });
     std::optional<ReadOnlyFolder> readOnly;
-    if (row.storeFolderReadOnly) {
-        readOnly.emplace(storeFolder());
-        if (!readOnly->holds())
-            GTEST_SKIP() << "this system lets the test write to a read-only folder";
-    }
+    if (row.storeFolderReadOnly && !readOnly.emplace(storeFolder()).holds())
+        GTEST_SKIP() << "this system lets the test write to a read-only folder";
     const RestoreResult result = restore(source);
     readOnly.reset();
 
@@ -429,7 +395,7 @@ TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
             << errors[0].title.toStdString() << " " << errors[0].text.toStdString();
     }
     EXPECT_TRUE(errors[0].text.endsWith("Nothing was changed: your Vorn database is as it was."));
-    if (row.during != During::Nothing) {
+    if (row.during) {
         EXPECT_GT(copySteps, 0) << "the copy never began";
     }
 
@@ -465,10 +431,12 @@ const BadSource badSources[] = {
          execOn(p, "CREATE TABLE notes (text TEXT); INSERT INTO notes VALUES ('hello')", true);
      }},
     {"TheLiveStoreItself", 0, [](auto& p, auto& h) { p = h.storePath(); }},
-    {"VanishesMidCopy", ErrorCode::FileNotFound, nullptr, During::Vanish},
-    {"TruncatedMidCopy", 0, nullptr, During::Truncate},
-    {"DamagedMidCopy", ErrorCode::StoreDamaged, nullptr, During::Damage},
-    {"ReadOnlyStoreFolder", ErrorCode::FileWriteNoPermission, nullptr, During::Nothing, true},
+    {"VanishesMidCopy", ErrorCode::FileNotFound, nullptr, [](auto& p) { QFile::remove(p); }},
+    {"TruncatedMidCopy", 0, nullptr, [](auto& p) { QFile::resize(p, 8192); }},
+    // Pages not copied yet get noise where their contents begin.
+    {"DamagedMidCopy", ErrorCode::StoreDamaged, nullptr,
+     [](auto& p) { withNoise(p, 128 * 4096, 4096, "\xde\xad\xbe\xef\xde\xad\xbe\xef"); }},
+    {"ReadOnlyStoreFolder", ErrorCode::FileWriteNoPermission, nullptr, nullptr, true},
 };
 
 INSTANTIATE_TEST_SUITE_P(Sources, RestoreRefusal, ::testing::ValuesIn(badSources),

@@ -3,11 +3,9 @@
 #include "store/Clock.h"
 #include "store/ObjectContext.h"
 #include "store/SqliteStore.h"
+#include "tests/support/TestFiles.h"
 #include "tests/support/TestValues.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -17,20 +15,6 @@
 #include <memory>
 
 namespace vorn::test {
-
-inline QByteArray fileBytes(const QString& path)
-{
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-inline void writeBytes(const QString& path, const QByteArray& bytes)
-{
-    QDir().mkpath(QFileInfo(path).absolutePath());
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write(bytes);
-}
 
 inline QStringList titles(const QList<ManagedObject*>& objects)
 {

@@ -21,13 +21,6 @@ bool ScriptedUserInterface::presentError(const Error& error)
     return m_errorAnswers.isEmpty() ? false : m_errorAnswers.dequeue();
 }
 
-bool ScriptedUserInterface::runPrintOperation(const PrintJob& job)
-{
-    record("print", job.title, job.paperName, {}, job.showPanels ? 1 : 0);
-    m_lastPrintJob = job;
-    return m_printAnswers.isEmpty() ? true : m_printAnswers.dequeue();
-}
-
 QList<ScriptedUserInterface::Call> ScriptedUserInterface::calls(const QString& kind) const
 {
     QList<Call> result;

@@ -36,15 +36,16 @@ public:
     void showPreferencesWindow() override { record("preferences"); }
     bool openUrl(const QUrl& url) override { return record("url", url.toString()); }
     bool openApplication(const QString& id) override { return record("application", id); }
-    // Records the job (kept for the test to paint) and answers from the queue (printed when empty).
-    bool runPrintOperation(const PrintJob& job) override;
+    // Records the job and answers that it printed.
+    bool runPrintOperation(const PrintJob& job) override
+    {
+        return record("print", job.title, job.paperName, {}, job.showPanels ? 1 : 0);
+    }
 
     // Scripting.
     void answerAlert(int button) { m_alertAnswers.enqueue(button); }
     void answerPanel(std::optional<QString> path) { m_panelAnswers.enqueue(std::move(path)); }
     void answerErrorRecovered(bool recovered) { m_errorAnswers.enqueue(recovered); }
-    void answerPrint(bool printed) { m_printAnswers.enqueue(printed); }
-    const std::optional<PrintJob>& lastPrintJob() const { return m_lastPrintJob; }
 
     const QList<Call>& calls() const { return m_calls; }
     QList<Call> calls(const QString& kind) const;
@@ -74,8 +75,6 @@ private:
     QQueue<int> m_alertAnswers;
     QQueue<std::optional<QString>> m_panelAnswers;
     QQueue<bool> m_errorAnswers;
-    QQueue<bool> m_printAnswers;
-    std::optional<PrintJob> m_lastPrintJob;
 };
 
 } // namespace vorn::test
