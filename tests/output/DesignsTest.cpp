@@ -167,13 +167,8 @@ public:
         const QString folder = qEnvironmentVariable("VORN_DESIGN_GALLERY");
         if (folder.isEmpty())
             return;
-        QDir().mkpath(folder);
-        QFile file(QDir(folder).filePath(name + ".pdf"));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(pdf);
-        QFile page(QDir(folder).filePath(name + ".html"));
-        if (page.open(QIODevice::WriteOnly))
-            page.write(html.toUtf8());
+        writeFile(QDir(folder).filePath(name + ".pdf"), pdf);
+        writeFile(QDir(folder).filePath(name + ".html"), html.toUtf8());
     }
 
     // Checks one printed document: every row once, headers on every page

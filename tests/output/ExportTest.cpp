@@ -107,14 +107,14 @@ TEST_F(Exporting, PdfIsCopiedWhereTheUserChoseButNeverOverAFile)
     ASSERT_EQ(panels.size(), 1);
     EXPECT_EQ(panels[0].title + "|" + panels[0].text + "|" + panels[0].buttons.join(','),
               "Export As PDF File|Tandrelo Studio | Invoice | INV-2025-17|pdf");
-    EXPECT_TRUE(PdfInspector(read(target)).allText().contains("Workshop"));
+    EXPECT_TRUE(PdfInspector(fileBytes(target)).allText().contains("Workshop"));
 
     ui.answerPanel(write("keep.pdf", "mine"));
     run(&ExportController::pdfInvoice);
     ASSERT_EQ(ui.errorCodes(), QList<int>{516});
     EXPECT_EQ(ui.calls("error").last().title,
               "“keep.pdf” could not be written because a file of that name already exists.");
-    EXPECT_EQ(read(home("keep.pdf")), QByteArray("mine"));
+    EXPECT_EQ(fileBytes(home("keep.pdf")), QByteArray("mine"));
 }
 
 // The mail program gets the PDF; without one the PDF is shown in the file manager.
@@ -147,7 +147,7 @@ TEST_F(Exporting, DocumentsExportInBothFormats)
         run(&ExportController::exportInvoice);
         const auto panels = ui.calls("save");
         EXPECT_EQ(panels.last().title, format ? "Export As XML Document" : "Export As Vorn Document");
-        const QByteArray data = read(target);
+        const QByteArray data = fileBytes(target);
         ASSERT_FALSE(data.isEmpty());
         if (format == 1) {
             EXPECT_TRUE(data.startsWith("<?xml"));
@@ -229,7 +229,7 @@ TEST_F(Footers, PrintedPagesCarryTheFooterLine)
                 job.paintPage(painter, page, QRectF(QPointF(0, 0), QSizeF(writer.width(), writer.height())));
             }
         }
-        PdfInspector pdf(read(printed));
+        PdfInspector pdf(fileBytes(printed));
         ASSERT_EQ(pdf.pageCount(), 3);
         const QString page2 = pdf.text(1).simplified();
         if (*expected)

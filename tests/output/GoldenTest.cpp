@@ -37,9 +37,7 @@ TEST_P(Golden, HtmlMatchesThePinnedFile)
     html.replace(environment.home(), "$HOME");
     const QString path = golden(QString::fromLatin1(GetParam().file));
     if (qEnvironmentVariableIntValue("VORN_UPDATE_GOLDEN")) {
-        QFile file(path);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-        file.write(html.toUtf8());
+        writeFile(path, html.toUtf8());
         FAIL() << "wrote " << path.toStdString()
                << "; review the difference, then run without VORN_UPDATE_GOLDEN";
     }

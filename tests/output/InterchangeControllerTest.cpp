@@ -10,6 +10,7 @@
 #include "store/Settings.h"
 #include "store/SqliteStore.h"
 #include "tests/support/ScriptedUserInterface.h"
+#include "tests/support/TestFiles.h"
 #include "tests/support/TestValues.h"
 
 #include <QFile>
@@ -51,19 +52,15 @@ protected:
         state.invoicesController().addObject(d);
         return d;
     }
-    QString writeFile(const QString& name, const QByteArray& data)
+    QString write(const QString& name, const QByteArray& data)
     {
-        QFile f(dir.filePath(name));
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(data);
-        return f.fileName();
+        test::writeFile(dir.filePath(name), data);
+        return dir.filePath(name);
     }
-    QStringList exportedNumbers(const QString& path)
+    static QStringList exportedNumbers(const QString& path)
     {
-        QFile f(path);
-        EXPECT_TRUE(f.open(QIODevice::ReadOnly));
         QStringList numbers;
-        for (const QVariant& d : PropertyList::read(f.readAll()).value().toList())
+        for (const QVariant& d : PropertyList::read(test::fileBytes(path)).value().toList())
             numbers << d.toMap().value("number").toString();
         return numbers;
     }
@@ -75,14 +72,14 @@ TEST_F(InterchangeControllerTest, ImportAsksThenAddsTheDocumentAsItIsAndSaves)
 {
     // Whatever the file calls its record, it comes in as a document.
     const QString path =
-        writeFile("doc.vorn",
-                  KeyedArchive::archive(QVariantMap{
-                      {"vornDic", QVariantMap{{"class", "Address"},
-                                              {"number", "RE-9"},
-                                              {"status", qint64(3)},
-                                              {"date", utc(2025, 12, 24, 9)},
-                                              {"items", QVariantList{QVariantMap{{"class", "NSManagedObject"},
-                                                                                 {"title", "Work"}}}}}}}));
+        write("doc.vorn",
+              KeyedArchive::archive(QVariantMap{
+                  {"vornDic", QVariantMap{{"class", "Address"},
+                                          {"number", "RE-9"},
+                                          {"status", qint64(3)},
+                                          {"date", utc(2025, 12, 24, 9)},
+                                          {"items", QVariantList{QVariantMap{{"class", "NSManagedObject"},
+                                                                             {"title", "Work"}}}}}}}));
     document("RE-1", utc(2026, 1, 1, 9));
     ASSERT_TRUE(context.save());
     ui.answerAlert(0);
@@ -150,7 +147,7 @@ TEST_F(InterchangeControllerTest, ALongDocumentArrivesWhole)
     ObjectContext target(std::move(store.value()), clock);
     state.setContext(&target);
     ui.answerAlert(0);
-    ui.answerPanel(writeFile("long.vorn", InterchangeFile::documentFileData(*original)));
+    ui.answerPanel(write("long.vorn", InterchangeFile::documentFileData(*original)));
     ManagedObject* imported = interchange.importInvoice();
     ASSERT_NE(imported, nullptr);
     Calculator(state).calculateInvoice(imported);
@@ -173,7 +170,7 @@ TEST_F(InterchangeControllerTest, ALongDocumentArrivesWhole)
 
 TEST_F(InterchangeControllerTest, CancellingOrABadFileImportsNothing)
 {
-    const QString bad = writeFile(
+    const QString bad = write(
         "bad.vorn",
         KeyedArchive::archive(QVariantMap{{"vornDic", QVariantMap{{"class", "Invoice"}, {"number", 5}}}}));
     ManagedObject* pending = document("RE-1", utc(2026, 1, 1, 9));

@@ -77,15 +77,8 @@ QString OutputFixture::home(const QString& name) const
 
 QString OutputFixture::write(const QString& name, const QByteArray& data) const
 {
-    QFile file(home(name));
-    EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(data) == data.size()) << qPrintable(name);
-    return file.fileName();
-}
-
-QByteArray OutputFixture::read(const QString& path)
-{
-    QFile file(path);
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    writeFile(home(name), data);
+    return home(name);
 }
 
 QString OutputFixture::html()

@@ -8,6 +8,7 @@
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestFiles.h"
 #include "tests/support/TestValues.h"
 
 #include <QColor>
@@ -48,7 +49,6 @@ public:
     // A path in the scratch HOME; write() puts data there and answers the path.
     QString home(const QString& name) const;
     QString write(const QString& name, const QByteArray& data) const;
-    static QByteArray read(const QString& path);
     // The current document's HTML with the scratch HOME written as "$HOME".
     QString html();
     // A small PNG of one colour, as for the logo setting.

@@ -216,13 +216,13 @@ TEST_F(Rendering, ThePreviewWritesThePdfAndReportsIt)
     EXPECT_FALSE(preview.isGenerating());
     EXPECT_EQ(generating.count(), 2);
     EXPECT_TRUE(settings.boolValue("isMainPreviewAction"));
-    PdfInspector pdf(read(state.pdfPath));
+    PdfInspector pdf(fileBytes(state.pdfPath));
     EXPECT_TRUE(pdf.allText().contains("Item-2-end"));
 
     preview.generateReminder({"Second Notice", {}, {}});
     EXPECT_TRUE(state.isReminderAction);
     ASSERT_TRUE(ready.wait(30000));
-    PdfInspector reminder(read(state.pdfPath));
+    PdfInspector reminder(fileBytes(state.pdfPath));
     EXPECT_TRUE(reminder.allText().contains("Second Notice INV-2025-17"));
     EXPECT_TRUE(ui.calls("alert").isEmpty());
 }

@@ -143,7 +143,7 @@ TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
     settings.setValue("prefsLogo", pngData(12, 6));
     select(addDocument(1));
     EXPECT_EQ(html(), "<p>no logo token</p>");
-    const QByteArray png = read(locations.logoCache());
+    const QByteArray png = fileBytes(locations.logoCache());
     EXPECT_TRUE(png.startsWith("\x89PNG"));
     EXPECT_EQ(QImage::fromData(png).size(), QSize(12, 6));
 }
