@@ -9,6 +9,7 @@
 #include "store/PropertyList.h"
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
+#include "tests/support/TestFiles.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -47,10 +48,8 @@ protected:
 
     QString write(const char* name, const QByteArray& data)
     {
-        QFile file(dir.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        EXPECT_EQ(file.write(data), data.size());
-        return file.fileName();
+        test::writeFile(dir.filePath(name), data);
+        return dir.filePath(name);
     }
 
     QStringList listedTitles()

@@ -7,7 +7,7 @@
 #include <QRandomGenerator>
 #include <QTemporaryDir>
 
-#include "tests/support/TestValues.h"
+#include "tests/support/TestFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -145,17 +145,15 @@ TEST_F(SyntaxDefinitionTest, TheOldFlatFormatColoursInItsOwnOrder)
 
 TEST_F(SyntaxDefinitionTest, AnUnreadableDefinitionIsPlainText)
 {
-    QFile damaged(dir.filePath("HTML.plist"));
-    ASSERT_TRUE(damaged.open(QIODevice::WriteOnly));
-    damaged.write("<plist><dict><key>Components");
-    damaged.close();
-    for (const QString& path : {damaged.fileName(), dir.filePath("missing.plist")}) {
+    const QString damaged = dir.filePath("HTML.plist");
+    test::writeFile(damaged, "<plist><dict><key>Components");
+    for (const QString& path : {damaged, dir.filePath("missing.plist")}) {
         SyntaxColorizer c(SyntaxDefinition::load(path, nullptr));
         c.setText("<b>x</b>");
         EXPECT_TRUE(c.definition().isPlainText());
         EXPECT_TRUE(c.runs(0, 8).empty());
     }
-    EXPECT_FALSE(SyntaxDefinition::registerColorDefaults(settings, damaged.fileName()));
+    EXPECT_FALSE(SyntaxDefinition::registerColorDefaults(settings, damaged));
 }
 
 // Editing: after each edit the modes must be what colouring the whole new
@@ -262,26 +260,22 @@ class GoldenTest : public ::testing::TestWithParam<const char*>
 TEST_P(GoldenTest, ColourRunsMatchTheGoldenFile)
 {
     const QString source = QString(VORN_SOURCE_DIR "/resources/designs/") + GetParam();
-    QFile file(source);
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly)) << source.toStdString();
+    const QString text = test::readText(source);
+    ASSERT_FALSE(text.isEmpty()) << source.toStdString();
     const QString language =
         source.endsWith(".css") ? SyntaxDefinition::cssPath() : SyntaxDefinition::htmlPath();
     SyntaxColorizer c(SyntaxDefinition::load(language, nullptr));
     ASSERT_FALSE(c.definition().isPlainText());
-    c.setText(QString::fromUtf8(file.readAll()));
+    c.setText(text);
     const QString actual = runsByLine(c);
     const QString golden =
         QString(VORN_SOURCE_DIR "/tests/designs/golden/") + QString(GetParam()).replace('/', '-') + ".runs";
     if (qEnvironmentVariableIntValue("VORN_UPDATE_GOLDEN")) {
-        QFile out(golden);
-        ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-        out.write(actual.toUtf8());
+        test::writeFile(golden, actual.toUtf8());
         FAIL() << "wrote " << golden.toStdString()
                << "; review the difference, then run without VORN_UPDATE_GOLDEN";
     }
-    QFile expected(golden);
-    ASSERT_TRUE(expected.open(QIODevice::ReadOnly)) << golden.toStdString();
-    EXPECT_EQ(actual.toStdString(), QString::fromUtf8(expected.readAll()).toStdString());
+    EXPECT_EQ(actual.toStdString(), test::readText(golden).toStdString()) << golden.toStdString();
 }
 
 INSTANTIATE_TEST_SUITE_P(BuiltInDesigns, GoldenTest,
