@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestFiles.h"
 
 #include <QDir>
 #include <QFile>
@@ -59,17 +60,8 @@ protected:
     static CliRun run(const QStringList& args) { return runCli(args); }
     static CliRun ok(const QStringList& args) { return runOk(args); }
     QString path(const QString& name) const { return QDir(env.home()).filePath(name); }
-    void writeFile(const QString& name, const QByteArray& data) const
-    {
-        QFile f(path(name));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(data);
-    }
-    static QByteArray readFile(const QString& file)
-    {
-        QFile f(file);
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
+    void writeFile(const QString& name, const QByteArray& data) const { test::writeFile(path(name), data); }
+    static QByteArray readFile(const QString& file) { return fileBytes(file); }
 
     TestEnvironment env;
 };

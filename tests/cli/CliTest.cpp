@@ -152,11 +152,7 @@ TEST_F(CliTest, ALockedStoreRefusesChangesButReads)
 TEST_F(CliTest, AFileWhereTheFolderShouldBe)
 {
     const QString files = env.locations().filesDirectory;
-    QDir().mkpath(QFileInfo(files).absolutePath());
-    QFile f(files);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-    f.write("not a folder");
-    f.close();
+    test::writeFile(files, "not a folder");
 
     expectRefusal(run({"defaults", "load", "german"}), 3,
                   "Expected a folder to store application data, found a file");

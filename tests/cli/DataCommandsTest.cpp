@@ -51,10 +51,7 @@ TEST_F(DataCommandsTest, BackupThenRestoreThenCheck)
     EXPECT_EQ(numbersIn(h.backupPath()), sequence("S", 2));
 
     // A store that cannot be opened stops every run but the restore.
-    QFile store(h.storePath());
-    ASSERT_TRUE(store.open(QIODevice::WriteOnly));
-    store.write(QByteArray(20000, 'x'));
-    store.close();
+    writeFile(h.storePath(), QByteArray(20000, 'x'));
     ASSERT_EQ(runCli({"check"}).code, 3);
     ok({"restore", path("saved.vndb")});
     EXPECT_EQ(numbersIn(h.storePath()), sequence("S", 2));
@@ -88,10 +85,7 @@ TEST_F(DataCommandsTest, CheckAsksTheRepairQuestionAndRepairsFromTheSafetyCopyOn
 TEST_F(DataCommandsTest, RefusalsLeaveTheStoreIntact)
 {
     seed(3, "A");
-    QFile garbage(path("garbage.vndb"));
-    ASSERT_TRUE(garbage.open(QIODevice::WriteOnly));
-    garbage.write(QByteArray(5000, 'g'));
-    garbage.close();
+    writeFile(path("garbage.vndb"), QByteArray(5000, 'g'));
     const std::tuple<QStringList, int, const char*> cases[] = {
         {{"restore", path("garbage.vndb")}, 3, "is not a Vorn database. Nothing was changed"},
         {{"restore", path("missing.vndb")}, 3, "could not be found"},
