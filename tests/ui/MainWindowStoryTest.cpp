@@ -98,13 +98,10 @@ TEST_F(MainWindowStoryTest, AnInvoiceFromAnEmptyDatabaseToPaidAndFiltered)
     shoot(window.get(), "01-empty");
 
     const QString contacts = env.locations().filesDirectory + "/contacts";
-    QDir().mkpath(contacts);
-    QFile card(contacts + "/ada.vcf");
-    ASSERT_TRUE(card.open(QIODevice::WriteOnly));
-    card.write(
+    writeFile(
+        contacts + "/ada.vcf",
         "BEGIN:VCARD\r\nVERSION:3.0\r\nN:Lovelace;Ada;;;\r\nFN:Ada Lovelace\r\nORG:Engines Ltd\r\n"
         "ADR;TYPE=work:;;12 Analytical Row;London;;N1 9GU;UK\r\nEMAIL:ada@example.org\r\nEND:VCARD\r\n");
-    card.close();
     settings.setValue(key::prefsContactsFolders, contacts);
     settings.setValue(key::prefsAddressPattern, "%FIRSTNAME% %LASTNAME%\n%STREET%\n%ZIP% %CITY%");
 

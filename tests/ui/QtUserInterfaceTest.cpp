@@ -3,6 +3,7 @@
 #include "store/Clock.h"
 #include "store/Settings.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestFiles.h"
 #include "tests/support/TestValues.h"
 #include "ui/MainWindow.h"
 
@@ -162,10 +163,8 @@ TEST(QtUserInterfaceProgramTest, FindsTheDesktopsOwnHelperProgram)
         SCOPED_TRACE(c.what);
         QTemporaryDir bin;
         for (const QString& name : c.installed) {
-            QFile file(bin.filePath(name));
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write("#!/bin/sh\nexit 0\n");
-            file.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+            writeFile(bin.filePath(name), "#!/bin/sh\nexit 0\n");
+            QFile::setPermissions(bin.filePath(name), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         }
         qputenv("PATH", QFile::encodeName(bin.path()));
         const QString found = QtUserInterface::findApplication(c.identifier);

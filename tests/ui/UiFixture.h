@@ -7,6 +7,7 @@
 #include "store/Settings.h"
 #include "tests/support/ScriptedUserInterface.h"
 #include "tests/support/TestEnvironment.h"
+#include "tests/support/TestFiles.h"
 #include "tests/support/TestValues.h"
 #include "ui/MainWindow.h"
 #include "ui/Translations.h"
