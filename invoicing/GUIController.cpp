@@ -166,6 +166,13 @@ void GUIController::restoreListSort()
     sortListBy(s.stringValue(key::listSortKey), s.boolValue(key::listSortAscending));
 }
 
+void GUIController::selectFirstDocumentAtLaunch()
+{
+    ArrayController& list = m_state.invoicesController();
+    if (list.selectedObjects().isEmpty() && !list.arrangedObjects().isEmpty())
+        list.setSelectionIndexes({0});
+}
+
 QStringList GUIController::listColumnKeys()
 {
     return {key::number, key::title, key::address, key::date, key::amount};

@@ -79,6 +79,10 @@ public:
     void sortListBy(const QString& key, bool ascending);
     // Puts the remembered order in force (at launch).
     void restoreListSort();
+    // At launch the window opens on the first document of the list, as a
+    // list that avoids an empty selection would, rather than on nothing;
+    // a selection already made is kept.
+    void selectFirstDocumentAtLaunch();
 
     // The list's columns by the attribute they show. The narrow list shows
     // number, client, date and amount; the user may hide or show any of

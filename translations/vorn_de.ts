@@ -2119,18 +2119,6 @@ Diesen Assistenten finden Sie jederzeit im Menü „Hilfe“.</translation>
         <translation>Einzelpreis</translation>
     </message>
     <message>
-        <source>Tax 1</source>
-        <translation>Steuer 1</translation>
-    </message>
-    <message>
-        <source>Tax 2</source>
-        <translation>Steuer 2</translation>
-    </message>
-    <message>
-        <source>Tax 3</source>
-        <translation>Steuer 3</translation>
-    </message>
-    <message>
         <source>Net</source>
         <translation>Netto</translation>
     </message>

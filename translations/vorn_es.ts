@@ -2119,18 +2119,6 @@ Encontrará este asistente de nuevo en el menú Ayuda.</translation>
         <translation>Precio unitario</translation>
     </message>
     <message>
-        <source>Tax 1</source>
-        <translation>Impuesto 1</translation>
-    </message>
-    <message>
-        <source>Tax 2</source>
-        <translation>Impuesto 2</translation>
-    </message>
-    <message>
-        <source>Tax 3</source>
-        <translation>Impuesto 3</translation>
-    </message>
-    <message>
         <source>Net</source>
         <translation>Neto</translation>
     </message>

@@ -2119,18 +2119,6 @@ Vous retrouverez cet assistant dans le menu Aide.</translation>
         <translation>Prix unitaire</translation>
     </message>
     <message>
-        <source>Tax 1</source>
-        <translation>Taxe 1</translation>
-    </message>
-    <message>
-        <source>Tax 2</source>
-        <translation>Taxe 2</translation>
-    </message>
-    <message>
-        <source>Tax 3</source>
-        <translation>Taxe 3</translation>
-    </message>
-    <message>
         <source>Net</source>
         <translation>Net</translation>
     </message>

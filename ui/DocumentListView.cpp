@@ -3,7 +3,9 @@
 #include "ui/DocumentListModel.h"
 
 #include <QApplication>
+#include <QDate>
 #include <QHeaderView>
+#include <QLocale>
 #include <QPainter>
 #include <QStyledItemDelegate>
 
@@ -106,7 +108,12 @@ void DocumentListView::setModel(QAbstractItemModel* model)
     header->setSectionResizeMode(QHeaderView::Interactive);
     header->resizeSection(DocumentListModel::NumberColumn, tight(QStringLiteral("INV-2026")));
     header->resizeSection(DocumentListModel::TitleColumn, width(QStringLiteral("Consulting, November 2026")));
-    header->resizeSection(DocumentListModel::DateColumn, tight(QStringLiteral("00/00/00")));
+    // The date as the model writes it, in the locale's short form, at its
+    // widest month ("12/28/26", "28/12/2026", "28 Dec 2026").
+    int dateWidth = 0;
+    for (int month = 1; month <= 12; ++month)
+        dateWidth = qMax(dateWidth, tight(QLocale().toString(QDate(2026, month, 28), QLocale::ShortFormat)));
+    header->resizeSection(DocumentListModel::DateColumn, dateWidth);
     header->resizeSection(DocumentListModel::AmountColumn, tight(QStringLiteral("00,000.00 $")));
     header->setSectionResizeMode(DocumentListModel::StatusColumn, QHeaderView::Fixed);
     header->resizeSection(DocumentListModel::StatusColumn, 22);

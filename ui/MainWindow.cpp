@@ -659,8 +659,10 @@ void MainWindow::contextChanged()
         m_undoConnection =
             connect(context->undoManager(), &UndoManager::changed, this, &MainWindow::updateUndoActions);
     m_saveAction->setEnabled(context != nullptr);
-    if (context)
+    if (context) {
         m_app.invoicing().gui().restoreListSort();
+        m_app.invoicing().gui().selectFirstDocumentAtLaunch();
+    }
     showSortIndicator();
     m_list->setPlaceholderText(context
                                    ? tr("No documents yet.")

@@ -163,6 +163,21 @@ TEST_F(WindowTest, SelectionChangesRelabelTheToolbarShortlyAfter)
     EXPECT_EQ(controllers->gui().deleteToolbarLabel(), QStringLiteral("Delete Quote"));
 }
 
+TEST_F(WindowTest, LaunchOpensOnTheFirstListedDocumentUnlessOneIsSelected)
+{
+    controllers->gui().selectFirstDocumentAtLaunch();
+    EXPECT_EQ(state.currentInvoice(), nullptr);
+    document(1);
+    ManagedObject* second = document(1);
+    controllers->gui().sortListBy(key::date, false);
+    state.invoicesController().setSelectedObjects({});
+    controllers->gui().selectFirstDocumentAtLaunch();
+    EXPECT_EQ(state.currentInvoice(), state.invoicesController().arrangedObjects().value(0));
+    select(second);
+    controllers->gui().selectFirstDocumentAtLaunch();
+    EXPECT_EQ(state.currentInvoice(), second);
+}
+
 TEST_F(WindowTest, OnlyTheCurrentDocumentsChangesReachThePages)
 {
     ManagedObject* current = document(1);
