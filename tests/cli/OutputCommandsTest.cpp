@@ -21,9 +21,11 @@ protected:
         ok({"item", "add", id, "title=Logo design", "baseAmount=95", "unitCount=12"});
         return id;
     }
-    // No placeholder of the design is left in the page.
-    static void expectFinished(const QString& html)
+    // The page holds these texts and no placeholder of the design is left in it.
+    static void expectPage(const QString& html, std::initializer_list<const char*> texts)
     {
+        for (const char* text : texts)
+            EXPECT_TRUE(html.contains(QLatin1String(text))) << text;
         static const QRegularExpression leftover("%[A-Z][A-Z0-9]*%");
         EXPECT_FALSE(leftover.match(html).hasMatch()) << leftover.match(html).captured().toStdString();
     }
@@ -32,16 +34,12 @@ protected:
 TEST_F(OutputCommandsTest, HtmlIsTheDocumentInTheDefaultDesign)
 {
     const QString id = make("invoice", "INV-7");
-    const QString html = ok({"html", id}).out;
-    for (const char* text : {"INV-7", "Brand workshop", "Logo design", "1,200.00"})
-        EXPECT_TRUE(html.contains(QLatin1String(text))) << text;
-    expectFinished(html);
+    expectPage(ok({"html", id}).out, {"INV-7", "Brand workshop", "Logo design", "1,200.00"});
 
-    const QString reminder = ok({"html", id, "--reminder", "--title", "Second Notice", "--conditions",
-                                 "Pay now\nplease", "--footer", "Thanks"})
-                                 .out;
-    for (const char* text : {"Second Notice", "Pay now<br />please", "Overdue Since"})
-        EXPECT_TRUE(reminder.contains(QLatin1String(text))) << text;
+    expectPage(ok({"html", id, "--reminder", "--title", "Second Notice", "--conditions", "Pay now\nplease",
+                   "--footer", "Thanks"})
+                   .out,
+               {"Second Notice", "Pay now<br />please", "Overdue Since"});
     // Without texts the reminder sheet's own come in.
     EXPECT_TRUE(ok({"html", id, "--reminder"}).out.contains("Payment Reminder"));
 
@@ -102,10 +100,7 @@ TEST_F(OutputCommandsTest, AllListedDocumentsAreNamedByTheirJobTitles)
 
 TEST_F(OutputCommandsTest, DesignPreviewShowsTheSampleDocument)
 {
-    const QString html = ok({"design", "preview-html"}).out;
-    for (const char* text : {"Erin Holloway", "A Lot of Things", "Brand Workshop"})
-        EXPECT_TRUE(html.contains(QLatin1String(text))) << text;
-    expectFinished(html);
+    expectPage(ok({"design", "preview-html"}).out, {"Erin Holloway", "A Lot of Things", "Brand Workshop"});
 }
 
 // vorn-cli einvoice: refused with the missing field named and nothing
