@@ -50,6 +50,8 @@ void threeItems(OutputFixture& f, ManagedObject* d)
         f.addItem(d, "title", title, "unitCount", 1.0f, "amount", 10.0f);
 }
 
+const char* const reminderPage = "%LETTERTITLE%|%LOCDUE%|%CONDITIONS%|%FOOTER%|%LOCREMINDER%";
+
 // What the golden pages pin (every token filled) is not repeated here.
 const PageCase pageCases[] = {
     {"no tokens", "<p>plain 100% text</p>", "", {}, "<p>plain 100% text</p>"},
@@ -88,6 +90,28 @@ const PageCase pageCases[] = {
          f.state.itemsController().setSortDescriptors({{"title", false}});
      },
      "[1:Charlie;2:Bravo;3:Alpha;]"},
+    // Every row token of an item without values (and without the number label):
+    // zeros and empty texts. The golden pages pin the rows of full items.
+    {"an empty item fills every row token with nothing", "%ITEMSLIST%",
+     "%ITEMNUMBER%|%ITEMSQUANTITY% %ITEMSUNIT%|%ITEMSBASEAMOUNT%|%ITEMSSKU%|%ITEMSSUBAMOUNT%|"
+     "%ITEMSTITLE%/%ITEMSSUBTITLE%|%ITEMSAMOUNT%|1[%ITEMSTAX1TITLE% %ITEMSTAX1PERCENT% %ITEMSTAX1AMOUNT%]"
+     "2[%ITEMSTAX2TITLE% %ITEMSTAX2PERCENT% %ITEMSTAX2AMOUNT%]3[%ITEMSTAX3TITLE% %ITEMSTAX3PERCENT% "
+     "%ITEMSTAX3AMOUNT%]|%LOCSHORTNUMBER% %LOCUNIT%|%CURRENCY%",
+     [](OutputFixture& f, ManagedObject* d) {
+         f.addItem(d);
+         f.settings.removeValue("locNo");
+     },
+     "1|0 |0.00||0.00|/|0.00|1[  ]2[  ]3[  ]| {locUnit}|EUR"},
+    {"a reminder takes the sheet's texts and the overdue label", reminderPage, "",
+     [](OutputFixture& f, ManagedObject* d) {
+         assign(*d, "kind", 0, "conditions", "doc", "footer", "doc");
+         f.preview.setReminderTexts({"Reminder", "Please pay\nnow", "Thanks"});
+         f.state.isReminderAction = true;
+     },
+     "Reminder|{locOverdue}|Please pay<br />now|Thanks|{locReminder}"},
+    {"a quote without the reminder keeps its own", reminderPage, "",
+     with("kind", 0, "title", "Quote", "conditions", "doc", "footer", "doc"),
+     "Quote|{locExpiration}|doc|doc|{locReminder}"},
 };
 
 INSTANTIATE_TEST_SUITE_P(Cases, PageTemplates, ::testing::ValuesIn(pageCases));
@@ -95,24 +119,6 @@ INSTANTIATE_TEST_SUITE_P(Cases, PageTemplates, ::testing::ValuesIn(pageCases));
 class TemplateEdges : public OutputFixture
 {
 };
-
-// Every row token of an item without values (and without the number label):
-// zeros and empty texts. The golden pages pin the rows of full items.
-TEST_F(TemplateEdges, AnEmptyItemFillsEveryRowTokenWithNothing)
-{
-    addDesign(
-        "%ITEMSLIST%",
-        QStringLiteral(
-            "%ITEMNUMBER%|%ITEMSQUANTITY% %ITEMSUNIT%|%ITEMSBASEAMOUNT%|%ITEMSSKU%|%ITEMSSUBAMOUNT%|"
-            "%ITEMSTITLE%/%ITEMSSUBTITLE%|%ITEMSAMOUNT%|1[%ITEMSTAX1TITLE% %ITEMSTAX1PERCENT% "
-            "%ITEMSTAX1AMOUNT%]2[%ITEMSTAX2TITLE% %ITEMSTAX2PERCENT% %ITEMSTAX2AMOUNT%]3[%ITEMSTAX3TITLE% "
-            "%ITEMSTAX3PERCENT% %ITEMSTAX3AMOUNT%]|%LOCSHORTNUMBER% %LOCUNIT%|%CURRENCY%"));
-    ManagedObject* document = addDocument(1);
-    addItem(document);
-    settings.removeValue("locNo");
-    select(document);
-    EXPECT_EQ(html(), "1|0 |0.00||0.00|/|0.00|1[  ]2[  ]3[  ]| {locUnit}|EUR");
-}
 
 TEST(TemplateReplace, RepeatsUntilTheTokenIsGoneAndEndsOnSelfReference)
 {
@@ -146,17 +152,6 @@ TEST_F(TemplateEdges, LogoFileIsWrittenAsPngEvenWithoutTheToken)
     const QByteArray png = fileBytes(locations.logoCache());
     EXPECT_TRUE(png.startsWith("\x89PNG"));
     EXPECT_EQ(QImage::fromData(png).size(), QSize(12, 6));
-}
-
-TEST_F(TemplateEdges, ReminderTakesTheSheetsTextsAndTheOverdueLabel)
-{
-    addDesign("%LETTERTITLE%|%LOCDUE%|%CONDITIONS%|%FOOTER%|%LOCREMINDER%", {});
-    select(addDocument(0, "conditions", "doc", "footer", "doc"));
-    preview.setReminderTexts({"Reminder", "Please pay\nnow", "Thanks"});
-    state.isReminderAction = true;
-    EXPECT_EQ(html(), "Reminder|{locOverdue}|Please pay<br />now|Thanks|{locReminder}");
-    state.isReminderAction = false;
-    EXPECT_EQ(html(), "Quote|{locExpiration}|doc|doc|{locReminder}");
 }
 
 TEST_F(TemplateEdges, MissingDesignOrPageTemplateGivesAClearPage)
