@@ -54,14 +54,13 @@ const char* const reminderPage = "%LETTERTITLE%|%LOCDUE%|%CONDITIONS%|%FOOTER%|%
 
 // What the golden pages pin (every token filled) is not repeated here.
 const PageCase pageCases[] = {
-    {"no tokens", "<p>plain 100% text</p>", "", {}, "<p>plain 100% text</p>"},
-    {"a token several times", "%NUMBER%/%NUMBER% %NUMBER%", "", {}, "INV-2025-17/INV-2025-17 INV-2025-17"},
-    {"tokens are case-sensitive", "%number% %Number%", "", {}, "%number% %Number%"},
-    {"css first, so tokens in it are filled", "<style>%CSS%</style>", "", {}, "<style>/* css */</style>"},
-    {"absent texts are empty",
-     "[%DISPATCHED%|%CLIENTNUMBER%|%SUBJECT%|%CONDITIONS%|%FOOTER%]",
-     "",
-     {},
+    {"no tokens", "<p>plain 100% text</p>", "", nullptr, "<p>plain 100% text</p>"},
+    {"a token several times", "%NUMBER%/%NUMBER% %NUMBER%", "", nullptr,
+     "INV-2025-17/INV-2025-17 INV-2025-17"},
+    {"tokens are case-sensitive", "%number% %Number%", "", nullptr, "%number% %Number%"},
+    {"css first, so tokens in it are filled", "<style>%CSS%</style>", "", nullptr,
+     "<style>/* css */</style>"},
+    {"absent texts are empty", "[%DISPATCHED%|%CLIENTNUMBER%|%SUBJECT%|%CONDITIONS%|%FOOTER%]", "", nullptr,
      "[||||]"},
     {"discount off leaves only the template's text", "[%LOCDISCOUNT%|%DISCOUNTKINDCHAR%|%DISCOUNT%]", "",
      with("isDiscountEnabled", false, "discountAmount", 5.0f), "[||]"},
@@ -83,7 +82,7 @@ const PageCase pageCases[] = {
      "[<small><small>Please provide a 'Logo Image' in the Preferences<br />or remove the 'LOGO' substitute "
      "from the "
      "design/template.</small></small>]"},
-    {"no items, no rows", "[%ITEMSLIST%]", "<tr>%ITEMSTITLE%</tr>", {}, "[]"},
+    {"no items, no rows", "[%ITEMSLIST%]", "<tr>%ITEMSTITLE%</tr>", nullptr, "[]"},
     {"rows follow the item list's sort order", "[%ITEMSLIST%]", "%ITEMNUMBER%:%ITEMSTITLE%;",
      [](OutputFixture& f, ManagedObject* d) {
          threeItems(f, d);
