@@ -186,52 +186,40 @@ TEST_F(DesignTest, NewAndDuplicatedDesignsAreSelectedButNotDefault)
         EXPECT_EQ(copy->stringValue(key), original->stringValue(key));
 }
 
-struct DeleteCase
+// The default design is refused; another goes only once the user confirms,
+// the last row too.
+TEST_F(DesignTest, DeletingRefusesTheDefaultAndAsksForOthers)
 {
-    const char* name;
-    QString selected;
-    int answer; // button chosen in the confirmation
-    bool deleted;
-};
-
-class DesignDelete : public DesignTest, public ::testing::WithParamInterface<DeleteCase>
-{
-};
-
-TEST_P(DesignDelete, DefaultIsRefusedOthersGoAfterConfirming)
-{
-    const DeleteCase& c = GetParam();
     seed();
-    ManagedObject* target = select(c.selected);
-    ui.answerAlert(c.answer);
-    designs.deleteDesign();
-
-    const bool isDefault = c.selected == "Classic";
-    ASSERT_EQ(ui.calls("alert").size(), 1);
     const QStringList refused{"Error!", "You can't delete the default design.", "OK"};
-    const QStringList confirm{
-        "Delete Design",
-        "Deleting designs is permanent and cannot be undone. Do you really want to delete "
-        "the selected design?",
-        "Delete|Cancel"};
-    EXPECT_EQ(shown(ui.calls("alert")[0]), isDefault ? refused : confirm);
-    EXPECT_EQ(ui.calls("beep").size(), isDefault ? 1 : 0);
-    EXPECT_EQ(context.fetch(Entity::Design).size(), c.deleted ? 8 : 9);
-    EXPECT_EQ(context.fetch(Entity::Design).contains(target), !c.deleted);
-    EXPECT_EQ(listedTitles().contains(c.selected), !c.deleted);
-    EXPECT_FALSE(context.hasChanges());
-    EXPECT_EQ(defaultCount(), 1);
-    if (c.deleted) {
-        EXPECT_EQ(settings.intValue("selectedDesign"), list.selectionIndex());
+    const QStringList confirm{"Delete Design",
+                              "Deleting designs is permanent and cannot be undone. Do you really want to "
+                              "delete the selected design?",
+                              "Delete|Cancel"};
+    const std::tuple<const char*, int, bool> cases[] = {
+        {"Classic", 0, false}, {"Elegant", 1, false}, {"Elegant", 0, true}, {"Playful", 0, true}};
+    qsizetype remaining = 9;
+    for (const auto& [title, answer, deleted] : cases) {
+        SCOPED_TRACE(std::string(title) + (answer ? " cancelled" : " confirmed"));
+        ui.clear();
+        ManagedObject* target = select(title);
+        ui.answerAlert(answer);
+        designs.deleteDesign();
+        remaining -= deleted ? 1 : 0;
+        const bool isDefault = QString(title) == "Classic";
+        ASSERT_EQ(ui.calls("alert").size(), 1);
+        EXPECT_EQ(shown(ui.calls("alert")[0]), isDefault ? refused : confirm);
+        EXPECT_EQ(ui.calls("beep").size(), isDefault ? 1 : 0);
+        EXPECT_EQ(context.fetch(Entity::Design).size(), remaining);
+        EXPECT_EQ(context.fetch(Entity::Design).contains(target), !deleted);
+        EXPECT_EQ(listedTitles().contains(title), !deleted);
+        EXPECT_FALSE(context.hasChanges());
+        EXPECT_EQ(defaultCount(), 1);
+        if (deleted) {
+            EXPECT_EQ(settings.intValue("selectedDesign"), list.selectionIndex());
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(Cases, DesignDelete,
-                         ::testing::Values(DeleteCase{"defaultConfirmed", "Classic", 0, false},
-                                           DeleteCase{"otherConfirmed", "Elegant", 0, true},
-                                           DeleteCase{"otherCancelled", "Elegant", 1, false},
-                                           DeleteCase{"lastConfirmed", "Playful", 0, true}),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 TEST_F(DesignTest, MakeDefaultMovesTheMarkAndTheRowToTheTop)
 {
