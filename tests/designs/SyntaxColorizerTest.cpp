@@ -253,33 +253,26 @@ QString runsByLine(const SyntaxColorizer& c)
     return out;
 }
 
-class GoldenTest : public ::testing::TestWithParam<const char*>
+TEST(SyntaxColorizerTest, ColourRunsMatchTheGoldenFiles)
 {
-};
-
-TEST_P(GoldenTest, ColourRunsMatchTheGoldenFile)
-{
-    const QString source = QString(VORN_SOURCE_DIR "/resources/designs/") + GetParam();
-    const QString text = test::readText(source);
-    ASSERT_FALSE(text.isEmpty()) << source.toStdString();
-    const QString language =
-        source.endsWith(".css") ? SyntaxDefinition::cssPath() : SyntaxDefinition::htmlPath();
-    SyntaxColorizer c(SyntaxDefinition::load(language, nullptr));
-    ASSERT_FALSE(c.definition().isPlainText());
-    c.setText(text);
-    const QString actual = runsByLine(c);
-    const QString golden =
-        QString(VORN_SOURCE_DIR "/tests/designs/golden/") + QString(GetParam()).replace('/', '-') + ".runs";
-    if (qEnvironmentVariableIntValue("VORN_UPDATE_GOLDEN")) {
-        test::writeFile(golden, actual.toUtf8());
-        FAIL() << "wrote " << golden.toStdString()
-               << "; review the difference, then run without VORN_UPDATE_GOLDEN";
+    for (const QString file : {"Temp001/invoice.html", "Temp001/style.css", "CSS.css"}) {
+        SCOPED_TRACE(file.toStdString());
+        const QString text = test::readText(VORN_SOURCE_DIR "/resources/designs/" + file);
+        ASSERT_FALSE(text.isEmpty());
+        SyntaxColorizer c(SyntaxDefinition::load(
+            file.endsWith(".css") ? SyntaxDefinition::cssPath() : SyntaxDefinition::htmlPath(), nullptr));
+        ASSERT_FALSE(c.definition().isPlainText());
+        c.setText(text);
+        const QString actual = runsByLine(c);
+        const QString golden =
+            VORN_SOURCE_DIR "/tests/designs/golden/" + QString(file).replace('/', '-') + ".runs";
+        if (qEnvironmentVariableIntValue("VORN_UPDATE_GOLDEN")) {
+            test::writeFile(golden, actual.toUtf8());
+            ADD_FAILURE() << "wrote " << golden.toStdString()
+                          << "; review the difference, then run without VORN_UPDATE_GOLDEN";
+        }
+        EXPECT_EQ(actual.toStdString(), test::readText(golden).toStdString());
     }
-    EXPECT_EQ(actual.toStdString(), test::readText(golden).toStdString()) << golden.toStdString();
 }
-
-INSTANTIATE_TEST_SUITE_P(BuiltInDesigns, GoldenTest,
-                         ::testing::Values("Temp001/invoice.html", "Temp001/style.css", "CSS.css"),
-                         [](const auto& info) { return "file" + std::to_string(info.index); });
 
 } // namespace
