@@ -8,7 +8,6 @@
 #include "tests/support/TestValues.h"
 
 #include <QFile>
-#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QProcess>
@@ -56,45 +55,22 @@ QByteArray fileData(const QString& name)
 
 } // namespace
 
-TEST(KeyedArchive, LayoutIsTheKeyedArchiversOwn)
+// The header and the dates are checked by the independent reader below, the
+// round trip by the serialization tests; here what keeps archives small and
+// readable by the platform's own unarchiver: one record per class, with its
+// class chain, and equal strings stored once.
+TEST(KeyedArchive, SharesClassRecordsAndEqualStrings)
 {
     const QVariantMap tree{
-        {"a", "x"}, {"d", utc(2001, 1, 2, 0, 0, 1, 500)}, {"l", QVariantList{qint64(1), 2.5f, "x"}}};
-    auto plist = PropertyList::read(KeyedArchive::archive(tree));
-    ASSERT_TRUE(plist.ok());
-    ASSERT_TRUE(QByteArray(KeyedArchive::archive(tree)).startsWith("bplist00"));
-    const QVariantMap root = plist.value().toMap();
-    EXPECT_EQ(root.value("$archiver"), QVariant(QStringLiteral("NSKeyedArchiver")));
-    EXPECT_EQ(root.value("$version"), QVariant(qint64(100000)));
-    EXPECT_EQ(root.value("$top"), QVariant(QVariantMap{{"root", uid(1)}}));
-
-    // Containers take their slot first, members follow, the class record
-    // comes last and is shared; equal strings are stored once.
-    const QVariantList expected{
-        "$null",
-        QVariantMap{{"NS.keys", QVariantList{uid(2), uid(3), uid(4)}},
-                    {"NS.objects", QVariantList{uid(5), uid(6), uid(8)}},
-                    {"$class", uid(12)}},
-        "a",
-        "d",
-        "l",
-        "x",
-        QVariantMap{{"NS.time", 86401.5}, {"$class", uid(7)}},
-        classRecord("NSDate", {"NSDate", "NSObject"}),
-        QVariantMap{{"NS.objects", QVariantList{uid(9), uid(10), uid(5)}}, {"$class", uid(11)}},
-        qint64(1),
-        2.5,
-        classRecord("NSArray", {"NSArray", "NSObject"}),
-        classRecord("NSMutableDictionary", {"NSMutableDictionary", "NSDictionary", "NSObject"}),
-    };
-    const QVariantList objects = root.value("$objects").toList();
-    ASSERT_EQ(objects.size(), expected.size());
-    for (qsizetype i = 0; i < expected.size(); ++i)
-        EXPECT_EQ(objects[i], expected[i]) << "object " << i;
-
-    auto back = KeyedArchive::unarchive(KeyedArchive::archive(tree));
-    ASSERT_TRUE(back.ok());
-    EXPECT_EQ(back.value(), QVariant(tree));
+        {"a", "x"}, {"b", "x"}, {"d", now}, {"l", QVariantList{QVariantList{"x"}, QVariantList{}}}};
+    const QByteArray data = KeyedArchive::archive(tree);
+    ASSERT_TRUE(data.startsWith("bplist00"));
+    const QVariantList objects = PropertyList::read(data).value().toMap().value("$objects").toList();
+    EXPECT_EQ(objects.count(QVariant("x")), 1);
+    for (const QVariantMap& record :
+         {classRecord("NSDate", {"NSDate", "NSObject"}), classRecord("NSArray", {"NSArray", "NSObject"}),
+          classRecord("NSMutableDictionary", {"NSMutableDictionary", "NSDictionary", "NSObject"})})
+        EXPECT_EQ(objects.count(record), 1) << record.value("$classname").toString().toStdString();
 }
 
 TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriterAndPlainPropertyLists)
@@ -113,15 +89,10 @@ TEST(KeyedArchive, ReadsAnArchiveMadeByAnotherWriterAndPlainPropertyLists)
     EXPECT_EQ(fields(*document->items()[1], {"title", "unitCount", "baseAmount", "isTax1Applied"}),
               "Hosting|12|4.75|false");
 
-    auto design = InterchangeFile::readDesignFile(dataDir + "/python-design.design");
-    ASSERT_TRUE(design.ok());
-    EXPECT_EQ(fields(design.value(), {"class", "title", "isDefault"}), "Design|From Python|true");
-
     // Plain property lists are read too.
     auto plain = InterchangeFile::readDocumentFile(dataDir + "/plain-document.vorn");
     ASSERT_TRUE(plain.ok()) << plain.error().fullText().toStdString();
-    EXPECT_EQ(plain.value().value("number").toString(), "Q-7");
-    EXPECT_EQ(plain.value().value("date").toDateTime(), utc(2026, 1, 5, 8));
+    EXPECT_EQ(fields(plain.value(), {"number", "date"}), "Q-7|2026-01-05T08:00:00.000Z");
     EXPECT_EQ(plain.value().value("items").toList().size(), 1);
 }
 
@@ -148,22 +119,23 @@ TEST(KeyedArchive, DocumentFileReadsBackWithAnIndependentReader)
     process.start(python, {dataDir + "/read_archive.py", path});
     ASSERT_TRUE(process.waitForFinished(30000));
     ASSERT_EQ(process.exitCode(), 0) << process.readAllStandardError().toStdString();
-    const QJsonObject root = QJsonDocument::fromJson(process.readAllStandardOutput()).object();
-    const QJsonObject dic = root.value("vornDic").toObject();
-    EXPECT_EQ(dic.value("class").toString(), "NSManagedObject");
-    EXPECT_EQ(dic.value("number").toString(), QString::fromUtf8("RE-1 «ü»"));
-    EXPECT_EQ(dic.value("amount").toDouble(), double(34.65f));
-    EXPECT_EQ(dic.value("kind").toInt(), 1);
-    EXPECT_EQ(dic.value("isPaid").toBool(), true);
-    EXPECT_DOUBLE_EQ(dic.value("date").toObject().value("date").toDouble(),
+    const QVariantMap dic = QJsonDocument::fromJson(process.readAllStandardOutput())
+                                .object()
+                                .toVariantMap()
+                                .value("vornDic")
+                                .toMap();
+    EXPECT_EQ(fields(dic, {"class", "number", "amount", "kind", "isPaid"}),
+              QString::fromUtf8("NSManagedObject|RE-1 «ü»|") + QVariant(double(34.65f)).toString() +
+                  "|1|true");
+    // Dates are seconds since 2001-01-01, to the millisecond.
+    EXPECT_DOUBLE_EQ(dic.value("date").toMap().value("date").toDouble(),
                      (utc(2026, 2, 14, 9, 30, 12, 250).toMSecsSinceEpoch() - 978307200000LL) / 1000.0);
-    EXPECT_EQ(dic.value("misc5").toObject().value("date").toDouble(), (now.toSecsSinceEpoch() - 978307200.0));
-    const QJsonArray items = dic.value("items").toArray();
+    EXPECT_EQ(dic.value("misc5").toMap().value("date").toDouble(), (now.toSecsSinceEpoch() - 978307200.0));
+    const QVariantList items = dic.value("items").toList();
     ASSERT_EQ(items.size(), 2);
-    EXPECT_EQ(items[0].toObject().value("title").toString(), "First");
-    EXPECT_EQ(items[1].toObject().value("title").toString(), "Second");
-    EXPECT_EQ(items[1].toObject().value("misc3").toDouble(), double(0.1f));
-    EXPECT_FALSE(items[0].toObject().contains("invoice"));
+    EXPECT_EQ(fields(items[1].toMap(), {"title", "misc3"}), "Second|" + QVariant(double(0.1f)).toString());
+    EXPECT_EQ(items[0].toMap().value("title"), "First");
+    EXPECT_FALSE(items[0].toMap().contains("invoice"));
 }
 
 // ---------------------------------------------------------------------------
@@ -216,6 +188,17 @@ QByteArray nestedUidArrays(int depth)
         objects.append(array({uid(quint64(objects.size() + 1))}, uid(1)));
     objects.append("bottom");
     return archiveOf(objects, uid(2));
+}
+
+// A document with one item, as a file would hold it.
+ManagedObject* documentWithItem(ObjectContext& context)
+{
+    ManagedObject* document = context.insertNewObject(Entity::Invoice);
+    assign(*document, "number", "RE-1", "amount", 12.5f);
+    ManagedObject* item = context.insertNewObject(Entity::Item);
+    item->setValue("title", "Work");
+    document->insertObject("items", item);
+    return document;
 }
 
 struct HostileCase
@@ -298,12 +281,7 @@ TEST(HostileDocumentFile, EveryTruncationAndEveryFlippedByteIsSurvived)
     // truncated file is always refused.
     FixedClock clock(now);
     ObjectContext source(nullptr, clock);
-    ManagedObject* document = source.insertNewObject(Entity::Invoice);
-    assign(*document, "number", "RE-1", "amount", 12.5f);
-    ManagedObject* item = source.insertNewObject(Entity::Item);
-    item->setValue("title", "Work");
-    document->insertObject("items", item);
-    const QByteArray file = InterchangeFile::documentFileData(*document);
+    const QByteArray file = InterchangeFile::documentFileData(*documentWithItem(source));
 
     ObjectContext target(nullptr, clock);
     for (qsizetype length = 0; length < file.size(); ++length)
@@ -325,10 +303,8 @@ TEST(HostileDocumentFile, WrongTypeAtAnyKeyIsRefused)
 {
     FixedClock clock(now);
     ObjectContext source(nullptr, clock);
-    ManagedObject* document = source.insertNewObject(Entity::Invoice);
-    ManagedObject* item = source.insertNewObject(Entity::Item);
-    document->insertObject("items", item);
-    for (ManagedObject* o : {document, item}) {
+    ManagedObject* document = documentWithItem(source);
+    for (ManagedObject* o : {document, document->items()[0]}) {
         const auto& attributes = o->entity().attributes();
         for (int i = 0; i < int(attributes.size()); ++i)
             if (!o->value(i).isValid())
