@@ -88,12 +88,10 @@ TEST_F(DesignTest, FirstStartSeedsNineDesignsWithTheFirstAsDefault)
     EXPECT_FALSE(context.hasChanges());
     // Seeding is where the store starts: there is nothing to undo.
     EXPECT_FALSE(context.undoManager()->canUndo());
+    // Their pages are checked by printing each; here that each has an identity of its own.
     QSet<QString> ids;
-    for (const ManagedObject* d : context.fetch(Entity::Design)) {
+    for (const ManagedObject* d : context.fetch(Entity::Design))
         ids.insert(d->stringValue("uniqueID"));
-        for (const char* key : {"invoice", "item", "css"})
-            EXPECT_FALSE(d->stringValue(key).isEmpty()) << key;
-    }
     EXPECT_EQ(ids.size(), 9);
     EXPECT_FALSE(ids.contains(QString()));
 }
@@ -257,8 +255,7 @@ TEST_F(DesignTest, ExportThenImportGivesASecondDesignThatIsNotDefault)
     ManagedObject* imported = designs.importDesign();
     ASSERT_NE(imported, nullptr);
     ASSERT_EQ(ui.calls("open").size(), 1);
-    EXPECT_EQ(ui.calls("open")[0].title, "Import Vorn Design");
-    EXPECT_EQ(ui.calls("open")[0].buttons, QStringList{"design"});
+    EXPECT_EQ(shown(ui.calls("open")[0]), (QStringList{"Import Vorn Design", "", "design"}));
     EXPECT_NE(imported, original);
     for (const char* key : {"uniqueID", "title", "invoice", "item", "css"})
         EXPECT_EQ(imported->stringValue(key), original->stringValue(key)) << key;
@@ -325,7 +322,6 @@ TEST_F(DesignTest, EditsGoIntoTheShownDesignAndSignalOnlyForTheDefault)
     ManagedObject* other = list.arrangedObjects()[1];
     builder.setTemplateText(*other, EditorCommands::StyleSheetEditor, "body {}");
     EXPECT_EQ(other->stringValue("css"), "body {}");
-    EXPECT_EQ(other->stringValue(DesignBuilder::attributeFor(EditorCommands::StyleSheetEditor)), "body {}");
     EXPECT_EQ(changes, 0);
     ManagedObject* current = designs.currentDesign();
     builder.setTemplateText(*current, EditorCommands::ItemEditor, "<tr></tr>");
