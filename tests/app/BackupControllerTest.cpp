@@ -3,7 +3,6 @@
 #include "store/SqliteStore.h"
 #include "tests/app/AppHarness.h"
 
-#include <QRandomGenerator>
 #include <QRegularExpression>
 
 #include <csignal>
@@ -400,15 +399,7 @@ TEST_P(RestoreRefusal, LeavesTheLiveStoreAndPendingEditsIntact)
     EXPECT_EQ(leftovers(storeFolder()), "");
 }
 
-QByteArray randomBytes(int size)
-{
-    QByteArray bytes(size, '\0');
-    QRandomGenerator(42).fillRange(reinterpret_cast<quint32*>(bytes.data()), size / 4);
-    return bytes;
-}
-
 const BadSource badSources[] = {
-    {"RandomBytes", ErrorCode::StoreNotVorn, [](auto& p, auto&) { writeFile(p, randomBytes(65536)); }},
     {"EmptyFile", ErrorCode::StoreNotVorn, [](auto& p, auto&) { writeFile(p, {}); }},
     {"MissingFile", ErrorCode::FileNotFound, [](auto& p, auto&) { QFile::remove(p); }},
     {"TruncatedStore", ErrorCode::StoreDamaged,
