@@ -10,7 +10,9 @@
 #include "store/ManagedObject.h"
 
 #include <QHash>
+
 #include <QTimer>
+#include <algorithm>
 
 namespace vorn {
 
@@ -133,6 +135,25 @@ bool DocumentEditor::setItemValue(ManagedObject* item, const QString& key, const
     // document follow when the event loop next turns, once for a burst of edits.
     m_calculator.calculateInvoiceAmounts(doc);
     scheduleListTotals();
+    return true;
+}
+
+bool DocumentEditor::setItemValues(ManagedObject* item, const QList<std::pair<QString, QVariant>>& values)
+{
+    ManagedObject* doc = m_state.currentInvoice();
+    if (!doc || !item || !doc->items().contains(item))
+        return false;
+    if (SentLock::refuse(m_state))
+        return false;
+    const auto changed = std::find_if(values.begin(), values.end(), [item](const auto& kv) {
+        return !sameValue(*item, kv.first, typed(*item, kv.first, kv.second));
+    });
+    if (changed == values.end())
+        return false;
+    ObjectContext* context = m_state.context();
+    UndoGroup group(context ? context->undoManager() : nullptr, actionName(changed->first));
+    for (const auto& [key, value] : values)
+        setItemValue(item, key, value);
     return true;
 }
 

@@ -43,6 +43,10 @@ public:
     // document are recomputed at once, the list totals on the next turn of
     // the event loop.
     bool setItemValue(ManagedObject* item, const QString& key, const QVariant& value);
+    // Several attributes of one line changed by one user action (the title
+    // and subtitle of its cell): one undo step, named after the first that
+    // changes.
+    bool setItemValues(ManagedObject* item, const QList<std::pair<QString, QVariant>>& values);
 
     // The name of the undoable action that changes an attribute.
     static QString actionName(const QString& key);

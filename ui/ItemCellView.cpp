@@ -124,11 +124,8 @@ void ItemCellView::setModelData(QWidget* editor, QAbstractItemModel* model, cons
     QLineEdit* title = field(editor, 0);
     if (!title)
         return QStyledItemDelegate::setModelData(editor, model, index);
-    // Each line is its own undoable change, and only when it changed.
-    if (title->text() != index.data(Qt::EditRole).toString())
-        model->setData(index, title->text(), Qt::EditRole);
-    if (const QString subtitle = field(editor, 1)->text(); subtitle != index.data(SubtitleRole).toString())
-        model->setData(index, subtitle, SubtitleRole);
+    // One edit of the cell is one undoable change of the lines that changed.
+    model->setData(index, QStringList{title->text(), field(editor, 1)->text()}, TitleAndSubtitleRole);
 }
 
 void ItemCellView::updateEditorGeometry(QWidget* editor, const QStyleOptionViewItem& option,

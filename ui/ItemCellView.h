@@ -16,7 +16,9 @@ class ItemCellView : public QStyledItemDelegate
 public:
     enum Role
     {
-        SubtitleRole = Qt::UserRole + 40
+        SubtitleRole = Qt::UserRole + 40,
+        // Both lines as one edit (a list of title and subtitle), one undo step.
+        TitleAndSubtitleRole
     };
 
     using QStyledItemDelegate::QStyledItemDelegate;

@@ -146,6 +146,10 @@ bool ItemTableModel::setData(const QModelIndex& index, const QVariant& value, in
         return editor.setItemValue(item, key, value.toInt() == Qt::Checked);
     if (role == ItemCellView::SubtitleRole && index.column() == TitleColumn)
         return editor.setItemValue(item, key::subtitle, value.toString());
+    if (role == ItemCellView::TitleAndSubtitleRole && index.column() == TitleColumn) {
+        const QStringList lines = value.toStringList();
+        return editor.setItemValues(item, {{key::title, lines.value(0)}, {key::subtitle, lines.value(1)}});
+    }
     if (role != Qt::EditRole)
         return false;
     if (index.column() == QuantityColumn || index.column() == PriceColumn)

@@ -68,6 +68,15 @@ TEST_F(DocumentEditorTest, EditsRecalculateAndUndoAsOneNamedStep)
     EXPECT_FLOAT_EQ(line->floatValue(key::unitCount), 0.0f);
     EXPECT_FLOAT_EQ(doc->floatValue(key::amount), 0.0f);
 
+    // Title and subtitle edited together: one step, named after the title.
+    ASSERT_TRUE(editor().setItemValues(
+        line, {{key::title, QStringLiteral("Design")}, {key::subtitle, QStringLiteral("Logo")}}));
+    EXPECT_EQ(undo().undoActionName(), DocumentEditor::actionName(key::title));
+    EXPECT_FALSE(editor().setItemValues(
+        line, {{key::title, QStringLiteral("Design")}, {key::subtitle, QStringLiteral("Logo")}}));
+
+    undo().undo();
+    EXPECT_EQ(line->stringValue(key::title) + line->stringValue(key::subtitle), QString());
     undo().undo();
     EXPECT_FLOAT_EQ(line->floatValue(key::unitCount), 2.0f);
     undo().undo();
