@@ -1,10 +1,19 @@
 #include "ui/VornApplication.h"
 
 #include <QFileOpenEvent>
+#include <QIcon>
 
 namespace vorn {
 
 VornApplication::VornApplication(int& argc, char** argv) : QApplication(argc, argv) {}
+
+void VornApplication::installIconThemes()
+{
+    const QString own = QStringLiteral("vorn");
+    QIcon::setFallbackThemeName(own);
+    if (QIcon::themeName().isEmpty())
+        QIcon::setThemeName(own);
+}
 
 void VornApplication::setFileOpenHandler(std::function<void(const QString&)> handler)
 {

@@ -18,6 +18,13 @@ public:
 
     void setFileOpenHandler(std::function<void(const QString&)> handler);
 
+    // Icons the desktop's theme lacks come from Vorn's own theme, so that
+    // every toolbar shows one size and style. Where the platform names no
+    // theme at all (no desktop, the offscreen platform), Vorn's own is the
+    // theme: a fallback alone is not consulted then. Call once the
+    // application object exists.
+    static void installIconThemes();
+
 protected:
     bool event(QEvent* event) override;
 

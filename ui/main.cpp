@@ -36,10 +36,8 @@ int main(int argc, char** argv)
     // The preview and every output command lay documents out in a web engine,
     // which must be set up before the application object exists.
     PdfRenderer::prepareProcess(false);
-    // Icons the desktop's theme lacks (or all of them, without a theme) come
-    // from Vorn's own theme, so that every toolbar shows one size and style.
-    QIcon::setFallbackThemeName(QStringLiteral("vorn"));
     VornApplication application(argc, argv);
+    VornApplication::installIconThemes();
     QApplication::setApplicationName(QStringLiteral("Vorn"));
     QApplication::setApplicationDisplayName(QStringLiteral("Vorn"));
     QApplication::setOrganizationDomain(QStringLiteral("tandrelo.com"));
