@@ -10,9 +10,7 @@
 #include "store/ManagedObject.h"
 
 #include <QHash>
-
 #include <QTimer>
-#include <algorithm>
 
 namespace vorn {
 
@@ -120,22 +118,7 @@ bool DocumentEditor::setDocumentDay(const QString& key, const QDate& day)
 
 bool DocumentEditor::setItemValue(ManagedObject* item, const QString& key, const QVariant& value)
 {
-    ManagedObject* doc = m_state.currentInvoice();
-    if (!doc || !item || !doc->items().contains(item))
-        return false;
-    if (SentLock::refuse(m_state))
-        return false;
-    const QVariant v = typed(*item, key, value);
-    if (sameValue(*item, key, v))
-        return false;
-    ObjectContext* context = m_state.context();
-    UndoGroup group(context ? context->undoManager() : nullptr, actionName(key));
-    item->setValue(key, v);
-    // The line and its document at once; the list totals over every listed
-    // document follow when the event loop next turns, once for a burst of edits.
-    m_calculator.calculateInvoiceAmounts(doc);
-    scheduleListTotals();
-    return true;
+    return setItemValues(item, {{key, value}});
 }
 
 bool DocumentEditor::setItemValues(ManagedObject* item, const QList<std::pair<QString, QVariant>>& values)
@@ -145,15 +128,20 @@ bool DocumentEditor::setItemValues(ManagedObject* item, const QList<std::pair<QS
         return false;
     if (SentLock::refuse(m_state))
         return false;
-    const auto changed = std::find_if(values.begin(), values.end(), [item](const auto& kv) {
-        return !sameValue(*item, kv.first, typed(*item, kv.first, kv.second));
-    });
-    if (changed == values.end())
+    QList<std::pair<QString, QVariant>> changes;
+    for (const auto& [key, value] : values)
+        if (QVariant v = typed(*item, key, value); !sameValue(*item, key, v))
+            changes.append({key, std::move(v)});
+    if (changes.isEmpty())
         return false;
     ObjectContext* context = m_state.context();
-    UndoGroup group(context ? context->undoManager() : nullptr, actionName(changed->first));
-    for (const auto& [key, value] : values)
-        setItemValue(item, key, value);
+    UndoGroup group(context ? context->undoManager() : nullptr, actionName(changes.first().first));
+    for (const auto& [key, value] : std::as_const(changes))
+        item->setValue(key, value);
+    // The line and its document at once; the list totals over every listed
+    // document follow when the event loop next turns, once for a burst of edits.
+    m_calculator.calculateInvoiceAmounts(doc);
+    scheduleListTotals();
     return true;
 }
 

@@ -7,9 +7,9 @@ namespace vorn {
 // The title cell of a document's items list: the item's title on the first
 // line, its subtitle (the second line of the item) beneath it in a smaller
 // grey. The model gives the title under the display and edit roles and the
-// subtitle under SubtitleRole, and takes both back through setData. The
-// editor holds both lines; the title takes the keyboard first, Tab moves to
-// the subtitle.
+// subtitle under SubtitleRole, and takes both back as one edit under
+// TitleAndSubtitleRole. The editor holds both lines; the title takes the
+// keyboard first, Tab moves to the subtitle.
 class ItemCellView : public QStyledItemDelegate
 {
     Q_OBJECT

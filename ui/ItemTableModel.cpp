@@ -144,8 +144,6 @@ bool ItemTableModel::setData(const QModelIndex& index, const QVariant& value, in
     DocumentEditor& editor = m_app.invoicing().editor();
     if (role == Qt::CheckStateRole)
         return editor.setItemValue(item, key, value.toInt() == Qt::Checked);
-    if (role == ItemCellView::SubtitleRole && index.column() == TitleColumn)
-        return editor.setItemValue(item, key::subtitle, value.toString());
     if (role == ItemCellView::TitleAndSubtitleRole && index.column() == TitleColumn) {
         const QStringList lines = value.toStringList();
         return editor.setItemValues(item, {{key::title, lines.value(0)}, {key::subtitle, lines.value(1)}});
